@@ -1,0 +1,163 @@
+#!/usr/bin/env bash
+# Runs every test of the project, or the kinds that are named, and ends with the count. Benchmarks run
+# only when they are named: a limit that a busy machine misses is no failed test.
+#
+#   ./test.sh [lint] [unit] [wine] [contract] [e2e] [fuzz] [bench]
+#
+#   lint      layout, static analysis, and rules of this code base
+#   unit      unit tests and the in-memory side of the contract suite, with sanitizers
+#   wine      unit tests and the Windows side of the contract suite, as Windows programs
+#   contract  both sides of the contract suite only
+#   e2e       the real program in a real window
+#   fuzz      every fuzz target for a bounded time
+#   bench     benchmarks; a missed limit is a failure
+#
+# ORDALYN_E2E="-k words" and the like is handed to pytest; ORDALYN_FUZZ_SECONDS (10) is the time of
+# one fuzz target.
+set -euo pipefail
+cd "$(dirname "$0")"
+tools/setup.sh build run test
+# shellcheck source=tools/environment.sh
+. tools/environment.sh
+
+passed=0
+failed=0
+readonly COUNTS=build/test-counts
+mkdir -p build
+
+# Every runner adds a line "PASSED FAILED" to this file and ends with 0 when it could run at all.
+count_file() {
+    local one_passed one_failed
+    while read -r one_passed one_failed; do
+        passed=$((passed + one_passed))
+        failed=$((failed + one_failed))
+    done <"$COUNTS"
+}
+
+run_pytest() {
+    local report=build/$1.xml
+    shift
+    rm -f "$report"
+    # pytest ends with 1 when a test fails; the counts tell that, too.
+    /usr/bin/python3 -B -m pytest -p no:cacheprovider -q --junitxml="$report" "$@" || true
+    /usr/bin/python3 tools/pytest_counts.py "$report" >>$COUNTS
+}
+
+build_tests() {
+    configure "$1"
+    cmake --build --preset "$1"
+}
+
+programs_in() {
+    local folder
+    for folder in "$@"; do
+        [ -d "$folder" ] || continue
+        find "$folder" -type f -perm -u+x \( -name 'unit_*' -o -name 'contract*' \) \
+            ! -name '*.o' ! -name '*.obj' ! -name '*.cmake'
+    done | sort
+}
+
+native_tests() {
+    build_tests native-debug
+    programs_in "${@/#/build/native-debug/tests/}" |
+        /usr/bin/python3 tools/run_googletest.py native $COUNTS
+}
+
+windows_tests() {
+    build_tests mingw-x64
+    programs_in "${@/#/build/mingw-x64/tests/}" | grep '\.exe$' |
+        /usr/bin/python3 tools/run_googletest.py wine $COUNTS
+}
+
+kind_lint() {
+    configure native-debug
+    configure mingw-x64
+    run_pytest lint tests/lint
+    /usr/bin/python3 tools/tidy.py $COUNTS
+}
+
+kind_unit() { native_tests unit support contract; }
+kind_wine() { windows_tests unit contract; }
+
+kind_contract() {
+    native_tests contract
+    windows_tests contract
+}
+
+kind_e2e() {
+    ./build.sh x64
+    cmake --build --preset mingw-x64 --target ordalyn_e2e_agent ordalyn_e2e_launch
+    # shellcheck disable=SC2086
+    run_pytest e2e tests/e2e ${ORDALYN_E2E:-}
+}
+
+# targets PRESET PREFIX: the names of a build folder's targets that start so.
+targets() {
+    ninja -C "build/$1" -t targets all | sed -n "s/^\($2[A-Za-z0-9_]*\): phony.*/\1/p" | sort -u
+}
+
+kind_fuzz() {
+    local names=()
+    configure native-fuzz
+    mapfile -t names < <(targets native-fuzz fuzz_)
+    cmake --build --preset native-fuzz --target "${names[@]}"
+    find build/native-fuzz/tests/fuzz -type f -perm -u+x -name 'fuzz_*' | sort |
+        /usr/bin/python3 tools/run_fuzzers.py "${ORDALYN_FUZZ_SECONDS:-10}" $COUNTS
+}
+
+kind_bench() {
+    local names=() program
+    configure native-release
+    mapfile -t names < <(targets native-release bench_)
+    cmake --build --preset native-release --target "${names[@]}"
+    while read -r program; do
+        if "$program"; then echo "1 0" >>$COUNTS; else echo "0 1" >>$COUNTS; fi
+    done < <(find build/native-release/tests/bench -type f -perm -u+x -name 'bench_*' | sort)
+    bench_real_program
+}
+
+# The program itself under Wine, on a log of a million lines.
+bench_real_program() {
+    ./build.sh x64
+    cmake --build --preset mingw-x64 --target ordalyn_e2e_agent ordalyn_e2e_launch
+    cmake --build --preset native-release --target make_log
+    build/native-release/tests/bench/make_log build/million.log
+    if /usr/bin/python3 -B tests/bench/real_program.py build/million.log; then
+        echo "1 0" >>$COUNTS
+    else
+        echo "0 1" >>$COUNTS
+    fi
+}
+
+[ $# -gt 0 ] || set -- lint unit wine e2e fuzz
+for kind in "$@"; do
+    case $kind in
+        lint | unit | wine | contract | e2e | fuzz | bench) ;;
+        *)
+            echo "test.sh: no such kind of test: $kind" >&2
+            exit 2
+            ;;
+    esac
+done
+for kind in "$@"; do
+    echo "=== $kind"
+    start=$SECONDS
+    before_passed=$passed
+    before_failed=$failed
+    : >$COUNTS
+    # A kind that cannot even be built counts as a failure; the other kinds still run. (Not "||":
+    # inside of such a list the shell would go on after a failed command.)
+    set +e
+    (
+        set -e
+        "kind_$kind"
+    )
+    status=$?
+    set -e
+    [ $status -eq 0 ] || echo "0 1" >>$COUNTS
+    count_file
+    echo "--- $kind: $((passed - before_passed)) passed, $((failed - before_failed)) failed," \
+        "$((SECONDS - start)) s"
+done
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ]

@@ -1,0 +1,18 @@
+# shellcheck shell=bash
+# Sourced by the scripts in the root: what all of them need to call CMake and Wine.
+
+# A compiler cache, when there is one, also serves other checkouts of the project.
+if command -v ccache >/dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_NOHASHDIR=1
+fi
+
+# configure PRESET: only once for each build folder; CMake repeats it by itself when needed.
+configure() {
+    local preset=$1
+    [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+        cat "build-$preset.log" >&2
+        rm -f "build-$preset.log"
+        return 1
+    }
+    rm -f "build-$preset.log"
+}

@@ -1,0 +1,156 @@
+#!/usr/bin/env python3
+"""Draws packaging/ordalyn.ico: a log page with coloured lines and an arrow from source to target.
+
+The picture is a list of polygons for each class of sizes, on a field of 16 units (small sizes, whose
+edges lie on pixels) or 32 units (large ones). Nothing but the standard library is needed.
+"""
+import struct
+import sys
+import zlib
+from pathlib import Path
+
+PAGE = (255, 255, 255)
+EDGE = (88, 98, 112)
+FOLD = (205, 214, 224)
+GREEN = (52, 152, 84)
+BLUE = (38, 112, 196)
+ORANGE = (226, 132, 28)
+RED = (206, 62, 54)
+TEXT = (150, 160, 172)
+ARROW = (24, 92, 178)
+HALO = (255, 255, 255)
+
+
+def box(left, top, right, bottom):
+    return [(left, top), (right, top), (right, bottom), (left, bottom)]
+
+
+def page(left, top, right, bottom, fold, edge):
+    """A page with its upper right corner folded."""
+    outer = [(left, top), (right - fold, top), (right, top + fold), (right, bottom), (left, bottom)]
+    inner = [
+        (left + edge, top + edge),
+        (right - fold - edge * 0.4, top + edge),
+        (right - edge, top + fold + edge * 0.4),
+        (right - edge, bottom - edge),
+        (left + edge, bottom - edge),
+    ]
+    corner = [(right - fold, top), (right, top + fold), (right - fold, top + fold)]
+    corner_inner = [
+        (right - fold + edge * 0.6, top + edge * 1.6),
+        (right - edge * 1.6, top + fold - edge * 0.6),
+        (right - fold + edge * 0.6, top + fold - edge * 0.6),
+    ]
+    return [(EDGE, outer), (PAGE, inner), (EDGE, corner), (FOLD, corner_inner)]
+
+
+def arrow(left, middle, right, shaft, head, length):
+    return [
+        (left, middle - shaft), (right - length, middle - shaft), (right - length, middle - head),
+        (right, middle), (right - length, middle + head), (right - length, middle + shaft),
+        (left, middle + shaft),
+    ]
+
+
+def small():
+    """On 16 units."""
+    shapes = page(2, 0, 13, 16, 4, 1)
+    for top, color, end in ((3, GREEN, 8), (5, BLUE, 11), (7, ORANGE, 11)):
+        shapes.append((color, box(4, top, 6, top + 1)))
+        shapes.append((TEXT, box(7, top, end, top + 1)))
+    shapes.append((HALO, arrow(4, 11.5, 17, 2, 4.6, 5)))
+    shapes.append((ARROW, arrow(5, 11.5, 16, 1, 3.5, 4)))
+    return 16, shapes
+
+
+def large():
+    """On 32 units."""
+    shapes = page(4, 1, 26, 31, 7, 1)
+    rows = ((6, GREEN, 16), (9.5, BLUE, 22), (13, ORANGE, 20), (16.5, RED, 22))
+    for top, color, end in rows:
+        shapes.append((color, box(7, top, 10, top + 1.8)))
+        shapes.append((TEXT, box(11.5, top, end, top + 1.8)))
+    shapes.append((HALO, arrow(8.6, 24, 31.9, 2.9, 7, 8.2)))
+    shapes.append((ARROW, arrow(9.6, 24, 30.6, 1.9, 5.5, 7)))
+    return 32, shapes
+
+
+def inside(corners, x, y):
+    hit = False
+    before = corners[-1]
+    for corner in corners:
+        (ax, ay), (bx, by) = corner, before
+        if (ay > y) != (by > y) and x < (bx - ax) * (y - ay) / (by - ay) + ax:
+            hit = not hit
+        before = corner
+    return hit
+
+
+def draw(size):
+    """Rows of (r, g, b, a)."""
+    field, shapes = small() if size < 32 else large()
+    samples = 4
+    unit = field / size
+    rows = []
+    for py in range(size):
+        row = []
+        for px in range(size):
+            total = [0, 0, 0]
+            hits = 0
+            for i in range(samples * samples):
+                x = (px + (i % samples + 0.5) / samples) * unit
+                y = (py + (i // samples + 0.5) / samples) * unit
+                for color, corners in reversed(shapes):
+                    if inside(corners, x, y):
+                        total = [t + c for t, c in zip(total, color)]
+                        hits += 1
+                        break
+            if hits:
+                row.append((*(round(t / hits) for t in total),
+                            round(255 * hits / (samples * samples))))
+            else:
+                row.append((0, 0, 0, 0))
+        rows.append(row)
+    return rows
+
+
+def as_png(rows):
+    def chunk(kind, data):
+        body = kind + data
+        return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
+
+    size = len(rows)
+    raw = b"".join(b"\0" + bytes(v for pixel in row for v in pixel) for row in rows)
+    header = struct.pack(">IIBBBBB", size, size, 8, 6, 0, 0, 0)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(raw, 9)) +
+            chunk(b"IEND", b""))
+
+
+def as_bitmap(rows):
+    size = len(rows)
+    header = struct.pack("<IiiHHIIiiII", 40, size, 2 * size, 1, 32, 0, 0, 0, 0, 0, 0)
+    colors = b"".join(bytes((b, g, r, a)) for row in reversed(rows) for r, g, b, a in row)
+    stride = (size + 31) // 32 * 4
+    mask = b""
+    for row in reversed(rows):
+        bits = 0
+        for _, _, _, a in row:
+            bits = bits << 1 | (a == 0)
+        mask += (bits << (stride * 8 - size)).to_bytes(stride, "big")
+    return header + colors + mask
+
+
+def main():
+    target = Path(sys.argv[1]) if len(sys.argv) > 1 else (
+        Path(__file__).resolve().parent.parent / "packaging" / "ordalyn.ico")
+    images = [(s, as_png(draw(s)) if s == 256 else as_bitmap(draw(s))) for s in (16, 24, 32, 48, 256)]
+    directory = struct.pack("<HHH", 0, 1, len(images))
+    offset = len(directory) + 16 * len(images)
+    for size, data in images:
+        directory += struct.pack("<BBBBHHII", size % 256, size % 256, 0, 0, 1, 32, len(data), offset)
+        offset += len(data)
+    target.write_bytes(directory + b"".join(data for _, data in images))
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+"""Runs the test programs whose paths come in on standard input, shows what fails, and adds the
+counts to a file.
+
+    run_googletest.py native|wine COUNTS < programs
+"""
+
+import concurrent.futures
+import os
+import pathlib
+import re
+import subprocess
+import sys
+
+PROJECT = pathlib.Path(__file__).resolve().parents[1]
+SECONDS_FOR_ONE_PROGRAM = 300
+
+PASSED = re.compile(r"^\[       OK \] (\S+)", re.M)
+FAILED = re.compile(r"^\[  FAILED  \] (\S+?),? .*\(\d+ ms\)$", re.M)
+STARTED = re.compile(r"^\[ RUN      \] (\S+)", re.M)
+
+
+class Result:
+    def __init__(self, program, output, code):
+        self.program = pathlib.Path(program).name
+        self.output = output
+        self.passed = len(PASSED.findall(output))
+        self.failed = len(FAILED.findall(output))
+        # A program that ends by itself in the middle (a sanitizer's finding, a crash, a hang) has
+        # failed in the test that it was in, or before its first.
+        if code != 0 and self.failed == 0:
+            self.failed = 1
+        # So has one that claims success without having run anything.
+        if code == 0 and self.passed == 0:
+            self.failed = 1
+
+    def show(self):
+        print(f"{self.program}: {self.passed} passed, {self.failed} failed", flush=True)
+        if self.failed:
+            quiet = re.compile(r"^\[(       OK | RUN      |----------)\]")
+            print("\n".join(line for line in self.output.splitlines() if not quiet.match(line)))
+            started = STARTED.findall(self.output)
+            if started:
+                print(f"(the last test that was started: {started[-1]})", flush=True)
+
+
+def run(program, command, **options):
+    try:
+        done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                              stdin=subprocess.DEVNULL, timeout=SECONDS_FOR_ONE_PROGRAM,
+                              check=False, **options)
+        return Result(program, done.stdout.decode("utf-8", "replace"), done.returncode)
+    except subprocess.TimeoutExpired as late:
+        output = (late.stdout or b"").decode("utf-8", "replace")
+        return Result(program, output + "\n(ended after a time-out)", -1)
+
+
+def run_native(programs):
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        for result in pool.map(lambda p: run(p, [p, "--gtest_color=no"]), programs):
+            yield result
+
+
+def run_under_wine(programs):
+    sys.path.insert(0, str(PROJECT / "tests" / "e2e"))
+    from harness.display import Display
+    from harness.wine import Wine
+    display = Display()
+    try:
+        wine = Wine(display)
+        try:
+            wine.show_desktop()
+            for program in programs:
+                # One after the other: they share the keyboard focus, the clipboard, the registry.
+                yield run(program, ["wine", program, "--gtest_color=no"],
+                          env=wine.environment())
+        finally:
+            wine.close()
+    finally:
+        display.close()
+
+
+def main():
+    kind, counts = sys.argv[1:]
+    programs = [line.strip() for line in sys.stdin if line.strip()]
+    passed = failed = 0
+    for result in (run_under_wine if kind == "wine" else run_native)(programs):
+        result.show()
+        passed += result.passed
+        failed += result.failed
+    if not programs:
+        print("there are no test programs")
+        failed += 1
+    with open(counts, "a", encoding="ascii") as file:
+        print(passed, failed, file=file)
+
+
+if __name__ == "__main__":
+    main()

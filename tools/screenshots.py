@@ -1,0 +1,151 @@
+#!/usr/bin/env python3
+"""Makes the pictures of the main window and of each dialog in docs/screenshots, with the sample
+installation and the program folder that build.sh made (dist/x64).
+
+    tools/screenshots.py [LANGUAGE ...] [--folder FOLDER] [--dpi N]
+
+A LANGUAGE is the name of a file in languages/ without its ending, or "English".
+"""
+
+import argparse
+import pathlib
+import shutil
+import struct
+import sys
+import tempfile
+
+PROJECT = pathlib.Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(PROJECT / "tests" / "e2e"))
+
+from harness.display import Display  # noqa: E402
+from harness.folder import Folder  # noqa: E402
+from harness.waiting import wait_until  # noqa: E402
+from harness.wine import WORK, Wine  # noqa: E402
+
+SAMPLES = PROJECT / "samples" / "totalcmd"
+LANGUAGES = PROJECT / "languages"
+SHOWN = ("English", "German", "Russian", "Hebrew")
+BUILT_IN = "English"
+# Ids of the menu entries' texts: the entry that opens a window, below which menu.
+MENUS = {"find": (250, 251), "filter": (250, 4030), "options": (141, 150), "about": (161, 163)}
+ENGLISH = {141: "&View", 150: "&Options...", 161: "&Help", 163: "&About...", 250: "&Search",
+           251: "&Find...", 4030: "Filte&r..."}
+
+
+# Wine's own fonts have no Hebrew letters; the dialogs' font is chosen by the system, and lists take
+# missing letters from a font that is linked to theirs.
+WITHOUT_LETTERS = ("Hebrew",)
+OTHER_FONT, OTHER_FONT_FILE = "DejaVu Sans Condensed", "DejaVuSansCondensed.ttf"
+FONT_LINKS = r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontLink\SystemLink"
+METRICS = r"HKCU\Control Panel\Desktop\WindowMetrics"
+SYSTEM_FONTS = {"MessageFont": 400, "MenuFont": 400, "StatusFont": 400, "CaptionFont": 700,
+                "SmCaptionFont": 400}
+# On the drive C: of Wine, as these paths can be seen in the pictures.
+HOST_FOLDER, LANGUAGE_FOLDER = "Totalcmd", "Ordalyn/Languages"
+
+
+def lend_fonts(wine):
+    wine.registry_set(FONT_LINKS, "MS Sans Serif", f"{OTHER_FONT_FILE},{OTHER_FONT}",
+                      "REG_MULTI_SZ")
+    for name, weight in SYSTEM_FONTS.items():
+        font = struct.pack("<5l8B64s", -11, 0, 0, 0, weight, 0, 0, 0, 1, 0, 0, 0, 0,
+                           OTHER_FONT.encode("utf-16-le"))
+        wine.registry_set(METRICS, name, font.hex(), "REG_BINARY")
+
+
+def take_fonts_back(wine):
+    wine.registry_delete(FONT_LINKS)
+    for name in SYSTEM_FONTS:
+        wine.run(["reg", "delete", METRICS, "/v", name, "/f"])
+
+
+class Photographer:
+    def __init__(self, folder, language, pictures):
+        self.folder = folder
+        self.language = language
+        self.pictures = pictures
+        self.texts = dict(ENGLISH)
+        drive = folder.wine.folder / "drive_c"
+        settings = ["[Ordalyn]", "MainPosition=300,300,12900,7500"]
+        if language != BUILT_IN:
+            file = LANGUAGES / f"{language}.lng"
+            for line in file.read_text("utf-8-sig").splitlines():
+                number, _, text = line.partition("=")
+                if number.strip().isdigit() and int(number) in self.texts:
+                    self.texts[int(number)] = text
+            target = drive / LANGUAGE_FOLDER
+            target.mkdir(parents=True, exist_ok=True)
+            shutil.copy(file, target)
+            settings += ["UseDefaultLanguage=0", "[Common]",
+                         rf"LanguageFile=C:\Ordalyn\Languages\{file.name}"]
+        folder.settings_file.write_bytes("\r\n".join(settings + [""]).encode("latin-1"))
+        shutil.copytree(SAMPLES, drive / HOST_FOLDER, dirs_exist_ok=True)
+        self.app = folder.start(env={"Commander_Path": rf"C:\{HOST_FOLDER}",
+                                     "Commander_INI": rf"C:\{HOST_FOLDER}\wincmd.ini"})
+        self.app.wait_for_rows()
+
+    def take(self, window, name):
+        self.app.settle()
+        left, top, right, bottom = window.rect
+        picture = self.pictures / f"{name}-{self.language}.png"
+        self.app.wine.display.screenshot(picture, (left, top, right - left, bottom - top))
+        print(picture.name, f"{right - left} x {bottom - top}")
+
+    def open(self, which):
+        """Opens a dialog by its menu and answers its window."""
+        before = {window["handle"] for window in self.app.windows()}
+        self.app.main.choose(*(self.texts[number].replace("&", "") for number in MENUS[which]))
+        found = wait_until(
+            lambda: [w for w in self.app.windows() if w["handle"] not in before], f"the {which}")
+        return self.app.window_of(found[0]["handle"])
+
+    def take_all(self):
+        main = self.app.main
+        main.source.click_row(min(3, main.source.row_count - 1))
+        self.take(main, "main")
+        for which in ("find", "filter", "about"):
+            window = self.open(which)
+            self.take(window, which)
+            self.close(window)
+        options = self.open("options")
+        self.take(options, "options-layout")
+        self.app.keys("Ctrl+Tab")
+        self.take(options, "options-language")
+        self.close(options)
+
+    def close(self, window):
+        self.app.keys("Escape")
+        wait_until(lambda: not self.app.has_window(window.handle), "the dialog to go")
+
+
+def main():
+    arguments = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    arguments.add_argument("language", nargs="*", default=SHOWN)
+    arguments.add_argument("--folder", type=pathlib.Path, default=PROJECT / "docs/screenshots")
+    arguments.add_argument("--dpi", type=int, default=96)
+    options = arguments.parse_args()
+    options.folder.mkdir(parents=True, exist_ok=True)
+    display = Display()
+    try:
+        wine = Wine(display)
+        try:
+            wine.set_dpi(options.dpi)
+            for language in options.language:
+                if language in WITHOUT_LETTERS:
+                    lend_fonts(wine)
+                with tempfile.TemporaryDirectory(dir=WORK) as path:
+                    folder = Folder(wine, pathlib.Path(path))
+                    try:
+                        Photographer(folder, language, options.folder).take_all()
+                    finally:
+                        folder.end_all()
+                        if language in WITHOUT_LETTERS:
+                            take_fonts_back(wine)
+        finally:
+            wine.close()
+    finally:
+        display.close()
+
+
+if __name__ == "__main__":
+    main()

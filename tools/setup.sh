@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# Installs what is missing of the packages that a task needs, and says what it installs.
+#
+#   tools/setup.sh build|run|test ...
+#
+# Works as root or with sudo on Debian 12; with nothing missing it is done in a moment. The i386
+# architecture is never added: the 64-bit Wine runs all that has to run here.
+set -euo pipefail
+
+packages_for() {
+    case $1 in
+        build)
+            # GoogleTest is here because its sources belong to the configuration of every build.
+            echo cmake ninja-build g++ binutils \
+                g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest python3
+            # The compiler of the help file.
+            if compgen -G "$(dirname "$0")/../help/*.hhp" >/dev/null ||
+                compgen -G "$(dirname "$0")/../help/*/*.hhp" >/dev/null; then
+                echo fp-utils
+            fi
+            ;;
+        run)
+            echo wine wine64 xvfb xdotool imagemagick fonts-wine fonts-liberation python3
+            ;;
+        test)
+            echo python3-pytest locales libbenchmark-dev shellcheck \
+                clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev
+            ;;
+        *)
+            echo "setup.sh: no such task: $1" >&2
+            exit 2
+            ;;
+    esac
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+install_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q ' installed$' ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    if ! command -v apt-get >/dev/null; then
+        echo "Please install: ${missing[*]}" >&2
+        exit 1
+    fi
+    echo "Installing: ${missing[*]}"
+    local log
+    log=$(mktemp)
+    if ! { as_root apt-get update -q &&
+        as_root env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y -q --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
+        tail -n 20 "$log" >&2
+        exit 1
+    fi
+    rm -f "$log"
+}
+
+# Tests start the program as users in these places do.
+make_locales() {
+    local missing=() name
+    for name in ru_RU de_DE; do
+        locale -a | grep -qi "^$name\.utf-\?8$" || missing+=("$name")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    echo "Making locales: ${missing[*]}"
+    for name in "${missing[@]}"; do
+        as_root localedef -i "$name" -f UTF-8 "$name.UTF-8"
+    done
+}
+
+wanted=()
+for task in "$@"; do
+    read -r -a packages <<<"$(packages_for "$task" | tr '\n' ' ')"
+    wanted+=("${packages[@]}")
+done
+install_packages "${wanted[@]}"
+case " $* " in *" test "*) make_locales ;; esac
