@@ -1,0 +1,155 @@
+#include "toolkit/Control.h"
+
+#include "base/Errors.h"
+
+namespace ordalyn::toolkit {
+
+std::string_view KindName(Kind kind) {
+    switch (kind) {
+        case Kind::Form:
+            return "form";
+        case Kind::Label:
+            return "label";
+        case Kind::Frame:
+            return "frame";
+        case Kind::PictureBox:
+            return "picturebox";
+        case Kind::CommandButton:
+            return "commandbutton";
+        case Kind::CheckBox:
+            return "checkbox";
+        case Kind::OptionButton:
+            return "optionbutton";
+        case Kind::TextBox:
+            return "textbox";
+        case Kind::ComboBox:
+            return "combobox";
+        case Kind::ListView:
+            return "listview";
+        case Kind::StatusBar:
+            return "statusbar";
+        case Kind::ToolBar:
+            return "toolbar";
+        case Kind::TabStrip:
+            return "tabstrip";
+        case Kind::ProgressBar:
+            return "progressbar";
+    }
+    return "";
+}
+
+Control::Control(Kind kind, std::string_view name, int index)
+    : kind_(kind), name_(name), index_(index) {}
+
+void Control::InitialisePeer(const Rect& bounds) {
+    font_ = {};
+    peer().SetFont(font_);
+    TakeBounds(bounds);
+}
+
+// Answers of the peer count: kinds that fix their own height report it here.
+void Control::TakeBounds(const Rect& bounds) {
+    // Written so that values that are no numbers fail too.
+    if (!(bounds.width >= 0) || !(bounds.height >= 0))
+        throw InvalidPropertyValue("size of " + name_);
+    const Rect before = bounds_;
+    bounds_ = peer().Place(bounds);
+    if (bounds_.width != before.width || bounds_.height != before.height)
+        Resize.Raise();
+}
+
+void Control::SetLeft(Twips left) {
+    Move({left, bounds_.top, bounds_.width, bounds_.height});
+}
+
+void Control::SetTop(Twips top) {
+    Move({bounds_.left, top, bounds_.width, bounds_.height});
+}
+
+void Control::SetWidth(Twips width) {
+    Move({bounds_.left, bounds_.top, width, bounds_.height});
+}
+
+void Control::SetHeight(Twips height) {
+    Move({bounds_.left, bounds_.top, bounds_.width, height});
+}
+
+void Control::Move(const Rect& bounds) {
+    TakeBounds(bounds);
+}
+
+void Control::SetVisible(bool visible) {
+    visible_ = visible;
+    peer().SetVisible(visible);
+}
+
+void Control::SetEnabled(bool enabled) {
+    enabled_ = enabled;
+    peer().SetEnabled(enabled);
+}
+
+void Control::SetContainer(Control& container) {
+    if (&container == this)
+        throw InvalidPropertyValue("container of " + name_);
+    container_ = &container;
+    peer().SetContainer(container.peer());
+}
+
+void Control::SetCaption(std::string_view caption) {
+    caption_ = caption;
+    peer().SetCaption(caption);
+}
+
+void Control::SetFont(const toolkit::Font& font) {
+    font_ = font;
+    SystemChangedBounds(peer().SetFont(font));
+}
+
+void Control::SetForeColor(Color color) {
+    foreColor_ = color;
+    peer().SetColors(foreColor_, backColor_);
+}
+
+void Control::SetBackColor(Color color) {
+    backColor_ = color;
+    peer().SetColors(foreColor_, backColor_);
+}
+
+void Control::SetBorder(BorderStyle border) {
+    border_ = border;
+    peer().SetBorder(border_, appearance_);
+}
+
+void Control::SetLook(Appearance appearance) {
+    appearance_ = appearance;
+    peer().SetBorder(border_, appearance_);
+}
+
+void Control::SetRightToLeft(bool rightToLeft) {
+    rightToLeft_ = rightToLeft;
+    peer().SetReadingOrder(rightToLeft_, alignment_);
+}
+
+void Control::SetTextAlignment(Alignment alignment) {
+    alignment_ = alignment;
+    peer().SetReadingOrder(rightToLeft_, alignment_);
+}
+
+void Control::SetMousePointer(Pointer pointer) {
+    pointer_ = pointer;
+    peer().SetPointer(pointer);
+}
+
+void Control::SetToolTip(std::string_view text) {
+    toolTip_ = text;
+    peer().SetToolTip(text);
+}
+
+void Control::SystemChangedBounds(const Rect& bounds) {
+    const Rect before = bounds_;
+    bounds_ = bounds;
+    if (bounds.width != before.width || bounds.height != before.height)
+        Resize.Raise();
+}
+
+}  // namespace ordalyn::toolkit

@@ -1,0 +1,96 @@
+// Form: a window with its controls and menus, made from a design. A form object is a loaded form:
+// constructing it loads it (hidden), Unload ends it. It must not be destroyed inside one of its own
+// event handlers.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Errors.h"
+#include "toolkit/ComboBox.h"
+#include "toolkit/Controls.h"
+#include "toolkit/FormDesign.h"
+#include "toolkit/ListView.h"
+#include "toolkit/MenuItem.h"
+#include "toolkit/ToolBar.h"
+
+namespace ordalyn::toolkit {
+
+class Form : public Control {
+  public:
+    Form(Toolkit& toolkit, const FormDesign& design);
+    ~Form() override;
+    ControlPeer& peer() const override { return *peer_; }
+    FormPeer& formPeer() const { return *peer_; }
+    Toolkit& toolkit() const { return toolkit_; }
+    const FormStyle& Style() const { return style_; }
+
+    // Controls and menus, in design order. Access by name and kind throws SubscriptOutOfRange when
+    // the form has none such.
+    const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
+    template <typename T>
+    T& Get(std::string_view name, int index = -1) const {
+        T* found = dynamic_cast<T*>(FindControl(name, index));
+        if (found == nullptr)
+            throw SubscriptOutOfRange();
+        return *found;
+    }
+    MenuItem& Menu(std::string_view name) const;
+    const std::vector<std::unique_ptr<MenuItem>>& Menus() const { return menus_; }  // level 0
+    std::vector<MenuItem*> AllMenuItems() const;  // in design order, sub-items after their item
+
+    // Outer bounds are Control's; the inside is here, in twips.
+    Size ClientSize() const { return peer_->ClientSize(); }
+    void SetClientHeight(Twips height);
+    void Move(const Rect& bounds) override;
+    void CentreOnScreen();
+    // Setting a state has no effect on the bounds that the form has when normal.
+    WindowState State() const;
+    void SetState(WindowState state);
+
+    // Shows the form, not modal; raises Activate (from the message loop) when it becomes active.
+    void Show(Form* owner = nullptr);
+    // Shows the form and returns when it is hidden or unloaded. Messages are handled meanwhile:
+    // whatever events can change may have changed on return.
+    void ShowModal(Form* owner);
+    void Hide();
+    void SetVisible(bool visible) override;
+    // Asks QueryUnload, then raises Unload and takes the window away. Answers whether it did.
+    bool Unload();
+    bool Unloaded() const { return unloaded_; }
+    std::uintptr_t Handle() const { return peer_->Handle(); }
+
+    void PopUpMenu(MenuItem& item) { peer_->PopUp(item); }
+
+    Event<> Activate;
+    Event<bool&> QueryUnload;  // set the argument to true to keep the form
+    Event<> Unloading;
+    Event<const std::vector<std::string>&> FilesDropped;  // full paths
+
+    // For the peer. Keys are reported before the control that has the focus sees them; KeyDown
+    // answers whether the form used the key up (a menu shortcut), so that the control never gets
+    // it.
+    bool UserKeyDown(int key, Modifiers modifiers);
+    void UserKeyUp(int key, Modifiers modifiers) { KeyUp.Raise(key, modifiers); }
+    void UserClosed();  // close box, Alt+F4, end of the session
+    void SystemActivated() { Activate.Raise(); }
+    void SystemResized(const Rect& outer, WindowState state);
+
+  private:
+    void CreateControls(const FormDesign& design);
+    void CreateMenus(const FormDesign& design);
+    void GroupOptions();
+    Control* FindControl(std::string_view name, int index) const;
+
+    Toolkit& toolkit_;
+    FormStyle style_;
+    std::unique_ptr<FormPeer> peer_;
+    std::vector<std::unique_ptr<Control>> controls_;
+    std::vector<std::unique_ptr<MenuItem>> menus_;
+    bool modal_ = false;
+    bool unloaded_ = false;
+};
+
+}  // namespace ordalyn::toolkit

@@ -1,0 +1,150 @@
+#include "toolkit/ListView.h"
+
+#include <algorithm>
+
+#include "base/Errors.h"
+
+namespace ordalyn::toolkit {
+
+namespace {
+
+ListView::Tags NoRows() {
+    static const ListView::Tags none = std::make_shared<const std::vector<std::int32_t>>();
+    return none;
+}
+
+}  // namespace
+
+ListView::ListView(Toolkit& toolkit, std::string_view name, int index, Control& container,
+                   const Rect& bounds)
+    : Control(Kind::ListView, name, index),
+      peer_(toolkit.CreateListView(*this, container.peer())),
+      tags_(NoRows()) {
+    SetContainerReference(&container);
+    InitialisePeer(bounds);
+    SetBackColor(kWindowBackground);
+    SetBorder(BorderStyle::FixedSingle);
+}
+
+void ListView::RequireRow(int row) const {
+    if (row < 0 || row >= RowCount())
+        throw SubscriptOutOfRange();
+}
+
+void ListView::RequireColumn(int column) const {
+    if (column < 0 || column >= ColumnCount())
+        throw SubscriptOutOfRange();
+}
+
+void ListView::AddColumn(std::string_view caption, Twips width, int field) {
+    if (!(width >= 0))
+        throw InvalidPropertyValue("column width of " + Name());
+    columns_.push_back({std::string(caption), field});
+    peer_->InsertColumn(ColumnCount() - 1, caption, width);
+}
+
+void ListView::RemoveLastColumn() {
+    RequireColumn(ColumnCount() - 1);
+    columns_.pop_back();
+    peer_->RemoveColumn(ColumnCount());
+}
+
+const std::string& ListView::ColumnCaption(int column) const {
+    RequireColumn(column);
+    return columns_[static_cast<std::size_t>(column)].caption;
+}
+
+void ListView::SetColumnCaption(int column, std::string_view caption) {
+    RequireColumn(column);
+    columns_[static_cast<std::size_t>(column)].caption = caption;
+    peer_->SetColumnCaption(column, caption);
+}
+
+Twips ListView::ColumnWidth(int column) const {
+    RequireColumn(column);
+    return peer_->ColumnWidth(column);
+}
+
+void ListView::SetColumnWidth(int column, Twips width) {
+    RequireColumn(column);
+    if (!(width >= 0))
+        throw InvalidPropertyValue("column width of " + Name());
+    peer_->SetColumnWidth(column, width);
+}
+
+int ListView::ColumnPosition(int column) const {
+    RequireColumn(column);
+    return peer_->ColumnPosition(column);
+}
+
+void ListView::SetColumnPosition(int column, int position) {
+    RequireColumn(column);
+    if (position < 0 || position >= ColumnCount())
+        throw InvalidPropertyValue("column position of " + Name());
+    peer_->SetColumnPosition(column, position);
+}
+
+void ListView::Fill(std::shared_ptr<const RowSource> source, Tags tags) {
+    source_ = std::move(source);
+    tags_ = std::move(tags);
+    selectedRow_ = -1;
+    peer_->ResetRows(RowCount());
+}
+
+void ListView::ReplaceRows(Tags tags, int selectedRow) {
+    tags_ = std::move(tags);
+    peer_->UpdateRows(RowCount());
+    SelectRow(selectedRow >= 0 && selectedRow < RowCount() ? selectedRow : -1);
+}
+
+void ListView::ClearRows() {
+    Fill(nullptr, NoRows());
+}
+
+int ListView::RowCount() const {
+    return static_cast<int>(tags_->size());
+}
+
+std::int32_t ListView::Tag(int row) const {
+    RequireRow(row);
+    return (*tags_)[static_cast<std::size_t>(row)];
+}
+
+std::string_view ListView::Text(int row, int column) const {
+    RequireRow(row);
+    RequireColumn(column);
+    return source_->Text((*tags_)[static_cast<std::size_t>(row)],
+                         columns_[static_cast<std::size_t>(column)].field);
+}
+
+int ListView::RowOfTag(std::int32_t tag) const {
+    const auto found = std::find(tags_->begin(), tags_->end(), tag);
+    return found == tags_->end() ? -1 : static_cast<int>(found - tags_->begin());
+}
+
+void ListView::SelectRow(int row) {
+    if (row != -1)
+        RequireRow(row);
+    selectedRow_ = row;
+    peer_->SelectRow(row);
+}
+
+void ListView::EnsureVisible(int row) {
+    RequireRow(row);
+    peer_->EnsureVisible(row);
+}
+
+void ListView::SetGridLines(bool shown) {
+    gridLines_ = shown;
+    peer_->SetGridLines(shown);
+}
+
+void ListView::UserSelected(int row) {
+    if (row >= RowCount())
+        return;  // the rows have changed since
+    selectedRow_ = row;
+    if (row >= 0)
+        ItemClick.Raise(row);
+}
+
+}  // namespace ordalyn::toolkit

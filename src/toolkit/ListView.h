@@ -1,0 +1,85 @@
+// ListView: a report list that asks for its texts instead of holding them.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/Control.h"
+
+namespace ordalyn::toolkit {
+
+// Where the texts of rows come from. A row is known by its tag; a column shows one of the source's
+// fields. The answer stays valid as long as the source lives. Nothing throws: a tag that the source
+// does not know has empty texts.
+class RowSource {
+  public:
+    virtual ~RowSource() = default;
+    virtual std::string_view Text(std::int32_t tag, int field) const = 0;
+};
+
+// Rows and columns are 0-based here; row -1 is none. One row is selected at most. Selecting by code
+// raises nothing; ItemClick is raised when the user selects a row, with mouse or keyboard, or
+// clicks the one that is selected. Indices outside throw SubscriptOutOfRange.
+class ListView : public Control {
+  public:
+    // Row tags; shared, so that two lists can show the same rows.
+    using Tags = std::shared_ptr<const std::vector<std::int32_t>>;
+
+    ListView(Toolkit& toolkit, std::string_view name, int index, Control& container,
+             const Rect& bounds);
+    ControlPeer& peer() const override { return *peer_; }
+
+    int ColumnCount() const { return static_cast<int>(columns_.size()); }
+    // `field` says which text of the row source the column shows.
+    void AddColumn(std::string_view caption, Twips width, int field);
+    void RemoveLastColumn();
+    const std::string& ColumnCaption(int column) const;
+    void SetColumnCaption(int column, std::string_view caption);
+    Twips ColumnWidth(int column) const;
+    void SetColumnWidth(int column, Twips width);  // InvalidPropertyValue below 0
+    int ColumnPosition(int column) const;          // 0-based place on the screen
+    void SetColumnPosition(int column, int position);
+
+    // Shows these rows: nothing selected, scrolled to the top. The list keeps the source alive.
+    void Fill(std::shared_ptr<const RowSource> source, Tags tags);
+    // Shows fewer or more rows of the same source and selects the row with this place number when
+    // there is one, otherwise nothing. Raises nothing.
+    void ReplaceRows(Tags tags, int selectedRow);
+    void ClearRows();
+    int RowCount() const;
+    std::int32_t Tag(int row) const;
+    std::string_view Text(int row, int column) const;
+    const Tags& RowTags() const { return tags_; }
+    const std::shared_ptr<const RowSource>& Source() const { return source_; }
+    int RowOfTag(std::int32_t tag) const;  // -1 when no row has it
+
+    int SelectedRow() const { return selectedRow_; }
+    void SelectRow(int row);  // -1 for none
+    void EnsureVisible(int row);
+    void SetGridLines(bool shown);
+    bool GridLines() const { return gridLines_; }
+    void FlattenColumnHeaders() { peer_->FlattenColumnHeaders(); }
+
+    Event<int> ItemClick;
+    // For the peer.
+    void UserSelected(int row);
+
+  private:
+    struct Column {
+        std::string caption;
+        int field;
+    };
+    void RequireRow(int row) const;
+    void RequireColumn(int column) const;
+    std::unique_ptr<ListViewPeer> peer_;
+    std::vector<Column> columns_;
+    std::shared_ptr<const RowSource> source_;
+    Tags tags_;
+    int selectedRow_ = -1;
+    bool gridLines_ = false;
+};
+
+}  // namespace ordalyn::toolkit

@@ -1,0 +1,145 @@
+// What a realisation of the toolkit supplies: one peer for each control, form and menu item. The
+// portable classes hold all state and rules; a peer only shows them and reports what the user does,
+// by calling the User... operations of its control. A peer never raises anything for what code
+// sets.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "toolkit/Basics.h"
+
+namespace ordalyn::toolkit {
+
+class ControlPeer {
+  public:
+    virtual ~ControlPeer() = default;
+    // Places the control inside its container, twips from the container's inner top left corner.
+    // Answers the bounds that it really has: a kind that decides on its own height (combo boxes,
+    // status bars, which also place themselves) answers that, all others answer what was asked for
+    // without rounding.
+    virtual Rect Place(const Rect& wanted) = 0;
+    virtual void SetContainer(ControlPeer& container) = 0;
+    virtual void SetVisible(bool visible) = 0;
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual void SetCaption(std::string_view caption) = 0;
+    // Answers the bounds after the change.
+    virtual Rect SetFont(const Font& font) = 0;
+    virtual void SetColors(Color foreground, Color background) = 0;
+    virtual void SetBorder(BorderStyle border, Appearance appearance) = 0;
+    virtual void SetReadingOrder(bool rightToLeft, Alignment alignment) = 0;
+    virtual void SetPointer(Pointer pointer) = 0;
+    virtual void SetToolTip(std::string_view text) = 0;
+    virtual void SetTabStop(bool tabStop) = 0;
+    virtual void BringToFront() = 0;
+    virtual void TakeFocus() = 0;
+    virtual void Refresh() = 0;  // repaints at once
+};
+
+// Check boxes and option buttons.
+class TogglePeer : public ControlPeer {
+  public:
+    virtual void SetChecked(bool checked) = 0;
+};
+
+// Text boxes and the edit field of an editable combo box. Positions are characters (UTF-16 units
+// on Windows; callers only use 0, a whole text or an end).
+class TextPeer : public ControlPeer {
+  public:
+    virtual void SetText(std::string_view text) = 0;
+    virtual void SelectText(std::size_t start, std::size_t length) = 0;
+};
+
+class ComboBoxPeer : public TextPeer {
+  public:
+    virtual void InsertItem(int index, std::string_view text) = 0;
+    virtual void SetItem(int index, std::string_view text) = 0;
+    virtual void RemoveItem(int index) = 0;
+    virtual void RemoveAllItems() = 0;
+    virtual void SetListIndex(int index) = 0;  // -1: none
+};
+
+class ListViewPeer : public ControlPeer {
+  public:
+    virtual void InsertColumn(int index, std::string_view caption, Twips width) = 0;
+    virtual void RemoveColumn(int index) = 0;
+    virtual void SetColumnCaption(int index, std::string_view caption) = 0;
+    virtual void SetColumnWidth(int index, Twips width) = 0;
+    // The user can change these: the answers are what is on the screen. A width that the user has
+    // not changed is answered as it was set.
+    virtual Twips ColumnWidth(int index) = 0;
+    virtual void SetColumnPosition(int index, int position) = 0;  // both 0-based
+    virtual int ColumnPosition(int index) = 0;
+    // The rows have become others: `count` of them, nothing selected, scrolled to the top.
+    virtual void ResetRows(int count) = 0;
+    // Rows were appended or removed, or their texts changed; selection and scroll position stay as
+    // near as they can.
+    virtual void UpdateRows(int count) = 0;
+    virtual void SelectRow(int row) = 0;  // -1: none
+    virtual void EnsureVisible(int row) = 0;
+    virtual void SetGridLines(bool shown) = 0;
+    // Headers that do not look like push buttons and cannot be clicked.
+    virtual void FlattenColumnHeaders() = 0;
+};
+
+class StatusBarPeer : public ControlPeer {
+  public:
+    virtual void SetPanelCount(int count) = 0;
+    virtual void SetPanel(int index, std::string_view text, Twips width, Bevel bevel) = 0;
+};
+
+class ProgressBarPeer : public ControlPeer {
+  public:
+    virtual void SetRange(int minimum, int maximum) = 0;
+    virtual void SetValue(int value) = 0;
+};
+
+class TabStripPeer : public ControlPeer {
+  public:
+    virtual void SetTab(int index,
+                        std::string_view caption) = 0;  // adds it when index is the count
+    virtual void SelectTab(int index) = 0;
+};
+
+class ToolBarPeer : public ControlPeer {
+  public:
+    // `image` names a picture of the program's resources; the button's drop-down menu, when it has
+    // one, is read from the control when it is opened.
+    virtual void AddButton(std::string_view image, bool hasMenu) = 0;
+    virtual void SetButtonToolTip(int index, std::string_view text) = 0;
+};
+
+// Shows a form's menus. The tree is read from the form's menu items.
+class MenuPeer {
+  public:
+    virtual ~MenuPeer() = default;
+    // Items were added or removed, or one was shown or hidden: everything is to be read anew.
+    virtual void RebuildMenus() = 0;
+    virtual void UpdateMenuItem(class MenuItem& item) = 0;  // caption, enabled, checked
+    // Shows the item's sub-items at the mouse pointer and waits until one is chosen (its Click has
+    // then been raised) or the menu is dismissed. Messages are handled meanwhile.
+    virtual void PopUp(MenuItem& item) = 0;
+};
+
+class FormPeer : public ControlPeer, public MenuPeer {
+  public:
+    // Place() of a form takes and answers outer bounds, from the screen's top left corner. The
+    // outer bounds are those of the frame that can be seen.
+    virtual Size ClientSize() = 0;                  // twips inside the frame and below the menu
+    virtual Rect OuterFor(const Size& client) = 0;  // outer bounds whose inside has that size
+    // Shows the form, not modal. The owner, when given, stays below it.
+    virtual void Show(FormPeer* owner) = 0;
+    // Shows the form, disables all other forms and handles messages until EndModal.
+    virtual void RunModal(FormPeer* owner) = 0;
+    virtual void EndModal() = 0;
+    virtual void SetWindowState(WindowState state) = 0;
+    virtual WindowState CurrentWindowState() = 0;
+    virtual Rect CurrentBounds() = 0;  // outer bounds now
+    virtual std::uintptr_t Handle() = 0;
+    // The command buttons that Enter and Escape press; null: none.
+    virtual void SetDialogButtons(ControlPeer* defaultButton, ControlPeer* cancelButton) = 0;
+    virtual void Close() = 0;  // takes the window away for good
+};
+
+}  // namespace ordalyn::toolkit

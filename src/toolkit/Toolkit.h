@@ -1,0 +1,83 @@
+// The toolkit's entry: makes peers, knows the screen, shows message boxes, runs the message loop.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "toolkit/Basics.h"
+#include "toolkit/Peer.h"
+
+namespace ordalyn::toolkit {
+
+class Control;
+class Form;
+class Toggle;
+class TextBox;
+class ComboBox;
+class ListView;
+class StatusBar;
+class ProgressBar;
+class TabStrip;
+class ToolBar;
+struct FormStyle;
+
+enum class MessageIcon { None, Critical, Question, Exclamation, Information };
+enum class MessageButtons { Ok, YesNo };
+enum class Answer { Ok, Yes, No };
+
+class Toolkit {
+  public:
+    virtual ~Toolkit() = default;
+
+    // One operation for each kind of peer. `container` is the peer of the container control or
+    // form.
+    virtual std::unique_ptr<FormPeer> CreateForm(Form& form, const FormStyle& style) = 0;
+    virtual std::unique_ptr<ControlPeer> CreateLabel(Control& control, ControlPeer& container) = 0;
+    virtual std::unique_ptr<ControlPeer> CreateFrame(Control& control, ControlPeer& container) = 0;
+    virtual std::unique_ptr<ControlPeer> CreatePictureBox(Control& control,
+                                                          ControlPeer& container) = 0;
+    virtual std::unique_ptr<ControlPeer> CreateCommandButton(Control& control,
+                                                             ControlPeer& container) = 0;
+    virtual std::unique_ptr<TogglePeer> CreateCheckBox(Toggle& control, ControlPeer& container) = 0;
+    virtual std::unique_ptr<TogglePeer> CreateOptionButton(Toggle& control,
+                                                           ControlPeer& container) = 0;
+    virtual std::unique_ptr<TextPeer> CreateTextBox(TextBox& control, ControlPeer& container) = 0;
+    virtual std::unique_ptr<ComboBoxPeer> CreateComboBox(ComboBox& control, bool editable,
+                                                         ControlPeer& container) = 0;
+    virtual std::unique_ptr<ListViewPeer> CreateListView(ListView& control,
+                                                         ControlPeer& container) = 0;
+    virtual std::unique_ptr<StatusBarPeer> CreateStatusBar(StatusBar& control,
+                                                           ControlPeer& container) = 0;
+    virtual std::unique_ptr<ProgressBarPeer> CreateProgressBar(ProgressBar& control,
+                                                               ControlPeer& container) = 0;
+    virtual std::unique_ptr<TabStripPeer> CreateTabStrip(TabStrip& control,
+                                                         ControlPeer& container) = 0;
+    virtual std::unique_ptr<ToolBarPeer> CreateToolBar(ToolBar& control,
+                                                       ControlPeer& container) = 0;
+
+    // The screen. TwipsPerPixel are exact; users that want whole numbers round them.
+    virtual double TwipsPerPixelX() = 0;
+    virtual double TwipsPerPixelY() = 0;
+    virtual Rect WorkArea() = 0;                   // of the primary screen, twips
+    virtual void SetPointer(Pointer pointer) = 0;  // over all of the program's windows
+    virtual void Beep() = 0;
+
+    // Shows a message box and waits. Messages are handled meanwhile: whatever events can change may
+    // have changed when it returns. `defaultAnswer` chooses the button that Enter presses.
+    virtual Answer ShowMessage(Form* owner, std::string_view text, std::string_view title,
+                               MessageIcon icon = MessageIcon::None,
+                               MessageButtons buttons = MessageButtons::Ok,
+                               Answer defaultAnswer = Answer::Yes) = 0;
+
+    // Handles the messages that wait now, then returns. Re-entrant events are possible.
+    virtual void DoEvents() = 0;
+    // Runs `work` from the message loop, after the current event.
+    virtual void Post(std::function<void()> work) = 0;
+    // Handles messages until Quit.
+    virtual void Run() = 0;
+    virtual void Quit() = 0;
+};
+
+}  // namespace ordalyn::toolkit

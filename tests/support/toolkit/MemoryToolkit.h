@@ -1,0 +1,178 @@
+// The toolkit in memory: what a user would see is kept in the peers, what a user would do is done
+// by calling the User... operations of the controls (or the Press... helpers here).
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "toolkit/Form.h"
+#include "toolkit/Toolkit.h"
+
+namespace ordalyn::test {
+
+// What is shown of any control.
+struct Shown {
+    toolkit::Rect bounds;
+    const void* container = nullptr;
+    bool visible = true;
+    bool enabled = true;
+    std::string caption;
+    toolkit::Font font;
+    toolkit::Color foreground = 0, background = 0;
+    toolkit::BorderStyle border = toolkit::BorderStyle::None;
+    toolkit::Appearance appearance = toolkit::Appearance::ThreeDimensional;
+    bool rightToLeft = false;
+    toolkit::Alignment alignment = toolkit::Alignment::Left;
+    toolkit::Pointer pointer = toolkit::Pointer::Default;
+    std::string toolTip;
+    bool tabStop = true;
+    int refreshes = 0;
+    int broughtToFront = 0;
+    // Kinds with more.
+    bool checked = false;
+    std::string text;
+    std::size_t selectionStart = 0, selectionLength = 0;
+    std::vector<std::string> items;
+    int listIndex = -1;
+    struct Column {
+        std::string caption;
+        toolkit::Twips width;
+    };
+    std::vector<Column> columns;
+    std::vector<int> columnPositions;
+    int rowCount = 0, selectedRow = -1, visibleRow = -1;
+    int fills = 0;
+    int updatesInSight = 0;  // rows that went or came while the list was visible
+    bool gridLines = false, flatHeaders = false;
+    struct Panel {
+        std::string text;
+        toolkit::Twips width = 0;
+        toolkit::Bevel bevel = toolkit::Bevel::Inset;
+    };
+    std::vector<Panel> panels;
+    int minimum = 0, maximum = 0, value = 0;
+    std::vector<int> values;  // every value that a progress bar has shown
+    std::vector<std::string> tabs;
+    int selectedTab = 0;
+    // Forms: what has the focus while the form is the active one, and the buttons that Enter and
+    // Escape press.
+    toolkit::Control* focused = nullptr;
+    toolkit::Control* defaultButton = nullptr;
+    toolkit::Control* cancelButton = nullptr;
+};
+
+// A menu item as it is shown; items that are not visible are not shown.
+struct ShownMenu {
+    const toolkit::MenuItem* item = nullptr;
+    std::string caption;
+    std::string keys;  // right of the caption
+    bool enabled = true;
+    bool checked = false;
+    std::vector<ShownMenu> items;
+};
+
+struct ShownMessage {
+    std::string text;
+    std::string title;
+    toolkit::MessageIcon icon;
+    toolkit::MessageButtons buttons;
+    toolkit::Answer defaultAnswer;
+    toolkit::Form* owner;
+};
+
+class MemoryToolkit : public toolkit::Toolkit {
+  public:
+    MemoryToolkit();
+    ~MemoryToolkit() override;
+
+    // What is shown of a control or form of this toolkit.
+    static const Shown& Of(const toolkit::Control& control);
+    static Shown& Mutable(const toolkit::Control& control);
+    // The menu bar, as it was when the form last told that it had changed.
+    static const std::vector<ShownMenu>& MenusOf(const toolkit::Form& form);
+
+    // What the tests script and look at.
+    double twipsPerPixelX = 15, twipsPerPixelY = 15;
+    toolkit::Rect workArea{0, 0, 19200, 15000};
+    std::vector<ShownMessage> messages;
+    // Called for each message box; the default gives the default button's answer.
+    std::function<toolkit::Answer(const ShownMessage&)> onMessage;
+    // Called while a form is shown modally; the form is hidden afterwards when it still shows.
+    std::deque<std::function<void(toolkit::Form&)>> modalScripts;
+    std::function<void()> onDoEvents;
+    std::vector<std::string> poppedUpMenus;
+    std::function<void(toolkit::MenuItem&)> onPopUp;
+    toolkit::Pointer pointer = toolkit::Pointer::Default;
+    std::vector<toolkit::Pointer> pointers;  // every pointer that was set
+    int beeps = 0;
+    bool quit = false;
+    const toolkit::Control* focus = nullptr;
+    toolkit::Form* modalForm = nullptr;
+    std::vector<std::string> menuRebuilds;  // names of forms
+
+    // What a user does. A form that a modal one keeps disabled gets nothing. Errors that no handler
+    // catches end in a message box, here as in the work that was posted.
+    // A key goes to the form, then to the control with the focus; after that Tab moves the focus,
+    // and Enter and Escape press the form's buttons (Enter the button that has the focus).
+    void Press(toolkit::Form& form, int key, toolkit::Modifiers modifiers = {});
+    // The same after giving the control the focus.
+    void PressIn(toolkit::Form& form, toolkit::Control& control, int key,
+                 toolkit::Modifiers modifiers = {});
+    void ResizeByUser(toolkit::Form& form, const toolkit::Rect& outer);
+    void ActivateByUser(toolkit::Form& form);
+    void AsTheMessageLoop(const std::function<void()>& work);
+    static void DragColumn(const toolkit::ListView& list, int column, toolkit::Twips width);
+    static void MoveColumn(const toolkit::ListView& list, int column, int position);
+    void RunPosted();
+
+    // toolkit::Toolkit
+    std::unique_ptr<toolkit::FormPeer> CreateForm(toolkit::Form& form,
+                                                  const toolkit::FormStyle& style) override;
+    std::unique_ptr<toolkit::ControlPeer> CreateLabel(toolkit::Control& control,
+                                                      toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ControlPeer> CreateFrame(toolkit::Control& control,
+                                                      toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ControlPeer> CreatePictureBox(
+        toolkit::Control& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ControlPeer> CreateCommandButton(
+        toolkit::Control& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TogglePeer> CreateCheckBox(toolkit::Toggle& control,
+                                                        toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TogglePeer> CreateOptionButton(
+        toolkit::Toggle& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TextPeer> CreateTextBox(toolkit::TextBox& control,
+                                                     toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ComboBoxPeer> CreateComboBox(toolkit::ComboBox& control, bool editable,
+                                                          toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ListViewPeer> CreateListView(toolkit::ListView& control,
+                                                          toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::StatusBarPeer> CreateStatusBar(
+        toolkit::StatusBar& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ProgressBarPeer> CreateProgressBar(
+        toolkit::ProgressBar& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TabStripPeer> CreateTabStrip(toolkit::TabStrip& control,
+                                                          toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ToolBarPeer> CreateToolBar(toolkit::ToolBar& control,
+                                                        toolkit::ControlPeer& container) override;
+    double TwipsPerPixelX() override { return twipsPerPixelX; }
+    double TwipsPerPixelY() override { return twipsPerPixelY; }
+    toolkit::Rect WorkArea() override { return workArea; }
+    void SetPointer(toolkit::Pointer newPointer) override;
+    void Beep() override { ++beeps; }
+    toolkit::Answer ShowMessage(toolkit::Form* owner, std::string_view text, std::string_view title,
+                                toolkit::MessageIcon icon, toolkit::MessageButtons buttons,
+                                toolkit::Answer defaultAnswer) override;
+    void DoEvents() override;
+    void Post(std::function<void()> work) override { posted_.push_back(std::move(work)); }
+    void Run() override;
+    void Quit() override { quit = true; }
+
+  private:
+    void PressFormKey(toolkit::Form& form, int key, toolkit::Modifiers modifiers);
+    std::deque<std::function<void()>> posted_;
+};
+
+}  // namespace ordalyn::test
