@@ -1,0 +1,215 @@
+// The services that the program asks of the operating system, as small interfaces. They know
+// nothing of logs or settings. All text is UTF-8 unless an operation says that it takes bytes.
+// platform/win32 realises them on Windows, tests/support in memory; one contract suite holds both.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ordalyn::platform {
+
+// The system's calls for INI files, in one of two forms. The 8-bit form takes and gives bytes in
+// the system code page. The Unicode form takes and gives UTF-8 and is for files that are UTF-16.
+// File names are UTF-8 in both; a relative one counts from the current folder (the bare calls would
+// look in the system's own folder). Sizes are buffer sizes in characters of the form, one of which
+// is kept for the terminating NUL: a longer value is cut to size - 1. Nothing throws: what cannot
+// be read is absent, what cannot be written is dropped.
+class ProfileCalls {
+  public:
+    virtual ~ProfileCalls() = default;
+    // The value without one pair of enclosing quotes, or `otherwise` when the entry is absent.
+    virtual std::string ReadEntry(std::string_view section, std::string_view key,
+                                  std::string_view otherwise, std::string_view file,
+                                  std::size_t size) = 0;
+    // The three lists: each element is followed by a NUL character.
+    virtual std::string ReadKeyNames(std::string_view section, std::string_view file,
+                                     std::size_t size) = 0;
+    virtual std::string ReadSection(std::string_view section, std::string_view file,
+                                    std::size_t size) = 0;
+    virtual std::string ReadSectionNames(std::string_view file, std::size_t size) = 0;
+    virtual void WriteEntry(std::string_view section, std::string_view key, std::string_view value,
+                            std::string_view file) = 0;
+    virtual void DeleteEntry(std::string_view section, std::string_view key,
+                             std::string_view file) = 0;
+    virtual void DeleteSection(std::string_view section, std::string_view file) = 0;
+};
+
+// Conversion between bytes in a code page and UTF-8. A number that the system does not know as a
+// code page stands for the system code page.
+class CodePages {
+  public:
+    virtual ~CodePages() = default;
+    static constexpr unsigned kSystem = 0;  // the system code page
+    virtual std::string ToUtf8(std::string_view bytes, unsigned codePage) = 0;
+    // Nothing when the code page cannot hold the text without loss.
+    virtual std::optional<std::string> FromUtf8(std::string_view text, unsigned codePage) = 0;
+    // The code page that belongs to a font character set number; kSystem for the default set (1)
+    // and for numbers that are unknown.
+    virtual unsigned OfCharacterSet(std::int32_t characterSet) = 0;
+};
+
+// A file being read. Closed when destroyed.
+class ReadableFile {
+  public:
+    virtual ~ReadableFile() = default;
+    // Reads up to `capacity` bytes; 0 only at the end of the file. Throws FileError.
+    virtual std::size_t Read(char* buffer, std::size_t capacity) = 0;
+};
+
+class Files {
+  public:
+    virtual ~Files() = default;
+    // Others may go on reading, writing, renaming and deleting the file. Throws FileError (missing,
+    // locked, a folder, ...).
+    virtual std::unique_ptr<ReadableFile> OpenForReading(std::string_view path) = 0;
+    // Whether a file or folder of that name exists, or, with wildcards, one that matches.
+    virtual bool Exists(std::string_view path) = 0;
+    // Names (without folder) of the files, not folders, in `folder` that match the wildcard
+    // pattern, hidden and system files included, in alphabetical order ignoring case. Empty when
+    // there is no such folder.
+    virtual std::vector<std::string> List(std::string_view folder, std::string_view pattern) = 0;
+    // Writes the whole file so that a crash leaves either the old or the new bytes. Throws
+    // FileError.
+    virtual void Replace(std::string_view path, std::string_view bytes) = 0;
+};
+
+// All bytes of a file; nothing when it cannot be read.
+std::optional<std::string> ReadAllBytes(Files& files, std::string_view path);
+
+struct LocalTime {
+    int year, month, day, hour, minute, second;
+};
+
+class Environment {
+  public:
+    virtual ~Environment() = default;
+    // %NAME% of defined variables replaced, names in any letter case; the rest stays as written.
+    virtual std::string Expand(std::string_view text) = 0;
+    // Empty when the variable is not defined.
+    virtual std::string Variable(std::string_view name) = 0;
+    // What stands on the command line behind the program's own name, as written, blanks at its ends
+    // removed.
+    virtual std::string CommandLine() = 0;
+    // Full path of the program's executable.
+    virtual std::string ProgramPath() = 0;
+    virtual LocalTime Now() = 0;
+};
+
+class Locale {
+  public:
+    virtual ~Locale() = default;
+    // The date that the text means to this system, in the user's long date format; nothing for a
+    // text that is not a date (a clock time alone included).
+    virtual std::optional<std::string> LongDate(std::string_view text) = 0;
+};
+
+// A window of the operating system, opaque here. 0 means none.
+using WindowHandle = std::uintptr_t;
+
+class Shell {
+  public:
+    virtual ~Shell() = default;
+    // Opens a document or address with the program that the user has chosen for it. Failures are
+    // not reported.
+    virtual void Open(WindowHandle owner, std::string_view target) = 0;
+};
+
+class Clipboard {
+  public:
+    virtual ~Clipboard() = default;
+    // Empties the clipboard, or puts the text on it as plain text. When another program holds the
+    // clipboard both try again for a short while and then give up silently (false).
+    virtual bool Clear() = 0;
+    virtual bool SetText(std::string_view text) = 0;
+};
+
+// The registry's calls. A key is named by a predefined root handle (0x80000001 is the current user)
+// and a path below it. Nothing throws; failures give nothing or false.
+class Registry {
+  public:
+    virtual ~Registry() = default;
+    struct Value {
+        std::uint32_t type;  // 1 string, 3 binary, 4 32-bit number, ...
+        // Text kinds: UTF-8 with its terminating NUL characters kept. Other kinds: the bytes.
+        std::string data;
+    };
+    // Nothing when the key or the value is absent or the value is longer than `size` bytes, of
+    // which a character of a text takes one.
+    virtual std::optional<Value> Query(std::uint32_t root, std::string_view subKey,
+                                       std::string_view name, std::size_t size) = 0;
+    // Creates the key when it is missing. A text that does not end in a NUL character is given one.
+    virtual bool Set(std::uint32_t root, std::string_view subKey, std::string_view name,
+                     const Value& value) = 0;
+    // Removes a key that has no sub-keys.
+    virtual bool DeleteKey(std::uint32_t root, std::string_view subKey) = 0;
+};
+
+// The system's standard dialogs. Each is modal to its owner; messages are handled meanwhile.
+// Nothing is answered when the user cancels or the dialog fails.
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    struct OpenRequest {
+        WindowHandle owner = 0;
+        // "description", NUL, "pattern", NUL pairs.
+        std::string filter;
+        std::string fileName;
+        std::string initialFolder;
+        std::string title;
+        std::uint32_t flags = 0;     // the system's OFN_ bits
+        std::size_t bufferSize = 0;  // characters for the chosen path
+        std::size_t recordSize = 0;  // 76 or 88: the size of the 8-bit record whose fields are used
+    };
+    struct ColorRequest {
+        WindowHandle owner = 0;
+        std::uint32_t initial = 0;  // 0x00BBGGRR
+        std::uint32_t flags = 0;    // the system's CC_ bits
+    };
+    struct FontRequest {
+        WindowHandle owner = 0;
+        std::string name;  // at most 31 characters are used
+        double size = 0;   // points
+        std::int32_t characterSet = 1;
+        int weight = 400;
+        bool italic = false, strikethrough = false, underline = false;
+        std::uint32_t flags = 0;       // the system's CF_ bits
+        int minimum = 0, maximum = 0;  // points
+        std::uint32_t color = 0;
+    };
+    struct FontAnswer {
+        std::string name;
+        int tenthsOfPoints = 0;
+        std::int32_t characterSet = 1;
+        int weight = 400;
+        bool italic = false, strikethrough = false, underline = false;
+    };
+    virtual std::optional<std::string> OpenFile(const OpenRequest& request) = 0;
+    // The 16 custom colours are edited in place, also when the user cancels.
+    virtual std::optional<std::uint32_t> ChooseColor(const ColorRequest& request,
+                                                     std::uint32_t (&customColors)[16]) = 0;
+    virtual std::optional<FontAnswer> ChooseFont(const FontRequest& request) = 0;
+    // Major version of the library that holds the dialogs, from its version resource; 0 when it has
+    // none.
+    virtual int LibraryMajorVersion() = 0;
+};
+
+// All services, handed to the program at its start.
+struct Services {
+    ProfileCalls& ansiProfile;
+    ProfileCalls& unicodeProfile;
+    CodePages& codePages;
+    Files& files;
+    Environment& environment;
+    Locale& locale;
+    Shell& shell;
+    Clipboard& clipboard;
+    Registry& registry;
+    Dialogs& dialogs;
+};
+
+}  // namespace ordalyn::platform

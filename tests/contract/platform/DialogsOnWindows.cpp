@@ -1,0 +1,171 @@
+// The standard dialogs and the shell, which need a user: a thread of the test plays one.
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <thread>
+
+#include "contract/platform/Subject.h"
+#include "platform/win32/services/WindowsText.h"
+
+// Behind the interfaces: the system's header makes macros of some of their names.
+#include <windows.h>
+#undef ChooseColor
+#undef ChooseFont
+
+namespace ordalyn::contract {
+
+namespace {
+
+constexpr int kPollMilliseconds = 20;
+constexpr int kPolls = 500;
+
+// Waits for a dialog of this process to be shown and presses one of its buttons.
+class Presser {
+  public:
+    explicit Presser(int button) : thread_([this, button] { Press(button); }) {}
+    ~Presser() {
+        done_ = true;
+        thread_.join();
+    }
+    Presser(const Presser&) = delete;
+    Presser& operator=(const Presser&) = delete;
+
+  private:
+    static BOOL CALLBACK IsOurDialog(HWND window, LPARAM found) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(window, &process);
+        wchar_t name[20] = L"";
+        GetClassNameW(window, name, 20);
+        if (process != GetCurrentProcessId() || !IsWindowVisible(window) ||
+            std::wstring(name) != L"#32770")
+            return TRUE;
+        *reinterpret_cast<HWND*>(found) = window;
+        return FALSE;
+    }
+    void Press(int button) {
+        // Pressed again until the dialog is gone: it may not be ready for the first time.
+        for (int poll = 0; poll < kPolls && !done_; ++poll) {
+            HWND dialog = nullptr;
+            EnumWindows(IsOurDialog, reinterpret_cast<LPARAM>(&dialog));
+            if (dialog != nullptr)
+                PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+            Sleep(kPollMilliseconds);
+        }
+    }
+    std::atomic<bool> done_{false};
+    std::thread thread_;
+};
+
+// A scalable font that is installed here.
+std::string InstalledFont() {
+    std::wstring name;
+    LOGFONTW any{};
+    any.lfCharSet = ANSI_CHARSET;
+    const HDC screen = GetDC(nullptr);
+    EnumFontFamiliesExW(
+        screen, &any,
+        [](const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM found) -> int {
+            if (!(type & TRUETYPE_FONTTYPE) || font->lfFaceName[0] == L'@')
+                return 1;
+            *reinterpret_cast<std::wstring*>(found) = font->lfFaceName;
+            return 0;
+        },
+        reinterpret_cast<LPARAM>(&name), 0);
+    ReleaseDC(nullptr, screen);
+    return platform::win32::FromWide(name);
+}
+
+class DialogsOnWindows : public testing::Test {
+  protected:
+    platform::Dialogs& Dialogs() { return system_->Services().dialogs; }
+    Subject& System() { return *system_; }
+    platform::Dialogs::OpenRequest OpenRequest() {
+        platform::Dialogs::OpenRequest request;
+        request.filter = std::string("All Files (*.*)\0*.*\0", 20);
+        request.initialFolder = system_->Folder();
+        request.title = "Open";
+        request.flags = 0x1088140E;
+        request.bufferSize = 768;
+        request.recordSize = 88;
+        return request;
+    }
+
+  private:
+    std::unique_ptr<Subject> system_ = MakeWindows();
+};
+
+}  // namespace
+
+TEST_F(DialogsOnWindows, TheLibraryTellsItsVersion) {
+    EXPECT_GE(Dialogs().LibraryMajorVersion(), 5);
+}
+
+TEST_F(DialogsOnWindows, ACancelledFileDialogAnswersNothing) {
+    const Presser cancel(IDCANCEL);
+    EXPECT_EQ(Dialogs().OpenFile(OpenRequest()), std::nullopt);
+}
+
+TEST_F(DialogsOnWindows, AConfirmedFileDialogAnswersTheFullPath) {
+    System().SetBytes("wincmd.ini", "");
+    for (const std::size_t recordSize : {76U, 88U}) {
+        auto request = OpenRequest();
+        request.recordSize = recordSize;
+        request.fileName = "wincmd.ini";
+        const Presser confirm(IDOK);
+        EXPECT_EQ(Dialogs().OpenFile(request), System().Path("wincmd.ini")) << recordSize;
+    }
+}
+
+TEST_F(DialogsOnWindows, AColourDialogAnswersItsInitialColourWhenConfirmed) {
+    platform::Dialogs::ColorRequest request;
+    request.initial = 0x00804020;
+    request.flags = 385;
+    std::uint32_t custom[16] = {0x00112233};
+    {
+        const Presser confirm(IDOK);
+        EXPECT_EQ(Dialogs().ChooseColor(request, custom), 0x00804020U);
+    }
+    EXPECT_EQ(custom[0], 0x00112233U);
+    const Presser cancel(IDCANCEL);
+    EXPECT_EQ(Dialogs().ChooseColor(request, custom), std::nullopt);
+}
+
+TEST_F(DialogsOnWindows, AFontDialogAnswersWhatItWasGivenWhenConfirmed) {
+    platform::Dialogs::FontRequest request;
+    request.name = InstalledFont();
+    request.size = 10;
+    request.weight = 700;
+    request.italic = true;
+    request.underline = true;
+    request.characterSet = 0;
+    request.flags = 74049;
+    request.minimum = 8;
+    request.maximum = 72;
+    {
+        const Presser confirm(IDOK);
+        const auto answer = Dialogs().ChooseFont(request);
+        ASSERT_TRUE(answer.has_value());
+        EXPECT_EQ(answer->name, request.name);
+        EXPECT_EQ(answer->tenthsOfPoints, 100);
+        EXPECT_EQ(answer->weight, 700);
+        EXPECT_TRUE(answer->italic);
+        EXPECT_TRUE(answer->underline);
+        EXPECT_FALSE(answer->strikethrough);
+    }
+    const Presser cancel(IDCANCEL);
+    EXPECT_FALSE(Dialogs().ChooseFont(request).has_value());
+}
+
+TEST_F(DialogsOnWindows, TheShellOpensADocumentWithItsProgram) {
+    System().SetBytes("open.bat", "@echo opened> \"%~dp0opened.txt\"\r\n");
+    System().Services().shell.Open(0, System().Path("open.bat"));
+    for (int poll = 0; poll < kPolls && System().Bytes("opened.txt").value_or("").empty(); ++poll)
+        Sleep(kPollMilliseconds);
+    EXPECT_THAT(System().Bytes("opened.txt").value_or(""), testing::StartsWith("opened"));
+}
+
+TEST_F(DialogsOnWindows, WhatTheShellCannotOpenIsNoError) {
+    System().Services().shell.Open(0, System().Path("none.exe"));
+}
+
+}  // namespace ordalyn::contract

@@ -1,0 +1,248 @@
+#include "support/platform/MemoryFiles.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Errors.h"
+#include "base/Text.h"
+#include "platform/Wildcard.h"
+
+namespace ordalyn::test {
+
+namespace {
+
+struct PathParts {
+    std::string folder, name;
+};
+
+PathParts SplitPath(const std::string& fullPath) {
+    const std::size_t slash = fullPath.rfind('\\');
+    if (slash == std::string::npos)
+        return {"", fullPath};
+    return {fullPath.substr(0, slash), fullPath.substr(slash + 1)};
+}
+
+bool HasWildcards(std::string_view text) {
+    return text.find_first_of("*?") != std::string_view::npos;
+}
+
+}  // namespace
+
+// Reads the content that the name stood for when it was opened, whatever the name stands for later.
+class MemoryFiles::Reader : public platform::ReadableFile {
+  public:
+    Reader(std::string path, std::shared_ptr<Content> content)
+        : path_(std::move(path)), content_(std::move(content)) {}
+
+    std::size_t Read(char* buffer, std::size_t capacity) override {
+        std::size_t count = std::min(capacity, content_->bytes.size() - at_);
+        if (content_->failAfter) {
+            if (at_ >= *content_->failAfter)
+                throw FileError(path_, kReadFault);
+            count = std::min(count, *content_->failAfter - at_);
+        }
+        content_->bytes.copy(buffer, count, at_);
+        at_ += count;
+        return count;
+    }
+
+  private:
+    std::string path_;
+    std::shared_ptr<Content> content_;
+    std::size_t at_ = 0;
+};
+
+MemoryFiles::MemoryFiles() {
+    AddFolder(currentFolder_);
+}
+
+std::string MemoryFiles::FullPath(std::string_view path) const {
+    std::string whole(path);
+    std::replace(whole.begin(), whole.end(), '/', '\\');
+    const bool network = whole.rfind("\\\\", 0) == 0;
+    const bool hasDrive = whole.size() > 1 && whole[1] == ':';
+    if (!network && !hasDrive) {
+        if (!whole.empty() && whole.front() == '\\')
+            whole = currentFolder_.substr(0, 2) + whole;
+        else
+            whole = currentFolder_ + "\\" + whole;
+    }
+    std::vector<std::string> parts;
+    for (const std::string& part : Split(whole, '\\')) {
+        if (part == "..") {
+            if (parts.size() > 1)
+                parts.pop_back();
+        } else if (!part.empty() && part != ".") {
+            parts.push_back(part);
+        }
+    }
+    return (network ? "\\\\" : "") + Join(parts, "\\");
+}
+
+std::string MemoryFiles::Key(std::string_view fullPath) {
+    return FoldCase(fullPath);
+}
+
+MemoryFiles::File* MemoryFiles::Find(std::string_view path) {
+    const auto found = files_.find(Key(FullPath(path)));
+    return found == files_.end() ? nullptr : &found->second;
+}
+
+const MemoryFiles::File* MemoryFiles::Find(std::string_view path) const {
+    const auto found = files_.find(Key(FullPath(path)));
+    return found == files_.end() ? nullptr : &found->second;
+}
+
+bool MemoryFiles::IsFolder(std::string_view path) const {
+    return folders_.count(Key(FullPath(path))) > 0;
+}
+
+std::unique_ptr<platform::ReadableFile> MemoryFiles::OpenForReading(std::string_view path) {
+    if (path.empty())
+        throw FileError("", kPathNotFound);
+    if (onOpen)
+        onOpen(FullPath(path));
+    const File* file = Find(path);
+    if (file == nullptr) {
+        if (IsFolder(path))
+            throw FileError(std::string(path), kAccessDenied);
+        const bool folderIsThere = IsFolder(SplitPath(FullPath(path)).folder);
+        throw FileError(std::string(path), folderIsThere ? kFileNotFound : kPathNotFound);
+    }
+    if (file->locked)
+        throw FileError(std::string(path), kSharingViolation);
+    return std::make_unique<Reader>(std::string(path), file->content);
+}
+
+bool MemoryFiles::Exists(std::string_view path) {
+    // The system's search finds entries of folders: neither a name that ends in a backslash nor the
+    // root of a drive is one.
+    if (path.empty() || path.back() == '\\' || path.back() == '/')
+        return false;
+    const std::string fullPath = FullPath(path);
+    const auto [folder, name] = SplitPath(fullPath);
+    if (folder.empty())
+        return false;
+    if (HasWildcards(name))
+        return ExistsMatching(folder, name);
+    return Find(path) != nullptr || IsFolder(path);
+}
+
+bool MemoryFiles::ExistsMatching(std::string_view folder, std::string_view pattern) const {
+    if (!IsFolder(folder))
+        return false;
+    const auto matches = [&](const std::string& fullPath) {
+        const PathParts parts = SplitPath(fullPath);
+        return EqualsIgnoreCase(parts.folder, folder) &&
+               platform::MatchesWildcard(parts.name, pattern);
+    };
+    // Every folder but the root of a drive also holds "." and "..".
+    const bool isRoot = folder.size() == 2 && folder.back() == ':';
+    if (!isRoot && platform::MatchesWildcard(".", pattern))
+        return true;
+    return std::any_of(files_.begin(), files_.end(),
+                       [&](const auto& f) { return matches(f.second.path); }) ||
+           std::any_of(folders_.begin(), folders_.end(),
+                       [&](const auto& f) { return matches(f.second); });
+}
+
+std::vector<std::string> MemoryFiles::List(std::string_view folder, std::string_view pattern) {
+    const std::string fullFolder = FullPath(folder);
+    std::vector<std::string> names;
+    for (const auto& [key, file] : files_) {
+        const PathParts parts = SplitPath(file.path);
+        if (EqualsIgnoreCase(parts.folder, fullFolder) &&
+            platform::MatchesWildcard(parts.name, pattern))
+            names.push_back(parts.name);
+    }
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        return CompareIgnoreCase(a, b) < 0;
+    });
+    return names;
+}
+
+void MemoryFiles::Replace(std::string_view path, std::string_view bytes) {
+    if (path.empty())
+        throw FileError("", kPathNotFound);
+    if (IsFolder(path))
+        throw FileError(std::string(path), kAccessDenied);
+    const std::string fullPath = FullPath(path);
+    if (!IsFolder(SplitPath(fullPath).folder))
+        throw FileError(std::string(path), kPathNotFound);
+    const File* file = Find(path);
+    if (file != nullptr && file->locked)
+        throw FileError(std::string(path), kSharingViolation);
+    if (file != nullptr && file->readOnly)
+        throw FileError(std::string(path), kAccessDenied);
+    Set(path, bytes);
+}
+
+void MemoryFiles::Set(std::string_view path, std::string_view bytes) {
+    const std::string fullPath = FullPath(path);
+    AddFolder(SplitPath(fullPath).folder);
+    File& file = files_[Key(fullPath)];
+    if (file.path.empty())
+        file.path = fullPath;
+    // A fresh content: whoever has the file open goes on reading the old one.
+    file.content = std::make_shared<Content>(Content{std::string(bytes), std::nullopt});
+}
+
+void MemoryFiles::Append(std::string_view path, std::string_view bytes) {
+    if (Find(path) == nullptr)
+        Set(path, "");
+    Find(path)->content->bytes += bytes;
+}
+
+void MemoryFiles::Delete(std::string_view path) {
+    files_.erase(Key(FullPath(path)));
+}
+
+void MemoryFiles::Rename(std::string_view from, std::string_view to) {
+    auto node = files_.extract(Key(FullPath(from)));
+    if (node.empty())
+        throw FileError(std::string(from), kFileNotFound);
+    node.mapped().path = FullPath(to);
+    node.key() = Key(node.mapped().path);
+    files_.erase(node.key());
+    files_.insert(std::move(node));
+}
+
+void MemoryFiles::AddFolder(std::string_view path) {
+    const std::string fullPath = FullPath(path);
+    folders_.emplace(Key(fullPath), fullPath);
+    const std::string parent = SplitPath(fullPath).folder;
+    if (!parent.empty() && parent != "\\")
+        AddFolder(parent);
+}
+
+void MemoryFiles::SetCurrentFolder(std::string_view path) {
+    AddFolder(path);
+    currentFolder_ = FullPath(path);
+}
+
+std::optional<std::string> MemoryFiles::Get(std::string_view path) const {
+    const File* file = Find(path);
+    if (file == nullptr)
+        return std::nullopt;
+    return file->content->bytes;
+}
+
+void MemoryFiles::Lock(std::string_view path, bool locked) {
+    if (Find(path) == nullptr)
+        Set(path, "");
+    Find(path)->locked = locked;
+}
+
+void MemoryFiles::FailReadingAfter(std::string_view path, std::size_t count) {
+    if (Find(path) == nullptr)
+        Set(path, "");
+    Find(path)->content->failAfter = count;
+}
+
+void MemoryFiles::FailWriting(std::string_view path, bool fails) {
+    if (Find(path) == nullptr)
+        Set(path, "");
+    Find(path)->readOnly = fails;
+}
+
+}  // namespace ordalyn::test

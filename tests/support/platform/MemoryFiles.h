@@ -1,0 +1,75 @@
+// A file system in memory with the ways of Windows: names compared ignoring case, wildcards, a
+// current folder, readers that go on reading what was renamed or deleted. Path arguments may be
+// relative and may use either slash.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Platform.h"
+
+namespace ordalyn::test {
+
+class MemoryFiles : public platform::Files {
+  public:
+    // The system's error numbers that tests meet in FileError::Code().
+    static constexpr unsigned long kFileNotFound = 2, kPathNotFound = 3, kAccessDenied = 5,
+                                   kSharingViolation = 32, kReadFault = 30;
+
+    MemoryFiles();
+    std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
+    bool Exists(std::string_view path) override;
+    std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
+    void Replace(std::string_view path, std::string_view bytes) override;
+
+    // What other programs do. Missing folders on the way to a new file are made.
+    void Set(std::string_view path, std::string_view bytes);
+    void Append(std::string_view path, std::string_view bytes);  // seen by open readers
+    void Delete(std::string_view path);                          // a file
+    void Rename(std::string_view from, std::string_view to);
+    void AddFolder(std::string_view path);
+    void SetCurrentFolder(std::string_view path);
+    std::optional<std::string> Get(std::string_view path) const;  // nothing for a missing file
+
+    // Another program has the file open without sharing: neither reading nor writing works.
+    void Lock(std::string_view path, bool locked = true);
+    // Reading fails once `count` bytes have been read from an opening of this file.
+    void FailReadingAfter(std::string_view path, std::size_t count);
+    // Replace and the profile calls' writes fail.
+    void FailWriting(std::string_view path, bool fails = true);
+    // Called with the full path just before a file is opened, so that a test can change it between
+    // two openings.
+    std::function<void(const std::string& path)> onOpen;
+
+    std::string FullPath(std::string_view path) const;
+
+  private:
+    struct Content {
+        std::string bytes;
+        std::optional<std::size_t> failAfter;
+    };
+    struct File {
+        std::string path;  // as first written
+        std::shared_ptr<Content> content;
+        bool locked = false;
+        bool readOnly = false;
+    };
+    class Reader;
+
+    static std::string Key(std::string_view fullPath);
+    File* Find(std::string_view path);
+    const File* Find(std::string_view path) const;
+    bool IsFolder(std::string_view path) const;
+    bool ExistsMatching(std::string_view folder, std::string_view pattern) const;
+
+    std::map<std::string, File> files_;           // by folded full path
+    std::map<std::string, std::string> folders_;  // folded full path -> as first written
+    std::string currentFolder_ = "C:\\Work";
+};
+
+}  // namespace ordalyn::test
