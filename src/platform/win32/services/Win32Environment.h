@@ -1,0 +1,17 @@
+// The process's surroundings.
+#pragma once
+
+#include "platform/Platform.h"
+
+namespace ordalyn::platform::win32 {
+
+class Win32Environment : public Environment {
+  public:
+    std::string Expand(std::string_view text) override;
+    std::string Variable(std::string_view name) override;
+    std::string CommandLine() override;
+    std::string ProgramPath() override;
+    LocalTime Now() override;
+};
+
+}  // namespace ordalyn::platform::win32

@@ -1,0 +1,86 @@
+#include "platform/win32/toolkit/Areas.h"
+
+#include "platform/win32/toolkit/WindowClasses.h"
+
+namespace ordalyn::win32 {
+
+using namespace toolkit;
+
+LabelWindow::LabelWindow(Desktop& desktop, Control& control, ControlPeer& container)
+    : Peer(desktop, control, {WC_STATICW, SS_LEFT | SS_NOTIFY}, &container) {
+    HandleMouseItself();
+}
+
+void LabelWindow::SetReadingOrder(bool rightToLeft, Alignment alignment) {
+    ChangeStyle(GWL_STYLE, SS_TYPEMASK, alignment == Alignment::Right ? SS_RIGHT : SS_LEFT);
+    ShowReadingOrder(rightToLeft);
+}
+
+FrameWindow::FrameWindow(Desktop& desktop, Control& control, ControlPeer& container)
+    : Peer(desktop, control, {WC_BUTTONW, BS_GROUPBOX | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT},
+           &container) {
+    HandleMouseItself();
+}
+
+void FrameWindow::SetCaption(std::string_view caption) {
+    ShowCaption(caption);
+    InvalidateRect(handle(), nullptr, TRUE);
+}
+
+void FrameWindow::SetBorder(BorderStyle border, Appearance) {
+    bordered_ = border != BorderStyle::None;
+    if (handle() != nullptr)
+        InvalidateRect(handle(), nullptr, TRUE);
+}
+
+void FrameWindow::SetReadingOrder(bool rightToLeft, Alignment alignment) {
+    ChangeStyle(GWL_STYLE, BS_CENTER, alignment == Alignment::Right ? BS_RIGHT : 0);
+    ShowReadingOrder(rightToLeft);
+}
+
+LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_ERASEBKGND:
+            // The class leaves its inside to its container, which leaves out its children.
+            EraseBackground(reinterpret_cast<HDC>(wParam));
+            return TRUE;
+        case WM_PAINT:
+            if (Bare()) {
+                PAINTSTRUCT paint;
+                EraseBackground(BeginPaint(handle(), &paint));
+                EndPaint(handle(), &paint);
+                return 0;
+            }
+            break;
+        case WM_NCHITTEST:
+            // The class lets the mouse through to what lies below.
+            if (Bare())
+                return HTCLIENT;
+            break;
+        default:
+            break;
+    }
+    return Window::OnMessage(message, wParam, lParam);
+}
+
+PictureBoxWindow::PictureBoxWindow(Desktop& desktop, Control& control, ControlPeer& container)
+    : Peer(desktop, control, {kPictureClass, WS_CLIPCHILDREN, WS_EX_CONTROLPARENT}, &container) {
+    HandleMouseItself();
+}
+
+LRESULT PictureBoxWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_ERASEBKGND:
+            EraseBackground(reinterpret_cast<HDC>(wParam));
+            return TRUE;
+        case WM_PRINTCLIENT:
+            // Themed child windows ask for what lies below them.
+            EraseBackground(reinterpret_cast<HDC>(wParam));
+            break;
+        default:
+            break;
+    }
+    return Window::OnMessage(message, wParam, lParam);
+}
+
+}  // namespace ordalyn::win32

@@ -1,0 +1,265 @@
+#include "platform/win32/toolkit/ComboBoxWindow.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/win32/toolkit/TextBoxWindow.h"
+#include "platform/win32/toolkit/Wide.h"
+
+namespace ordalyn::win32 {
+
+using namespace toolkit;
+
+namespace {
+
+constexpr int kRowsShown = 20;
+constexpr UINT kListClosed = WM_APP + 1;
+
+DWORD StyleOf(bool editable) {
+    const DWORD kind =
+        editable ? CBS_DROPDOWN : CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+    return kind | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP;
+}
+
+}  // namespace
+
+ComboBoxWindow::ComboBoxWindow(Desktop& desktop, ComboBox& box, bool editable,
+                               ControlPeer& container)
+    : Peer(desktop, box, {WC_COMBOBOXW, StyleOf(editable)}, &container),
+      box_(box),
+      editable_(editable) {
+    FocusComesByNotification();
+    Send(CB_LIMITTEXT, 0);
+    Send(CB_SETMINVISIBLE, kRowsShown);
+}
+
+void ComboBoxWindow::Select(int index) {
+    Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+// The control takes the height of its opened list and shrinks to what its font needs when closed.
+Rect ComboBoxWindow::Place(const Rect& wanted) {
+    Remember(wanted);
+    if (handle() == nullptr)
+        return wanted;
+    DWORD start = 0;
+    DWORD end = 0;
+    Send(CB_GETEDITSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    const RECT pixels = desktop().scale.Pixels(wanted);
+    const auto rows = static_cast<int>(Send(CB_GETITEMHEIGHT, 0)) * kRowsShown;
+    RECT closed = {};
+    GetWindowRect(handle(), &closed);
+    const int height = closed.bottom - closed.top + rows + 2 * GetSystemMetrics(SM_CYBORDER);
+    SetWindowPos(handle(), nullptr, pixels.left, pixels.top, pixels.right - pixels.left, height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    // A new size selects the whole text of an editable box, even of one without the focus.
+    if (editable_)
+        Send(CB_SETEDITSEL, 0, MAKELPARAM(start, end));
+    return RealBounds();
+}
+
+Rect ComboBoxWindow::RealBounds() const {
+    RECT closed = {};
+    if (handle() == nullptr || !GetWindowRect(handle(), &closed))
+        return Wanted();
+    Rect bounds = Wanted();
+    bounds.height = desktop().scale.TwipsY(closed.bottom - closed.top);
+    return bounds;
+}
+
+Rect ComboBoxWindow::SetFont(const toolkit::Font& font) {
+    ShowFont(font);
+    MeasureItems();
+    return Place(Wanted());
+}
+
+// Boxes that draw themselves do not look at their font's height.
+void ComboBoxWindow::MeasureItems() {
+    if (editable_ || handle() == nullptr)
+        return;
+    const HDC dc = GetDC(handle());
+    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
+    TEXTMETRICW metrics = {};
+    GetTextMetricsW(dc, &metrics);
+    SelectObject(dc, before);
+    ReleaseDC(handle(), dc);
+    Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), metrics.tmHeight + 2);
+    Send(CB_SETITEMHEIGHT, 0, metrics.tmHeight);
+}
+
+// The control has one frame only; the flat look is its items' look.
+void ComboBoxWindow::SetBorder(BorderStyle, Appearance) {
+    if (handle() != nullptr)
+        InvalidateRect(handle(), nullptr, TRUE);
+}
+
+// The focus of an editable box is its edit field's: going there once more would be told as new.
+void ComboBoxWindow::TakeFocus() {
+    if (!HasFocus())
+        Focus();
+}
+
+void ComboBoxWindow::SetText(std::string_view text) {
+    const ScopedFlag setting(setting_);
+    Select(-1);
+    ShowCaption(text);
+}
+
+void ComboBoxWindow::SelectText(std::size_t start, std::size_t length) {
+    const int end = GetWindowTextLengthW(handle());
+    const int from = TextPosition(start, end);
+    Send(CB_SETEDITSEL, 0, MAKELPARAM(from, from + TextPosition(length, end - from)));
+}
+
+void ComboBoxWindow::InsertItem(int index, std::string_view text) {
+    const ScopedFlag setting(setting_);
+    const std::wstring shown = WideForDisplay(text);
+    const int selected = SelectedIndex();
+    Send(CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(shown.c_str()));
+    if (selected >= index && SelectedIndex() == selected)
+        Select(selected + 1);
+}
+
+void ComboBoxWindow::SetItem(int index, std::string_view text) {
+    const ScopedFlag setting(setting_);
+    const std::wstring shown = WideForDisplay(text);
+    const int selected = SelectedIndex();
+    const std::wstring typed = editable_ ? WideForDisplay(box_.Text()) : std::wstring();
+    Send(CB_DELETESTRING, static_cast<WPARAM>(index));
+    Send(CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(shown.c_str()));
+    if (SelectedIndex() != selected)
+        Select(selected);
+    if (editable_ && selected != index && handle() != nullptr)
+        SetWindowTextW(handle(), typed.c_str());
+}
+
+void ComboBoxWindow::RemoveItem(int index) {
+    const ScopedFlag setting(setting_);
+    // Removing the selected item leaves the text of an editable box, which is no item's any more.
+    const std::wstring typed = editable_ ? WideForDisplay(box_.Text()) : std::wstring();
+    const bool selected = SelectedIndex() == index;
+    Send(CB_DELETESTRING, static_cast<WPARAM>(index));
+    if (!selected || handle() == nullptr)
+        return;
+    Select(-1);
+    if (editable_)
+        SetWindowTextW(handle(), typed.c_str());
+}
+
+void ComboBoxWindow::RemoveAllItems() {
+    const ScopedFlag setting(setting_);
+    Send(CB_RESETCONTENT);
+    if (editable_)
+        ShowCaption("");
+}
+
+void ComboBoxWindow::SetListIndex(int index) {
+    const ScopedFlag setting(setting_);
+    Select(index);
+    if (editable_ && index < 0)
+        ShowCaption("");
+}
+
+void ComboBoxWindow::OnCommand(int code, int) {
+    if (setting_)
+        return;
+    switch (code) {
+        case CBN_SELCHANGE:
+            if (SelectedIndex() >= 0 && SelectedIndex() < box_.ListCount())
+                box_.UserSelected(SelectedIndex());
+            break;
+        case CBN_EDITCHANGE:
+            box_.UserEdited(TextOf(handle()));
+            break;
+        case CBN_SETFOCUS:
+            box_.GotFocus.Raise();
+            break;
+        case CBN_DROPDOWN:
+            WidenList();
+            break;
+        case CBN_CLOSEUP:
+            // The choice itself is told after this.
+            PostMessageW(handle(), kListClosed, 0, 0);
+            break;
+        default:
+            break;
+    }
+}
+
+// Long items are shown whole, as far as the screen allows.
+void ComboBoxWindow::WidenList() {
+    RECT box = {};
+    GetWindowRect(handle(), &box);
+    const HDC dc = GetDC(handle());
+    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
+    int widest = box.right - box.left;
+    constexpr int kMeasured = 200;  // enough to look right, and quick for long lists
+    for (int i = 0; i < box_.ListCount() && i < kMeasured; ++i) {
+        const std::wstring text = WideForDisplay(box_.List(i));
+        SIZE size = {};
+        GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+        widest = std::max<int>(
+            widest, size.cx + GetSystemMetrics(SM_CXVSCROLL) + desktop().scale.Nominal(8));
+    }
+    SelectObject(dc, before);
+    ReleaseDC(handle(), dc);
+    const int room = GetSystemMetrics(SM_CXSCREEN) - box.left;
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::max<int>(std::min(widest, room), 0)));
+}
+
+// Opening a list selects the item that fits the typed text, and closing it without a choice keeps
+// whatever was highlighted; neither is told otherwise.
+void ComboBoxWindow::ReportWhatIsShown() {
+    if (handle() == nullptr || setting_ || IsDroppedDown())
+        return;
+    const int selected = SelectedIndex();
+    if (!editable_) {
+        if (selected != box_.ListIndex() && selected >= 0 && selected < box_.ListCount())
+            box_.UserSelected(selected);
+        return;
+    }
+    const std::string text = TextOf(handle());
+    if (text != box_.Text())
+        box_.UserEdited(text);
+}
+
+LRESULT ComboBoxWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case kListClosed:
+            ReportWhatIsShown();
+            return 0;
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORSTATIC:
+            return reinterpret_cast<LRESULT>(OnColor(reinterpret_cast<HDC>(wParam)));
+        default:
+            return Window::OnMessage(message, wParam, lParam);
+    }
+}
+
+void ComboBoxWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    const bool disabled = (item.itemState & ODS_DISABLED) != 0;
+    const bool highlighted = (item.itemState & ODS_SELECTED) != 0 && !disabled;
+    RECT area = item.rcItem;
+    if (highlighted)
+        FillRect(item.hDC, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
+    else
+        FillRect(item.hDC, &area, BackBrush());
+    if (item.itemID < static_cast<UINT>(box_.ListCount())) {
+        COLORREF color = Resolve(box_.ForeColor());
+        if (highlighted)
+            color = GetSysColor(COLOR_HIGHLIGHTTEXT);
+        else if (disabled)
+            color = GetSysColor(COLOR_GRAYTEXT);
+        SetTextColor(item.hDC, color);
+        SetBkMode(item.hDC, TRANSPARENT);
+        const std::wstring text = WideForDisplay(box_.List(static_cast<int>(item.itemID)));
+        InflateRect(&area, -desktop().scale.Nominal(2), 0);
+        DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &area,
+                  DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    }
+    if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0)
+        DrawFocusRect(item.hDC, &item.rcItem);
+}
+
+}  // namespace ordalyn::win32

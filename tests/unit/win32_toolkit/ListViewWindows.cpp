@@ -1,0 +1,214 @@
+#include "TestForm.h"
+
+namespace ordalyn::test {
+namespace {
+
+using namespace toolkit;
+
+constexpr ControlDesign kControls[] = {
+    {.kind = Kind::ListView, .name = "list", .bounds = {0, 0, 6000, 3000}},
+};
+constexpr FormDesign kDesign = {"frmTest", "", {6000, 3000}, {}, kControls};
+
+class Numbers : public RowSource {
+  public:
+    std::string_view Text(std::int32_t tag, int field) const override {
+        ++asked;
+        if (tag == 1)
+            return {"a\0b", 3};
+        if (tag == 2)
+            return field == 0 ? std::string_view(longText) : std::string_view();
+        text = "row " + std::to_string(tag);
+        return text;
+    }
+    mutable std::string text;
+    mutable int asked = 0;
+    std::string longText = std::string(1'000'000, 'x');
+};
+
+class Lists : public ::testing::Test {
+  protected:
+    Lists() {
+        list.AddColumn("Time", 1001, 0);
+        list.AddColumn("Source", 3003, 1);
+        list.ItemClick.Subscribe([this](int row) { clicked.push_back(row); });
+        form.Show();
+        TheToolkit().DoEvents();
+    }
+    void Fill(int count) {
+        auto tags = std::make_shared<std::vector<std::int32_t>>();
+        for (int i = 0; i < count; ++i)
+            tags->push_back(i);
+        list.Fill(source, tags);
+        TheToolkit().DoEvents();
+    }
+    HWND Window() const { return Child(form, L"SysListView32"); }
+    std::wstring Shown(int row, int column) const {
+        std::wstring text(2000, L'\0');
+        LVITEMW item = {};
+        item.iSubItem = column;
+        item.pszText = text.data();
+        item.cchTextMax = 260;
+        SendMessageW(Window(), LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&item));
+        return item.pszText;
+    }
+    int Selected() const {
+        return static_cast<int>(
+            SendMessageW(Window(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+    }
+    POINT PlaceOf(int row) const {
+        RECT rect = {LVIR_LABEL, 0, 0, 0};
+        SendMessageW(Window(), LVM_GETITEMRECT, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&rect));
+        return {rect.left + 3, (rect.top + rect.bottom) / 2};
+    }
+    void ClickRow(int row) {
+        const POINT at = PlaceOf(row);
+        Click(Window(), at.x, at.y);
+    }
+    Form form{TheToolkit(), kDesign};
+    ListView& list = form.Get<ListView>("list");
+    std::shared_ptr<Numbers> source = std::make_shared<Numbers>();
+    std::vector<int> clicked;
+};
+
+TEST_F(Lists, TextsAreAskedForWithBlanksForNulAndCutToWhatFits) {
+    Fill(5);
+    EXPECT_EQ(Shown(3, 0), L"row 3");
+    EXPECT_EQ(Shown(1, 0), L"a b");
+    EXPECT_EQ(Shown(2, 0), std::wstring(259, L'x'));
+}
+
+TEST_F(Lists, AMillionRowsAskForTheVisibleOnesOnly) {
+    source->asked = 0;
+    Fill(1'000'000);
+    EXPECT_EQ(SendMessageW(Window(), LVM_GETITEMCOUNT, 0, 0), 1'000'000);
+    EXPECT_LT(source->asked, 1000);
+}
+
+TEST_F(Lists, ClickedRowsAreToldOnceEachTime) {
+    Fill(10);
+    ClickRow(3);
+    EXPECT_EQ(clicked, (std::vector<int>{3}));
+    ClickRow(3);
+    EXPECT_EQ(clicked, (std::vector<int>{3, 3}));
+    ClickRow(4);
+    EXPECT_EQ(clicked, (std::vector<int>{3, 3, 4}));
+    EXPECT_EQ(list.SelectedRow(), 4);
+    EXPECT_EQ(Selected(), 4);
+}
+
+TEST_F(Lists, ArrowKeysSelectAndAreTold) {
+    Fill(3);
+    ClickRow(0);
+    clicked.clear();
+    PressKey(Window(), key::Down);
+    PressKey(Window(), key::Down);
+    EXPECT_EQ(clicked, (std::vector<int>{1, 2}));
+    PressKey(Window(), key::Down);
+    EXPECT_EQ(Selected(), 2) << "at the end it stays where it is";
+    EXPECT_EQ(list.SelectedRow(), 2);
+}
+
+TEST_F(Lists, AClickBesideTheRowsSelectsNone) {
+    Fill(2);
+    ClickRow(1);
+    RECT inside = {};
+    GetClientRect(Window(), &inside);
+    Click(Window(), inside.right - 5, inside.bottom - 5);
+    EXPECT_EQ(Selected(), -1);
+    EXPECT_EQ(list.SelectedRow(), -1);
+    EXPECT_EQ(clicked, (std::vector<int>{1}));
+}
+
+TEST_F(Lists, SelectingByCodeShowsItAndTellsNothing) {
+    Fill(10);
+    list.SelectRow(7);
+    EXPECT_EQ(Selected(), 7);
+    list.SelectRow(2);
+    EXPECT_EQ(Selected(), 2);
+    EXPECT_EQ(SendMessageW(Window(), LVM_GETSELECTEDCOUNT, 0, 0), 1);
+    list.SelectRow(-1);
+    EXPECT_EQ(Selected(), -1);
+    EXPECT_TRUE(clicked.empty());
+}
+
+TEST_F(Lists, NewRowsAreShownFromTheTopWithNothingSelected) {
+    Fill(1000);
+    list.SelectRow(900);
+    list.EnsureVisible(900);
+    EXPECT_GT(SendMessageW(Window(), LVM_GETTOPINDEX, 0, 0), 0);
+    Fill(1000);
+    EXPECT_EQ(SendMessageW(Window(), LVM_GETTOPINDEX, 0, 0), 0);
+    EXPECT_EQ(Selected(), -1);
+}
+
+TEST_F(Lists, FewerRowsDropASelectionBehindTheirEnd) {
+    Fill(10);
+    list.SelectRow(9);
+    list.ReplaceRows(std::make_shared<const std::vector<std::int32_t>>(3, 5), -1);
+    EXPECT_EQ(Selected(), -1);
+    EXPECT_EQ(SendMessageW(Window(), LVM_GETITEMCOUNT, 0, 0), 3);
+}
+
+TEST_F(Lists, WidthsAreAnsweredAsSetUntilTheUserDragsThem) {
+    EXPECT_EQ(list.ColumnWidth(0), 1001);
+    SendMessageW(Window(), LVM_SETCOLUMNWIDTH, 0, 150);
+    EXPECT_EQ(list.ColumnWidth(0), static_cast<Twips>(150 * TheToolkit().TwipsPerPixelX()));
+    EXPECT_EQ(list.ColumnWidth(1), 3003);
+}
+
+TEST_F(Lists, ColumnsChangeTheirPlaces) {
+    list.AddColumn("Target", 500, 1);
+    list.SetColumnPosition(2, 0);
+    EXPECT_EQ(list.ColumnPosition(2), 0);
+    EXPECT_EQ(list.ColumnPosition(0), 1);
+    EXPECT_EQ(list.ColumnPosition(1), 2);
+    form.Unload();
+    EXPECT_EQ(list.ColumnPosition(2), 0) << "kept when the window has gone";
+    EXPECT_EQ(list.ColumnWidth(2), 500);
+}
+
+TEST_F(Lists, FlatHeadersCannotBePushed) {
+    const auto header = reinterpret_cast<HWND>(SendMessageW(Window(), LVM_GETHEADER, 0, 0));
+    ASSERT_NE(GetWindowLongW(header, GWL_STYLE) & HDS_BUTTONS, 0);
+    list.FlattenColumnHeaders();
+    EXPECT_EQ(GetWindowLongW(header, GWL_STYLE) & HDS_BUTTONS, 0);
+}
+
+TEST_F(Lists, AListHiddenWhileItIsFilledStaysOnTheScreenWithTheFocus) {
+    Fill(3);
+    list.SetFocus();
+    list.SetVisible(false);
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    list.SetVisible(true);
+    TheToolkit().DoEvents();
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    EXPECT_EQ(GetFocus(), Window());
+    list.SetVisible(false);
+    TheToolkit().DoEvents();
+    EXPECT_FALSE(IsWindowVisible(Window()));
+}
+
+TEST_F(Lists, BordersAndColoursFollowTheSettings) {
+    const auto has = [&](int which, LONG bit) {
+        return (GetWindowLongW(Window(), which) & bit) != 0;
+    };
+    list.SetBorder(BorderStyle::FixedSingle);
+    list.SetLook(Appearance::ThreeDimensional);
+    EXPECT_TRUE(has(GWL_EXSTYLE, WS_EX_CLIENTEDGE));
+    list.SetLook(Appearance::Flat);
+    EXPECT_TRUE(has(GWL_STYLE, WS_BORDER));
+    EXPECT_FALSE(has(GWL_EXSTYLE, WS_EX_CLIENTEDGE));
+    list.SetBorder(BorderStyle::None);
+    EXPECT_FALSE(has(GWL_STYLE, WS_BORDER));
+    list.SetForeColor(0x123456);
+    EXPECT_EQ(SendMessageW(Window(), LVM_GETTEXTCOLOR, 0, 0), 0x123456);
+    list.SetBackColor(kButtonFace);
+    EXPECT_EQ(static_cast<DWORD>(SendMessageW(Window(), LVM_GETBKCOLOR, 0, 0)),
+              GetSysColor(COLOR_BTNFACE));
+}
+
+}  // namespace
+}  // namespace ordalyn::test
