@@ -1,0 +1,25 @@
+#include "app/lists/ListBounds.h"
+
+namespace ordalyn {
+
+void ListBounds::GrowStorage() {
+    upper_ = CheckedAdd(upper_, step_);
+    if (last_ > upper_)
+        throw SubscriptOutOfRange();
+}
+
+void ListBounds::Trim() {
+    if (last_ < 0)
+        throw SubscriptOutOfRange();
+    upper_ = last_;
+}
+
+bool ListBounds::Reset() {
+    if (last_ < 0)
+        return false;
+    last_ = -1;
+    upper_ = step_;
+    return true;
+}
+
+}  // namespace ordalyn
