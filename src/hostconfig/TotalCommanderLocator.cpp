@@ -1,0 +1,161 @@
+#include "hostconfig/TotalCommanderLocator.h"
+
+#include <utility>
+
+#include "base/Text.h"
+#include "hostconfig/cCommonDialog.h"
+#include "hostconfig/cProfile.h"
+#include "hostconfig/cRegistry.h"
+#include "hostconfig/mAppCommon.h"
+
+namespace ordalyn {
+
+namespace {
+
+constexpr std::string_view kRegistryPlaces[] = {
+    "HKEY_CURRENT_USER\\Software\\Ghisler\\Total Commander",
+    "HKEY_LOCAL_MACHINE\\Software\\Ghisler\\Total Commander",
+};
+constexpr std::string_view kConfigurationSection = "Configuration";
+constexpr std::string_view kCommonSection = "Common";
+constexpr std::string_view kFolderKey = "TCInstallDir";
+constexpr std::string_view kIniKey = "UserDefinedWincmd";
+constexpr std::int32_t kNoSettingsFileText = 3046;
+
+// Whether the text goes on with `part` behind its first `count` characters.
+bool HasBehind(std::string_view text, std::size_t count, std::string_view part) {
+    return text.substr(FirstCharacters(text, count).size()).substr(0, part.size()) == part;
+}
+
+std::string_view WithoutEnclosingQuotes(std::string_view text) {
+    if (text.empty() || text.front() != '"' || text.back() != '"')
+        return text;
+    text.remove_prefix(1);
+    return WithoutLastCharacter(text);
+}
+
+}  // namespace
+
+TotalCommanderLocator::TotalCommanderLocator(Surroundings around) : around_(std::move(around)) {}
+
+std::string TotalCommanderLocator::FindCommanderFolder() {
+    std::string folder = SearchFolder();
+    around_.common.SetCommanderFolder(folder);
+    return folder;
+}
+
+std::string TotalCommanderLocator::FindCommanderIni() {
+    std::string path = SearchIni();
+    around_.common.SetCommanderIni(path);
+    return path;
+}
+
+std::string TotalCommanderLocator::FindLogFile() {
+    const std::string commandLine = around_.environment.CommandLine();
+    const std::string_view argument = WithoutEnclosingQuotes(commandLine);
+    if (!argument.empty())
+        return std::string(argument);
+    const mAppCommon& common = around_.common;
+    std::string logFile =
+        common.ExpandPath(around_.profile
+                              .ReadValue(kConfigurationSection, "LogFile", common.NoValueMarker(),
+                                         common.CommanderIni())
+                              .value_or(""));
+    if (common.FileExists(logFile))
+        return logFile;
+    std::string inTemp = InFolderOf("temp", logFile);
+    return common.FileExists(inTemp) ? inTemp : InFolderOf("tmp", logFile);
+}
+
+std::string TotalCommanderLocator::MakeAbsolutePath(std::string_view path) const {
+    const mAppCommon& common = around_.common;
+    std::string expanded = common.ExpandPath(path);
+    if (HasBehind(expanded, 0, ".\\")) {
+        std::string candidate = common.ExpandPath(common.CommanderFolder()) + expanded.substr(2);
+        if (common.FileExists(candidate))
+            return candidate;
+    }
+    if (HasBehind(expanded, 1, ":\\") && common.FileExists(expanded))
+        return expanded;
+    std::string candidate = InFolderOf("windir", expanded);
+    return common.FileExists(candidate) ? candidate : common.NoValueMarker();
+}
+
+std::string TotalCommanderLocator::SearchFolder() {
+    const std::string variable = around_.environment.Variable("Commander_Path");
+    if (!variable.empty()) {
+        WriteCommonEntry(kFolderKey, variable);
+        return mAppCommon::AddBackslash(variable);
+    }
+    for (const std::string_view place : kRegistryPlaces) {
+        if (const std::optional<std::string> folder = FolderInRegistry(place)) {
+            WriteCommonEntry(kFolderKey, *folder);
+            return mAppCommon::AddBackslash(*folder);
+        }
+    }
+    const std::string remembered = ReadCommonEntry(kFolderKey);
+    return around_.common.IsNoValue(remembered) ? around_.common.NoValueMarker()
+                                                : mAppCommon::AddBackslash(remembered);
+}
+
+std::optional<std::string> TotalCommanderLocator::FolderInRegistry(std::string_view path) const {
+    std::string folder = around_.common.ExpandPath(around_.registry.ReadValue(path, "InstallDir"));
+    if (around_.common.IsNoValue(folder))
+        return std::nullopt;
+    return folder;
+}
+
+std::string TotalCommanderLocator::SearchIni() {
+    const mAppCommon& common = around_.common;
+    std::string variable = around_.environment.Variable("Commander_INI");
+    if (!variable.empty() && common.FileExists(variable))
+        return variable;
+    for (const std::string_view place : kRegistryPlaces) {
+        std::string path = MakeAbsolutePath(around_.registry.ReadValue(place, "IniFileName"));
+        if (!common.IsNoValue(path))
+            return path;
+    }
+    std::string remembered = ReadCommonEntry(kIniKey);
+    return common.FileExists(remembered) ? remembered : AskForIni();
+}
+
+std::string TotalCommanderLocator::AskForIni() {
+    around_.toolkit.ShowMessage(around_.owner, around_.text(kNoSettingsFileText),
+                                mAppCommon::kProgramTitle, toolkit::MessageIcon::Exclamation,
+                                toolkit::MessageButtons::Ok);
+    const platform::WindowHandle owner = around_.owner != nullptr ? around_.owner->Handle() : 0;
+    around_.dialog.ShowOpenDialog(owner, around_.common.CommanderFolder(), "Wincmd.ini",
+                                  cCommonDialog::kSettingsFiles, "", true);
+    if (!around_.dialog.Confirmed)
+        return MakeFreshIni();
+    const std::string& chosen = around_.dialog.FileName;
+    WriteCommonEntry(kIniKey, around_.common.UnExpandPath(chosen));
+    return around_.common.ExpandPath(chosen);
+}
+
+std::string TotalCommanderLocator::MakeFreshIni() {
+    std::string path = InFolderOf("windir", "wincmd.ini");
+    around_.profile.WriteValue(kConfigurationSection, "firstmnu", "512", path);
+    around_.profile.WriteValue(kConfigurationSection, "PanelsVertical", "0", path);
+    WriteCommonEntry(kIniKey, around_.common.UnExpandPath(path));
+    return path;
+}
+
+std::string TotalCommanderLocator::ReadCommonEntry(std::string_view key) const {
+    const mAppCommon& common = around_.common;
+    return common.ExpandPath(
+        around_.profile
+            .ReadValue(kCommonSection, key, common.NoValueMarker(), common.SettingsFile())
+            .value_or(""));
+}
+
+void TotalCommanderLocator::WriteCommonEntry(std::string_view key, std::string_view value) const {
+    around_.profile.WriteValue(kCommonSection, key, value, around_.common.SettingsFile());
+}
+
+std::string TotalCommanderLocator::InFolderOf(std::string_view variable,
+                                              std::string_view file) const {
+    return mAppCommon::AddBackslash(around_.environment.Variable(variable)).append(file);
+}
+
+}  // namespace ordalyn

@@ -1,0 +1,73 @@
+// TotalCommanderLocator: finds the file manager's folder, its settings file and the log that the
+// settings file names. The searches run once, when the main window first becomes active: the folder
+// first, then the settings file, then the log, each building on the ones before. What they find is
+// kept in mAppCommon; what helps the next start is kept in the program's settings file.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Platform.h"
+#include "toolkit/Form.h"
+#include "toolkit/Toolkit.h"
+
+namespace ordalyn {
+
+class cCommonDialog;
+class cProfile;
+class cRegistry;
+class mAppCommon;
+
+class TotalCommanderLocator {
+  public:
+    struct Surroundings {
+        mAppCommon& common;
+        const cRegistry& registry;
+        cProfile& profile;
+        cCommonDialog& dialog;
+        platform::Environment& environment;
+        toolkit::Toolkit& toolkit;
+        toolkit::Form* owner;  // of the message and the dialog; null: none
+        std::function<std::string(std::int32_t id)> text;
+    };
+
+    explicit TotalCommanderLocator(Surroundings around);
+
+    // The folder with a trailing backslash, or the marker of absent values. Whether it exists is
+    // not looked at. A folder from the environment or the registry is remembered for the next
+    // start.
+    std::string FindCommanderFolder();
+
+    // The path of the settings file. When it is nowhere to be found the user is told and asked for
+    // it; a user who cancels gets a fresh one in the Windows folder. Shows a message box and a
+    // dialog in that case: whatever events can change may have changed on return.
+    std::string FindCommanderIni();
+
+    // The log of the command line, else the one that the settings file names; as it is, or in the
+    // folder of the variable "temp" or "tmp" when only there is such a file. Nothing says that the
+    // answer exists.
+    std::string FindLogFile();
+
+    // The existing file that a path of the registry means: with ".\" it lies in the file manager's
+    // folder, else, unless it begins with a drive, in the Windows folder. The marker of absent
+    // values when there is none; network paths do not count as full paths and give that too.
+    std::string MakeAbsolutePath(std::string_view path) const;
+
+  private:
+    std::string SearchFolder();
+    std::string SearchIni();
+    std::string AskForIni();
+    std::string MakeFreshIni();
+    std::optional<std::string> FolderInRegistry(std::string_view path) const;
+    std::string ReadCommonEntry(std::string_view key) const;
+    void WriteCommonEntry(std::string_view key, std::string_view value) const;
+    // The path of a file in the folder that an environment variable names.
+    std::string InFolderOf(std::string_view variable, std::string_view file) const;
+
+    Surroundings around_;
+};
+
+}  // namespace ordalyn

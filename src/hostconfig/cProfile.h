@@ -1,0 +1,115 @@
+// cProfile: the only way in which the program reads and writes INI files, its own and the file
+// manager's. It follows the file manager's redirections, so that a caller who asks for an entry of
+// wincmd.ini gets it from the file in which the file manager itself keeps it:
+//  - a section's "RedirectSection" names another file for it ("1": the alternate file, "0": stay);
+//  - "AlternateUserIni" of [Configuration] moves all other sections but the exempt ones.
+// One level only: a target's own redirections do not count, and it need not exist.
+//
+// All names compare ignoring case. Nothing is cached: each operation looks for the redirections
+// afresh. Nothing here reports an error; what cannot be read is absent.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/ProfileText.h"
+
+namespace ordalyn {
+
+class mAppCommon;
+
+namespace test {
+struct ProfileInternals;
+}
+
+class cProfile {
+  public:
+    // In characters, one of which is for the terminating NUL: longer values are cut.
+    static constexpr std::size_t kBufferSize = 4096;
+    // Sections that AlternateUserIni does not move, unless the program's settings file has another
+    // list.
+    static constexpr std::string_view kDefaultExemptSections =
+        "Configuration;Layout;Packer;Confirmation;Extensions;Shortcuts;PackerPlugins;"
+        "FileSystemPlugins;ListerPlugins;ContentPlugins";
+
+    // Reads the list of exempt sections from the program's settings file, once, and writes the
+    // default list there when the entry is absent. An empty entry exempts nothing.
+    cProfile(const platform::Services& services, const mAppCommon& common);
+
+    // No value when the text read is empty: for an empty entry as for an absent one with an empty
+    // default. An absent entry gives a default that is not empty. A file without a byte order mark
+    // is in `codePage`.
+    std::optional<std::string> ReadValue(std::string_view strSectionName,
+                                         std::string_view strKeyName,
+                                         std::string_view strDefaultValue,
+                                         std::string_view strFileName,
+                                         std::size_t lngMaxBufferSize = kBufferSize,
+                                         unsigned codePage = platform::CodePages::kSystem);
+    // Without quotation the value is written without blanks at its ends; with it, between double
+    // quotes as it is. The marker of absent values is not written at all, so that a caller can pass
+    // on what it read.
+    void WriteValue(std::string_view strSectionName, std::string_view strKeyName,
+                    std::string_view strValue, std::string_view strFileName,
+                    bool blnAddQuotation = false);
+    void DeleteValue(std::string_view strSectionName, std::string_view strKeyName,
+                     std::string_view strFileName);
+    void DeleteSection(std::string_view strSectionName, std::string_view strFileName);
+
+    // Each fills one list, which stays until the next call of the same operation. Section names are
+    // those of the file itself: no redirection.
+    void ReadFileSectionsName(std::string_view strFileName,
+                              std::size_t lngMaxBufferSize = kBufferSize);
+    void ReadSectionKeysNameAndValue(std::string_view strSectionName, std::string_view strFileName,
+                                     std::size_t lngMaxBufferSize = kBufferSize);
+    void ReadSectionKeysNameOnly(std::string_view strSectionName, std::string_view strFileName,
+                                 std::size_t lngMaxBufferSize = kBufferSize);
+
+    // Elements from 0 on; SubscriptOutOfRange outside the list. The lists end in empty elements
+    // that the last index, -1 for an empty list, does not count: walk up to it.
+    const std::string& FileSectionsNameList(std::int32_t lngIndex) const;
+    const std::string& SectionKeysNameAndValueList(std::int32_t lngIndex) const;
+    const std::string& SectionKeysNameOnlyList(std::int32_t lngIndex) const;
+    std::int32_t FileSectionsNameLastIndex() const { return sectionNames_.lastIndex; }
+    std::int32_t SectionKeysNameAndValueLastIndex() const { return keysAndValues_.lastIndex; }
+    std::int32_t SectionKeysNameOnlyLastIndex() const { return keyNames_.lastIndex; }
+    // Ignoring case, the last name first.
+    void SortKeysNameOnlyList();
+
+  private:
+    friend struct test::ProfileInternals;
+
+    struct List {
+        std::vector<std::string> elements;
+        std::int32_t lastIndex = -1;
+    };
+    static List SplitList(std::string_view text);
+    static const std::string& ElementOf(const List& list, std::int32_t index);
+
+    std::string ResolveRedirectedFile(std::string_view section, std::string_view key,
+                                      std::string_view file);
+    std::string RedirectionEntry(std::string_view section, std::string_view key,
+                                 std::string_view file);
+    bool IsExempt(std::string_view section) const;
+    // Without redirection.
+    std::optional<std::string> ReadRawValue(std::string_view section, std::string_view key,
+                                            std::string_view otherwise, std::string_view file,
+                                            std::size_t size,
+                                            unsigned codePage = platform::CodePages::kSystem);
+    // Unlike WriteValue it removes the blanks first: it does not write a marker with blanks around
+    // it, and quotes protect no blanks.
+    void WriteRawValue(std::string_view section, std::string_view key, std::string_view value,
+                       std::string_view file, bool addQuotation);
+
+    platform::ProfileText text_;
+    const mAppCommon& common_;
+    std::vector<std::string> exemptSections_;
+    List sectionNames_;
+    List keysAndValues_;
+    List keyNames_;
+};
+
+}  // namespace ordalyn

@@ -1,0 +1,88 @@
+#include "hostconfig/mAppCommon.h"
+
+#include <cstddef>
+
+#include "base/Attempt.h"
+#include "base/Text.h"
+
+namespace ordalyn {
+
+namespace {
+
+constexpr std::string_view kProgramPrefix = "velmordane:\\";
+constexpr std::string_view kCommanderPrefix = "%Commander_Path%\\";
+
+std::string Digits(int number, std::size_t width) {
+    const std::string text = std::to_string(number);
+    return text.size() < width ? std::string(width - text.size(), '0') + text : text;
+}
+
+std::string MakeMarker(const platform::LocalTime& time) {
+    return "vxz" + Digits(time.year, 4) + Digits(time.month, 2) + Digits(time.day, 2) +
+           Digits(time.hour, 2) + Digits(time.minute, 2) + Digits(time.second, 2) + "zxv";
+}
+
+// What follows a beginning that was found ignoring case. Counted in characters: a letter's other
+// case can take another number of bytes.
+std::string_view Behind(std::string_view prefix, std::string_view path) {
+    return path.substr(FirstCharacters(path, CharacterCount(prefix)).size());
+}
+
+}  // namespace
+
+mAppCommon::mAppCommon(const platform::Services& services)
+    : environment_(services.environment),
+      files_(services.files),
+      programFolder_(AddBackslash(FolderPart(environment_.ProgramPath()))),
+      settingsFile_(programFolder_ + "Ordalyn.ini"),
+      noValueMarker_(MakeMarker(environment_.Now())),
+      commanderFolder_(noValueMarker_) {}
+
+bool mAppCommon::IsNoValue(std::string_view text) const {
+    return EqualsIgnoreCase(text, noValueMarker_);
+}
+
+std::string mAppCommon::ExpandPath(std::string_view path) const {
+    if (path.empty())
+        return {};
+    if (StartsWithIgnoreCase(path, kProgramPrefix))
+        return programFolder_ + std::string(Behind(kProgramPrefix, path));
+    std::string expanded(path);
+    Attempt([&] { expanded = environment_.Expand(path); });
+    std::erase(expanded, '\0');
+    return expanded;
+}
+
+std::string mAppCommon::UnExpandPath(std::string_view path) const {
+    if (path.empty())
+        return {};
+    if ((unExpandPaths_ & kUnExpandProgramFolder) != 0 &&
+        StartsWithIgnoreCase(path, programFolder_))
+        return std::string(kProgramPrefix).append(Behind(programFolder_, path));
+    // A folder that is not known is no beginning of anything, not even of the marker itself: a
+    // value that is absent must stay recognisable, or it would be written.
+    if ((unExpandPaths_ & kUnExpandCommanderFolder) != 0 && !IsNoValue(commanderFolder_) &&
+        StartsWithIgnoreCase(path, commanderFolder_))
+        return std::string(kCommanderPrefix).append(Behind(commanderFolder_, path));
+    return std::string(path);
+}
+
+bool mAppCommon::FileExists(std::string_view path) const {
+    bool exists = false;
+    Attempt([&] { exists = files_.Exists(path); });
+    return exists;
+}
+
+std::string mAppCommon::AddBackslash(std::string_view text) {
+    std::string folder(text);
+    if (folder.empty() || folder.back() != '\\')
+        folder += '\\';
+    return folder;
+}
+
+std::string mAppCommon::FolderPart(std::string_view path) {
+    const std::size_t last = path.rfind('\\');
+    return std::string(last == std::string_view::npos ? "" : path.substr(0, last + 1));
+}
+
+}  // namespace ordalyn
