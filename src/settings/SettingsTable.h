@@ -1,0 +1,107 @@
+// The one table of the program's settings: each row is a setting with its place in the settings
+// file, its type, its default, its correction after loading and who writes it. Loading, saving, the
+// page docs/settings.md and the tests over all settings follow from it.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace ordalyn {
+
+// Where a program-wide file section is meant: window and display settings, or paths and limits.
+inline constexpr std::string_view kOrdalynSection = "Ordalyn";
+inline constexpr std::string_view kCommonSection = "Common";
+
+// The values that the program works with. They hold the table's defaults until they are loaded.
+// Flags: 0 is off, any other value is on.
+struct SettingsValues {
+    std::int32_t GridLines = 0;
+    std::int32_t FixedBorders = 0;
+    std::int32_t FlatUserInterface = 0;
+    std::int32_t LongDate = 0;
+    std::int32_t TwoPanels = 0;
+    std::int32_t ForegroundColor = 0;
+    std::int32_t BackgroundColor = 0;
+    std::string FontName;
+    std::int32_t FontScript = 0;
+    std::int32_t FontSize = 0;
+    std::int32_t FontStyle = 0;
+    std::int32_t UseDefaultLanguage = 0;
+    std::string LanguageFile;  // a full path, or the absent-value marker
+    std::int32_t NumberOfRecentFiles = 0;
+    std::int32_t UnExpandPaths = 0;
+    std::int32_t VerticalPanels = 0;
+    std::int32_t VSplitPosition = 0;
+    std::int32_t HSplitPosition = 0;
+    std::int32_t StatusBarVisible = 0;
+};
+
+// Bits of FontStyle.
+enum FontStyleBits : std::int32_t {
+    kFontBold = 1,
+    kFontItalic = 2,
+    kFontStrikethrough = 4,
+    kFontUnderline = 8
+};
+
+enum class SettingType {
+    Flag,    // written as 0 or 1
+    Number,  // 32-bit whole number
+    Color,   // 32-bit whole number; the top bit marks a system colour
+    Text,
+    Path  // text that is stored in its symbolic form
+};
+
+enum class SettingWriter {
+    Options,      // SaveSettings, when the options dialog's changes are accepted
+    MainWindow,   // the main window when it closes
+    PanelLayout,  // the panel layout when the main window closes with two panels
+    Nobody        // the user sets it by hand
+};
+
+struct Setting {
+    using Place = std::variant<std::int32_t SettingsValues::*, std::string SettingsValues::*>;
+
+    std::string_view key;
+    std::string_view section;
+    SettingType type;
+    Place place;
+    // Nothing (a null pointer) means that the setting is absent unless the file holds it.
+    const char* fallback;
+    std::string_view meaning;
+    SettingWriter writer;
+    // Correction after loading: values outside are moved to the nearer end.
+    std::int32_t least = std::numeric_limits<std::int32_t>::min();
+    std::int32_t most = std::numeric_limits<std::int32_t>::max();
+
+    // The value in its written form; flags become 0 or 1 whatever they are in memory.
+    std::string Written(const SettingsValues& values) const;
+};
+
+// All settings, in the order in which they are loaded and saved.
+std::span<const Setting> AllSettings();
+
+// Throws SubscriptOutOfRange for a key (letter case ignored) that is not in the table.
+const Setting& SettingByKey(std::string_view key);
+
+// Defaults of the keys that are not single values.
+inline constexpr std::string_view kMainPlacement = "0,0,12030,8520";
+inline constexpr std::string_view kFiltersPlacement = "3495,7740,8910,795";
+inline constexpr std::string_view kFindOptionsDefault = "0,0,0,0";
+
+// What else the settings file holds: keys that other parts of the program read and write
+// themselves. Kept here so that the page about the file is complete.
+struct OtherEntry {
+    std::string_view key;
+    std::string_view section;
+    std::string_view fallback;  // empty: absent
+    std::string_view meaning;
+    std::string_view writer;
+};
+std::span<const OtherEntry> OtherEntries();
+
+}  // namespace ordalyn

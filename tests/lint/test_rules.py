@@ -1,0 +1,119 @@
+"""Rules of this code base that no compiler checks."""
+
+import pathlib
+import re
+import shutil
+import subprocess
+
+import pytest
+
+PROJECT = pathlib.Path(__file__).resolve().parents[2]
+LONGEST_FILE = 450
+
+# Headers of the system that only src/platform/win32 may know.
+SYSTEM_HEADERS = re.compile(
+    r"^\s*#\s*include\s*<((?:windows|winsock2?|ws2tcpip|commctrl|commdlg|shellapi|shlobj|shlwapi|"
+    r"ole2|oleauto|objbase|oaidl|uxtheme|winver|winreg|winuser|winbase|wingdi|windowsx|vssym32|"
+    r"dlgs|cderr|richedit|unistd|sys/\w+)\.h)>", re.M | re.I)
+
+
+def tracked(*patterns):
+    """Files of the project that match, also ones that are not committed yet."""
+    names = subprocess.run(
+        ["git", "ls-files", "--cached", "--others", "--exclude-standard", "--", *patterns],
+        cwd=PROJECT, stdout=subprocess.PIPE, check=True).stdout.decode().splitlines()
+    return [PROJECT / name for name in sorted(set(names)) if (PROJECT / name).is_file()]
+
+
+def code(*folders):
+    return tracked(*[f"{folder}/*.{end}" for folder in folders for end in ("h", "cpp")])
+
+
+def name(file):
+    return str(file.relative_to(PROJECT))
+
+
+def text(file):
+    return file.read_text(encoding="utf-8")
+
+
+def without_comments(source):
+    """Comments and the insides of texts become blanks; lines stay where they are."""
+    def blank(match):
+        found = match.group()
+        return found if found[0] in "\"'" and len(found) < 3 else re.sub(r"[^\n]", " ", found)
+    return re.sub(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', blank, source, flags=re.S)
+
+
+def test_there_is_code_to_check():
+    assert len(code("src")) > 10
+
+
+def test_only_the_windows_room_includes_system_headers():
+    allowed = ("src/platform/win32/", "src/app/WinMain.cpp")
+    found = [f"{name(file)}: {header}" for file in code("src") if not name(file).startswith(allowed)
+             for header in SYSTEM_HEADERS.findall(text(file))]
+    assert found == []
+
+
+def test_nothing_below_the_forms_knows_what_a_log_is():
+    above = re.compile(r'#include "(app|find|hostconfig|log|settings|ui)/')
+    found = [f"{name(file)}: {match}" for file in code("src/base", "src/toolkit", "src/platform")
+             for match in above.findall(text(file))]
+    assert found == []
+
+
+def test_no_handler_swallows_an_exception_without_a_word():
+    empty = re.compile(r"catch\s*\([^)]*\)\s*\{\s*\}")
+    found = [f"{name(file)}:{without_comments(text(file))[:match.start()].count(chr(10)) + 1}"
+             for file in code("src", "tests")
+             for match in empty.finditer(without_comments(text(file)))]
+    assert found == []
+
+
+def test_no_file_of_the_program_is_too_long_to_read():
+    found = {name(file): lines for file in code("src")
+             if (lines := text(file).count("\n")) > LONGEST_FILE}
+    assert found == {}
+
+
+def test_headers_guard_themselves():
+    found = [name(file) for file in tracked("src/*.h", "tests/*.h")
+             if "#pragma once" not in text(file)]
+    assert found == []
+
+
+def test_nothing_is_left_for_later():
+    marks = re.compile(r"\b(?:TODO|FIXME|XXX|HACK)\b")
+    found = [name(file) for file in code("src", "tests") if marks.search(text(file))]
+    assert found == []
+
+
+def test_files_are_utf_8_with_unix_line_ends():
+    found = []
+    for file in code("src", "tests") + tracked("*.py", "*.sh", "*.txt", "*.cmake", "*.md", "*.json"):
+        if name(file).startswith("samples/"):
+            continue
+        content = file.read_bytes()
+        content.decode("utf-8")
+        if b"\r" in content or b"\t" in content or (content and not content.endswith(b"\n")):
+            found.append(name(file))
+    assert found == []
+
+
+def test_code_is_laid_out_by_the_layout_tool():
+    files = [str(file) for file in code("src", "tests")]
+    done = subprocess.run(["clang-format-14", "--dry-run", *files], stderr=subprocess.PIPE,
+                          cwd=PROJECT, check=False)
+    wrong = sorted(set(re.findall(r"^(\S+?):\d+:\d+: warning", done.stderr.decode(), re.M)))
+    assert wrong == [] and done.returncode == 0
+
+
+def test_shell_scripts_are_clean():
+    scripts = [str(file) for file in tracked("*.sh", ".ci/run")]
+    assert scripts
+    if not shutil.which("shellcheck"):
+        pytest.fail("shellcheck is missing; tools/setup.sh test installs it")
+    done = subprocess.run(["shellcheck", "-x", *scripts], stdout=subprocess.PIPE, cwd=PROJECT,
+                          check=False)
+    assert done.stdout.decode() == ""

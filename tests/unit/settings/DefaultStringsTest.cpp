@@ -1,0 +1,101 @@
+#include "settings/cDefaultStrings.h"
+
+#include <gmock/gmock.h>
+
+#include <array>
+
+#include "base/Text.h"
+
+namespace ordalyn {
+namespace {
+
+TEST(DefaultStrings, ATextIsFoundByItsId) {
+    const cDefaultStrings strings;
+    EXPECT_EQ(strings.GetDefaultString(101), "&File");
+    EXPECT_EQ(strings.GetDefaultString(3048), "Cannot find language file!");
+    EXPECT_EQ(strings.GetDefaultString(4010), "%i Operation(s)");
+    EXPECT_EQ(strings.GetDefaultString(4050), "Cannot find Total Commander log file.");
+}
+
+TEST(DefaultStrings, TheFilterTextKeepsItsTrailingBlank) {
+    EXPECT_EQ(cDefaultStrings().GetDefaultString(4032), "Filter: ");
+}
+
+TEST(DefaultStrings, AnIdThatTheTableLacksIsEmpty) {
+    const cDefaultStrings strings;
+    EXPECT_EQ(strings.GetDefaultString(102), "");
+    EXPECT_EQ(strings.GetDefaultString(0), "");
+    EXPECT_EQ(strings.GetDefaultString(-101), "");
+    EXPECT_EQ(strings.GetDefaultString(10), "");  // only a beginning of other ids
+}
+
+TEST(DefaultStrings, ATextMayHoldAnEqualsSign) {
+    constexpr std::array<std::string_view, 1> table = {"7=a=b=c"};
+    EXPECT_EQ(cDefaultStrings(table).GetDefaultString(7), "a=b=c");
+}
+
+TEST(DefaultStrings, TheFirstOfTwoEntriesWithOneIdCounts) {
+    constexpr std::array<std::string_view, 3> table = {"6=x", "7=first", "7=second"};
+    EXPECT_EQ(cDefaultStrings(table).GetDefaultString(7), "first");
+}
+
+TEST(DefaultStrings, TheTableIsOrderedAndHasEachIdOnce) {
+    std::int32_t before = 0;
+    for (const std::string_view entry : cDefaultStrings::BuiltInTable()) {
+        const std::int32_t id = ToLong(entry.substr(0, entry.find('=')));
+        EXPECT_GT(id, before);
+        before = id;
+    }
+    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 77U);
+}
+
+// The texts whose every character matters to what is shown or to translators.
+struct Expected {
+    std::int32_t id;
+    const char* text;
+};
+constexpr Expected kExpected[] = {
+    {103, "&Open..."},
+    {107, "&Recent Files"},
+    {108, "No Recent Files"},
+    {109, "Clear List"},
+    {110, "E&xit"},
+    {143, "Status &Bar"},
+    {145, "&Vertical Panels"},
+    {150, "&Options..."},
+    {162, "Help &Topics"},
+    {250, "&Search"},
+    {252, "Find &Next"},
+    {254, "&Find what:"},
+    {258, "Match whole word &only"},
+    {259, "Cannot find"},
+    {1010, "&Apply"},
+    {1025, "Fixed &borders"},
+    {1089, "Change language:"},
+    {1505, "For the latest information on this program please visit the program home page."},
+    {3009, "Are you sure?"},
+    {3015, "There is an error in file"},
+    {3016, "Line:"},
+    {3021, "Cannot find this file"},
+    {3022, "Please verify that the correct path and file name are given."},
+    {3046, "Cannot find Total Commander settings file [Wincmd.ini]"},
+    {3250, "Reading... Please wait."},
+    {4005, "All dates"},
+    {4006, "All files"},
+    {4015, "&Long date format"},
+    {4016, "&Selected date only"},
+    {4021, "&Two Panels"},
+    {4022, "Copy &Source"},
+    {4023, "Copy &Target"},
+    {4030, "Filte&r..."},
+    {4034, "Does not contain"},
+};
+
+TEST(DefaultStrings, TextsAreAsWritten) {
+    const cDefaultStrings strings;
+    for (const Expected& expected : kExpected)
+        EXPECT_EQ(strings.GetDefaultString(expected.id), expected.text);
+}
+
+}  // namespace
+}  // namespace ordalyn
