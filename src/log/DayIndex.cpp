@@ -1,0 +1,43 @@
+#include "log/DayIndex.h"
+
+#include "base/CheckedMath.h"
+#include "base/Text.h"
+
+namespace ordalyn {
+
+namespace {
+
+constexpr std::int32_t kGrowthStep = 365;
+
+}  // namespace
+
+DayIndex::DayIndex() {
+    starts_.InitialCount(kGrowthStep);
+}
+
+std::vector<std::string> DayIndex::Build(const cStringArray& dates) {
+    starts_.Clear();
+    std::vector<std::string> days;
+    // Equal dates in a row are one text of the store, so nearly every entry is settled by its
+    // position.
+    TextPosition previous{};
+    for (std::int32_t i = 0; i <= dates.ListCount(); ++i) {
+        const TextPosition position = dates.Position(i);
+        if (position == TextPosition{} || position == previous)
+            continue;
+        const std::string_view date = dates.List(i);
+        previous = position;
+        if (!days.empty() && EqualsIgnoreCase(date, days.back()))
+            continue;
+        starts_.AddItem(days.empty() ? 0 : i);
+        days.emplace_back(date);
+    }
+    if (days.empty())
+        return days;
+    firstDayItem_ = days.size() > 1 ? 1 : 0;
+    starts_.AddItem(CheckedAdd(dates.ListCount(), 1));
+    starts_.FreeExtraItems();
+    return days;
+}
+
+}  // namespace ordalyn

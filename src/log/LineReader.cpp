@@ -1,0 +1,130 @@
+#include "log/LineReader.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "base/CheckedMath.h"
+#include "base/Text.h"
+#include "log/ByteScan.h"
+
+namespace ordalyn {
+
+namespace {
+
+// Small enough to stay in the processor's cache between being read and being looked through.
+constexpr std::size_t kBlock = TextStore::kLeastLoan;
+// A buffer with less room than this is not worth another call.
+constexpr std::size_t kLeastRoom = 4096;
+
+}  // namespace
+
+LineReader::LineReader(std::unique_ptr<platform::ReadableFile> file, platform::CodePages& codePages,
+                       TextStore* store)
+    : bytes_(std::move(file)), codePages_(codePages), store_(store) {}
+
+std::optional<std::string_view> LineReader::Next() {
+    const char* begin = nullptr;
+    const char* end = nullptr;
+    bool ascii = true;
+    if (!NextRaw(begin, end, ascii))
+        return std::nullopt;
+    const std::string_view line(begin, static_cast<std::size_t>(end - begin));
+    return ascii ? line : Decode(line);
+}
+
+bool LineReader::Skip() {
+    const char* begin = nullptr;
+    const char* end = nullptr;
+    bool ascii = true;
+    return NextRaw(begin, end, ascii);
+}
+
+// The bytes of the next line, and whether they are all below 128.
+inline bool LineReader::NextRaw(const char*& begin, const char*& end, bool& ascii) {
+    std::size_t looked = 0;  // bytes of this line that hold no end
+    for (;;) {
+        const char* stop = buffer_ + end_;
+        const bytescan::LineEnd found = bytescan::FindLineEnd(buffer_ + begin_ + looked, stop);
+        ascii = ascii && found.ascii;
+        if (found.at != stop) {
+            begin = buffer_ + begin_;
+            end = found.at;
+            begin_ = static_cast<std::size_t>(found.at - buffer_) + 1;
+            if (*found.at == '\r') {
+                if (begin_ == end_)
+                    ignoreLineFeed_ = true;
+                else if (buffer_[begin_] == '\n')
+                    ++begin_;
+            }
+            return true;
+        }
+        looked = end_ - begin_;
+        if (!Fill()) {
+            begin = buffer_ + std::exchange(begin_, end_);
+            end = buffer_ + end_;
+            return looked > 0;
+        }
+    }
+}
+
+// Reads more behind what is left of the buffer. Answers false at the end of the file.
+bool LineReader::Fill() {
+    if (capacity_ - end_ < kLeastRoom)
+        MakeRoom();
+    const std::size_t count = bytes_.Read(buffer_ + end_, capacity_ - end_);
+    if (count == 0)
+        return false;
+    if (std::exchange(ignoreLineFeed_, false) && buffer_[end_] == '\n')
+        ++begin_;
+    end_ += count;
+    return true;
+}
+
+// Moves the unfinished line to the start of a buffer that has room for more.
+void LineReader::MakeRoom() {
+    const std::size_t left = end_ - begin_;
+    const std::size_t size = std::max(kBlock, left * 2 + bytescan::kSlack);
+    const char* line = buffer_ + begin_;
+    if (store_ == nullptr && size <= capacity_ + bytescan::kSlack) {
+        std::memmove(buffer_, line, left);
+    } else {
+        std::unique_ptr<char[]> own;
+        if (store_ == nullptr)
+            own = std::make_unique_for_overwrite<char[]>(size);
+        char* room = store_ != nullptr ? store_->Lend(size) : own.get();
+        std::copy_n(line, left, room);
+        buffer_ = room;
+        capacity_ = size - bytescan::kSlack;
+        ownBuffer_ = std::move(own);
+    }
+    begin_ = 0;
+    end_ = left;
+}
+
+std::string_view LineReader::Decode(std::string_view line) {
+    while (line.starts_with(kUtf8Mark))
+        line.remove_prefix(kUtf8Mark.size());
+    if (bytescan::IsUtf8(line.data(), line.data() + line.size()))
+        return line;
+    decoded_ =
+        bytes_.Marked() ? ToValidUtf8(line) : codePages_.ToUtf8(line, platform::CodePages::kSystem);
+    return decoded_;
+}
+
+std::int32_t CountFileLines(platform::Files& files, std::string_view path) {
+    LogBytes bytes(files.OpenForReading(path));
+    const auto buffer = std::make_unique_for_overwrite<char[]>(kBlock);
+    std::int64_t lines = 1;
+    char last = '\n';
+    while (const std::size_t count = bytes.Read(buffer.get(), kBlock)) {
+        lines += static_cast<std::int64_t>(
+            bytescan::CountLineEnds(buffer.get(), buffer.get() + count, last == '\r'));
+        last = buffer[count - 1];
+    }
+    if (last != '\n' && last != '\r')
+        ++lines;  // the last line has no end
+    return NarrowChecked(lines);
+}
+
+}  // namespace ordalyn

@@ -1,0 +1,94 @@
+// LogFileReading opens logs for the main window: the file dialog, the title, the progress window,
+// the message when something is wrong with the file, and what follows a read.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "log/DayPanels.h"
+#include "log/EntryLists.h"
+#include "log/LogReader.h"
+#include "toolkit/Form.h"
+
+namespace ordalyn {
+
+// The window that shows how far a read has come.
+class ReadingProgress {
+  public:
+    virtual ~ReadingProgress() = default;
+    // A read that starts a new list has the compact form; one of several files has the tall form,
+    // with the file's name and a Cancel button.
+    virtual void PrepareCompact() = 0;
+    virtual void PrepareTall(std::string_view fileName) = 0;
+    // Shows the hourglass pointer and the window, with the bar at 1 of `max`, and handles waiting
+    // messages once so that it is painted.
+    virtual void ShowProgress(std::string_view caption, std::int32_t max) = 0;
+    // Throws InvalidPropertyValue beyond `max`.
+    virtual void SetValue(std::int32_t value) = 0;
+    // Takes the window away and restores the normal pointer. Nothing happens when there is none.
+    virtual void HideProgress() = 0;
+};
+
+class LogFileReading {
+  public:
+    struct Surroundings {
+        toolkit::Form& form;  // the main window
+        toolkit::ListView& SourceListView;
+        DayPanels& panels;
+        ReadingProgress& progress;
+        std::function<std::string(std::int32_t)> strings;
+        // Asks the user for a log, starting in the folder; nothing when the user cancels.
+        std::function<std::optional<std::string>(const std::string& initialFolder)> chooseFile;
+        std::function<void(const std::string& text)> setTitle;
+        // Puts the file first into the list of recent files, and saves the list.
+        std::function<void(const std::string& path)> rememberFile;
+        // Lets the user use the program's windows, the progress window apart, or keeps them from
+        // it.
+        std::function<void(bool enabled)> enableWindows;
+        std::string messageTitle;
+    };
+
+    // Keeps the windows from being used for as long as one of these lives: a read handles messages
+    // at some places, and nothing may begin another one there.
+    class Busy {
+      public:
+        explicit Busy(LogFileReading& reading);
+        ~Busy();
+        Busy(const Busy&) = delete;
+        Busy& operator=(const Busy&) = delete;
+
+      private:
+        LogFileReading& reading_;
+    };
+
+    LogFileReading(LogReader& reader, EntryLists& entries, Surroundings surroundings);
+
+    // Reads one whole file. A failure of any kind ends in a message that names the file and the
+    // line; the entries before it stay in the lists, and the days are not listed anew. Does nothing
+    // while another file is being read.
+    void ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles,
+                     bool startNewList);
+    // Reads the lines that were added since the last read, then shows the last day and its last
+    // row.
+    void ReadAppendedLines(const std::string& fileName);
+    void HideProgress() { around_.progress.HideProgress(); }
+
+    // Set by the progress window's Cancel button; looked at between the files of a set only.
+    bool CancelReading = false;
+
+  private:
+    void Prepare(const std::string& fileName, bool startNewList);
+    void ReadWhole(const std::string& fileName, bool addToRecentFiles, bool startNewList);
+    void ShowReadError();
+
+    LogReader& reader_;
+    EntryLists& entries_;
+    Surroundings around_;
+    int busy_ = 0;
+    bool reading_ = false;
+};
+
+}  // namespace ordalyn

@@ -1,0 +1,319 @@
+#include "log/LogReader.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "unit/log/ScriptedFiles.h"
+
+namespace ordalyn {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::string kPath = "C:\\logs\\x.log";
+
+class LogReaderTest : public testing::Test {
+  protected:
+    void ReadFile(const std::string& path) {
+        reader.BeginFile(path);
+        reader.ReadEntries();
+    }
+    static std::vector<std::string> Items(const cStringArray& list) {
+        std::vector<std::string> items;
+        for (std::int32_t i = 0; i <= list.ListCount(); ++i)
+            items.emplace_back(list.List(i));
+        return items;
+    }
+    std::vector<std::string> Files() const { return Items(entries.EntryFiles()); }
+    std::vector<std::string> Dates() const { return Items(entries.EntryDates()); }
+    std::vector<std::string> Sources() const { return Items(entries.EntrySources()); }
+    std::vector<std::string> Targets() const { return Items(entries.EntryTargets()); }
+
+    test::ScriptedFiles files;
+    test::Latin1CodePages codePages;
+    EntryLists entries;
+    LogReader reader{files, codePages, entries};
+};
+
+TEST_F(LogReaderTest, StartsWithoutAFile) {
+    EXPECT_EQ(reader.CurrentLogFile(), "");
+    EXPECT_EQ(reader.LineCount(), 0);
+    EXPECT_EQ(reader.LineNumber(), 0);
+}
+
+TEST_F(LogReaderTest, ReadsCommentsAndOperations) {
+    files.Put(kPath, "; hello\r\nd t: Copy x -> y\r\n;\r\ne u: Delete z\r\n");
+    ReadFile(kPath);
+    EXPECT_THAT(Files(), ElementsAre("x.log", "x.log", "x.log", "x.log"));
+    EXPECT_THAT(Dates(), ElementsAre("", "d", "", "e"));
+    EXPECT_THAT(Sources(), ElementsAre(";  hello", "t: Copy x ", "; ", "u: Delete z"));
+    EXPECT_THAT(Targets(), ElementsAre("", "y", "", ""));
+    EXPECT_EQ(reader.CurrentLogFile(), kPath);
+    EXPECT_EQ(reader.LineCount(), 5);
+    EXPECT_EQ(reader.LineNumber(), 4);
+    EXPECT_EQ(files.openNow, 0);
+}
+
+TEST_F(LogReaderTest, BlanksAroundALineAreIgnored) {
+    files.Put(kPath, "   d t: Copy x -> y   \n  ; c  \n\t\n");
+    reader.BeginFile(kPath);
+    EXPECT_THROW(reader.ReadEntries(), MalformedText) << "a tab is no blank";
+    EXPECT_EQ(reader.LineNumber(), 3);
+    EXPECT_THAT(Sources(), ElementsAre("t: Copy x ", ";  c"));
+    EXPECT_THAT(Targets(), ElementsAre("y", ""));
+}
+
+TEST_F(LogReaderTest, ATrimmedLineCanEndInItsArrow) {
+    files.Put(kPath, "d t: Copy x ->   \n");
+    ReadFile(kPath);
+    EXPECT_THAT(Sources(), ElementsAre("t: Copy x "));
+    EXPECT_THAT(Targets(), ElementsAre(""));
+}
+
+TEST_F(LogReaderTest, BlankLinesAreNoEntriesButCount) {
+    files.Put(kPath, "\r\n   \r\nd t: a\r\n\r\ngarbage\r\nd t: b\r\n");
+    reader.BeginFile(kPath);
+    EXPECT_EQ(reader.LineCount(), 7);
+    EXPECT_THROW(reader.ReadEntries(), MalformedText);
+    EXPECT_EQ(reader.LineNumber(), 5);
+    EXPECT_THAT(Sources(), ElementsAre("t: a")) << "what was read before the failure stays";
+    EXPECT_EQ(files.openNow, 0) << "the file is closed after a failure";
+}
+
+TEST_F(LogReaderTest, AnEmptyFileAppendsNothing) {
+    files.Put(kPath, "");
+    ReadFile(kPath);
+    EXPECT_EQ(reader.LineCount(), 1);
+    EXPECT_EQ(reader.LineNumber(), 0);
+    EXPECT_THROW(entries.FreeExtraItems(), SubscriptOutOfRange);
+}
+
+TEST_F(LogReaderTest, AFileThatCannotBeOpenedFailsAtLineZero) {
+    files.Put(kPath, "d t: a\nd t: b");
+    ReadFile(kPath);
+    EXPECT_THROW(reader.BeginFile("C:\\missing.log"), FileError);
+    EXPECT_EQ(reader.LineNumber(), 0);
+    EXPECT_EQ(reader.CurrentLogFile(), "C:\\missing.log");
+    EXPECT_EQ(reader.LineCount(), 3) << "the count of the file before";
+}
+
+TEST_F(LogReaderTest, AFileThatVanishesBetweenThePassesFailsAtLineZero) {
+    files.Put(kPath, "d t: a");
+    reader.BeginFile(kPath);
+    files.Remove(kPath);
+    EXPECT_THROW(reader.ReadEntries(), FileError);
+    EXPECT_EQ(reader.LineNumber(), 0);
+    EXPECT_EQ(reader.LineCount(), 2);
+}
+
+TEST_F(LogReaderTest, AFileThatGrowsBetweenThePassesFailsAtTheFirstLineThatWasNotCounted) {
+    files.Put(kPath, "d t: a\nd t: b\n");
+    files.PutNext(kPath, "d t: a\nd t: b\nd t: c\nd t: d\n");
+    reader.BeginFile(kPath);
+    EXPECT_EQ(reader.LineCount(), 3);
+    EXPECT_THROW(reader.ReadEntries(), InvalidPropertyValue);
+    EXPECT_EQ(reader.LineNumber(), 3);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b"));
+    EXPECT_EQ(files.openNow, 0);
+}
+
+TEST_F(LogReaderTest, AFileThatShrinksBetweenThePassesIsRead) {
+    files.Put(kPath, "d t: a\nd t: b\n");
+    files.PutNext(kPath, "d t: a\n");
+    ReadFile(kPath);
+    EXPECT_EQ(reader.LineCount(), 3);
+    EXPECT_EQ(reader.LineNumber(), 1);
+}
+
+TEST_F(LogReaderTest, AReadThatBreaksOffFailsAtTheLineBefore) {
+    files.Put(kPath, "d t: a\nd t: b\nd t: c\n");
+    reader.BeginFile(kPath);
+    files.mostAtOnce = 4;
+    files.failAfter = 8;
+    EXPECT_THROW(reader.ReadEntries(), FileError);
+    EXPECT_EQ(reader.LineNumber(), 1);
+    EXPECT_EQ(files.openNow, 0);
+}
+
+TEST_F(LogReaderTest, SeveralFilesFormOneModel) {
+    files.Put("C:\\logs\\x.1.log", "d t: a\n");
+    files.Put(kPath, "d t: b\ne t: c\n");
+    ReadFile("C:\\logs\\x.1.log");
+    ReadFile(kPath);
+    EXPECT_THAT(Files(), ElementsAre("x.1.log", "x.log", "x.log"));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c"));
+    EXPECT_EQ(reader.LineCount(), 3) << "of the last file only";
+}
+
+TEST_F(LogReaderTest, ProgressGrowsToItsMaximumInFewSteps) {
+    std::string bytes;
+    for (int i = 0; i < 10'000; ++i)
+        bytes += "d t: a\n";
+    files.Put(kPath, bytes);
+    reader.BeginFile(kPath);
+    std::vector<std::int32_t> values;
+    reader.ReadEntries([&](std::int32_t value) { values.push_back(value); });
+    ASSERT_FALSE(values.empty());
+    EXPECT_LE(values.size(), 205U);
+    EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
+    EXPECT_GT(values.front(), 1);
+    EXPECT_LE(values.back(), reader.LineCount());
+    EXPECT_GE(values.back(), reader.LineCount() - 50);
+}
+
+TEST_F(LogReaderTest, ProgressOfAShortFileShowsEveryLine) {
+    files.Put(kPath, "d t: a\n\n;c\n");
+    reader.BeginFile(kPath);
+    std::vector<std::int32_t> values;
+    reader.ReadEntries([&](std::int32_t value) { values.push_back(value); });
+    EXPECT_THAT(values, ElementsAre(2, 3, 4));
+}
+
+TEST_F(LogReaderTest, MarksAndEncodingsNeverReachAField) {
+    files.Put(kPath,
+              "\xEF\xBB\xBF"
+              "d t: Copy \xC3\xA4 -> \xC3\xB6\r\n\xEF\xBB\xBF"
+              "e u: x\r\n");
+    ReadFile(kPath);
+    EXPECT_THAT(Dates(), ElementsAre("d", "e"));
+    EXPECT_THAT(Sources(), ElementsAre("t: Copy \xC3\xA4 ", "u: x"));
+    EXPECT_THAT(Targets(), ElementsAre("\xC3\xB6", ""));
+}
+
+// Refresh.
+
+TEST_F(LogReaderTest, AnUnchangedFileHasNothingAppended) {
+    files.Put(kPath, "d t: a\r\n\r\nd t: b\r\n");
+    ReadFile(kPath);
+    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b"));
+    EXPECT_EQ(reader.LineCount(), 4);
+    EXPECT_EQ(files.openNow, 0);
+}
+
+TEST_F(LogReaderTest, AppendedLinesAreReadOnce) {
+    files.Put(kPath, "d t: a\r\n");
+    ReadFile(kPath);
+    entries.FreeExtraItems();
+    files.Put(kPath, "d t: a\r\nd t: Copy b -> c\r\n\r\n  e t: d  \r\n");
+    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Dates(), ElementsAre("d", "d", "e"));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: Copy b ", "t: d"));
+    EXPECT_THAT(Targets(), ElementsAre("", "c", ""));
+    EXPECT_EQ(reader.LineCount(), 5);
+    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: Copy b ", "t: d"));
+    EXPECT_EQ(files.openNow, 0);
+}
+
+TEST_F(LogReaderTest, AppendedBlankLinesCountAsNewLines) {
+    files.Put(kPath, "d t: a\n");
+    ReadFile(kPath);
+    files.Put(kPath, "d t: a\n\n");
+    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Sources(), ElementsAre("t: a"));
+    EXPECT_EQ(reader.LineCount(), 3);
+}
+
+TEST_F(LogReaderTest, AppendedLinesExtendNeitherFilesNorAreTheyTrimmed) {
+    files.Put(kPath, "d t: a\n");
+    ReadFile(kPath);
+    entries.FreeExtraItems();
+    files.Put(kPath, "d t: a\nd t: b\n");
+    reader.ReadAppendedLines(kPath);
+    EXPECT_THAT(Files(), ElementsAre("x.log"));
+    EXPECT_EQ(entries.EntryFiles().List(1), "");
+    EXPECT_THROW(entries.EntryFiles().List(2), SubscriptOutOfRange);
+    EXPECT_EQ(entries.EntrySources().UpperIndex(), 2000);
+}
+
+TEST_F(LogReaderTest, AppendedLinesKnowNoComments) {
+    files.Put(kPath, "d t: a\n");
+    ReadFile(kPath);
+    files.Put(kPath, "d t: a\n; hello world -> x\n");
+    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Dates(), ElementsAre("d", ";"));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "hello world "));
+    EXPECT_THAT(Targets(), ElementsAre("", "x"));
+
+    files.Put(kPath, "d t: a\n; hello world -> x\n;comment\n");
+    EXPECT_THROW(reader.ReadAppendedLines(kPath), MalformedText);
+}
+
+TEST_F(LogReaderTest, AFailureInAppendedLinesNamesTheCountBeforeThem) {
+    files.Put(kPath, "d t: a\nd t: b\n");
+    ReadFile(kPath);
+    files.Put(kPath, "d t: a\nd t: b\nd t: c\n\ngarbage\nd t: e\n");
+    EXPECT_THROW(reader.ReadAppendedLines(kPath), MalformedText);
+    EXPECT_EQ(reader.LineNumber(), 3);
+    EXPECT_EQ(reader.LineCount(), 6);
+    EXPECT_EQ(files.openNow, 0);
+    // The malformed line has been consumed; the next refresh goes on behind it.
+    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c", "t: e"));
+}
+
+TEST_F(LogReaderTest, AMissingFileHasNoAppendedLinesAndNamesZero) {
+    files.Put(kPath, "d t: a\nd t: b\n");
+    ReadFile(kPath);
+    files.Remove(kPath);
+    EXPECT_THROW(reader.ReadAppendedLines(kPath), FileError);
+    EXPECT_EQ(reader.LineNumber(), 0);
+    EXPECT_EQ(reader.LineCount(), 3);
+}
+
+TEST_F(LogReaderTest, AFailureWhilePassingOverOldLinesNamesZero) {
+    files.Put(kPath, "d t: a\nd t: b\n");
+    ReadFile(kPath);
+    files.mostAtOnce = 4;
+    files.failAfter = 8;
+    EXPECT_THROW(reader.ReadAppendedLines(kPath), FileError);
+    EXPECT_EQ(reader.LineNumber(), 0);
+}
+
+TEST_F(LogReaderTest, AFileThatWasTruncatedIsPassedOver) {
+    files.Put(kPath, "d t: a\nd t: b\nd t: c\n");
+    ReadFile(kPath);
+    files.Put(kPath, "d t: z\n");
+    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c"));
+    EXPECT_EQ(reader.LineCount(), 4);
+}
+
+TEST_F(LogReaderTest, BeforeAnyReadEveryLineCountsAsConsumed) {
+    // The count never meets 0 while it grows.
+    files.Put(kPath, "d t: a\nd t: b\n");
+    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Sources(), IsEmpty());
+    EXPECT_EQ(reader.LineCount(), 0);
+}
+
+TEST_F(LogReaderTest, AfterAFailedReadTheAppendedLinesAreThoseBehindTheCountedOnes) {
+    files.Put(kPath, "d t: a\ngarbage\nd t: c\n");
+    reader.BeginFile(kPath);
+    EXPECT_THROW(reader.ReadEntries(), MalformedText);
+    files.Put(kPath, "d t: a\ngarbage\nd t: c\nd t: d\n");
+    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: d"));
+}
+
+TEST_F(LogReaderTest, ALastLineThatWasReadUnfinishedIsNotReadAgain) {
+    files.Put(kPath, "d t: a\nd t: unfin");
+    ReadFile(kPath);
+    files.Put(kPath, "d t: a\nd t: unfinished\nd t: c\n");
+    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: unfin", "t: c"));
+}
+
+TEST_F(LogReaderTest, ForgetsTheFile) {
+    files.Put(kPath, "d t: a\n");
+    ReadFile(kPath);
+    reader.ForgetLogFile();
+    EXPECT_EQ(reader.CurrentLogFile(), "");
+}
+
+}  // namespace
+}  // namespace ordalyn
