@@ -1,0 +1,29 @@
+// Help opens the help file.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "platform/Platform.h"
+#include "toolkit/Form.h"
+
+namespace ordalyn {
+
+struct HelpSurroundings {
+    toolkit::Toolkit& toolkit;
+    platform::Files& files;
+    platform::Shell& shell;
+    std::string programFolder;  // with a trailing backslash
+    bool useDefaultLanguage;
+    std::string languageFile;
+    std::function<std::string(std::int32_t)> text;
+};
+
+// The path of the help file for the interface language: "Readme <language file's name>.chm" in the
+// program folder when there is one, else "Readme.chm" there.
+std::string HelpFile(const HelpSurroundings& around);
+// Opens it, owned by the form. A missing file is reported; a shell that fails is not.
+void ShowHelp(const HelpSurroundings& around, toolkit::Form& ownerForm);
+
+}  // namespace ordalyn
