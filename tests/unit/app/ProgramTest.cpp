@@ -1,0 +1,236 @@
+// Start, first activation, close and shutdown.
+#include "app/Program.h"
+
+#include "unit/app/ProgramWindow.h"
+
+namespace ordalyn {
+namespace {
+
+using test::MemoryToolkit;
+using test::ProgramWindow;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+using ProgramStart = ProgramWindow;
+using ProgramEnd = ProgramWindow;
+
+TEST_F(ProgramStart, ShowsTheLogOfTheFileManagerAtOnce) {
+    Start();
+    EXPECT_TRUE(Main().Visible());
+    EXPECT_EQ(Date().ListCount(), 3);
+    EXPECT_EQ(Date().ListIndex(), 2);
+    EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
+    EXPECT_EQ(Target().Text(0, 0), "D:\\Ordner \xC3\xBC");
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
+TEST_F(ProgramStart, ReadsTheLogOnTheFirstActivationOnly) {
+    program = std::make_unique<Program>(system.services, tools);
+    EXPECT_EQ(Source().RowCount(), 0);
+    tools.RunPosted();
+    EXPECT_EQ(Source().RowCount(), 1);
+    SetLog("C:\\logs\\tc.log", {"09.03.2024 10:00:00: Copy a -> b"});
+    tools.ActivateByUser(Main());
+    EXPECT_EQ(Date().ListCount(), 3);
+}
+
+TEST_F(ProgramStart, TakesALogFromTheCommandLine) {
+    SetLog("C:\\other logs\\x.log", {"05.03.2024 10:00:00: Copy x -> y"});
+    system.environment.commandLine = "\"C:\\other logs\\x.log\"";
+    Start();
+    EXPECT_EQ(Source().Text(0, 1), "Copy x ");
+    // The title names the live log's folder with the file's name, wherever the file is from.
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\x.log"));
+}
+
+TEST_F(ProgramStart, FindsABareLogNameInTheTemporaryFolder) {
+    SetIni("LogFile=bare.log");
+    SetLog("C:\\Temp\\bare.log", {"05.03.2024 10:00:00: Copy x -> y"});
+    Start();
+    EXPECT_EQ(Source().Text(0, 1), "Copy x ");
+}
+
+TEST_F(ProgramStart, WithoutALogSaysSoAndStaysOpen) {
+    SetIni("LogFile=C:\\logs\\missing.log");
+    Start();
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text, "Cannot find Total Commander log file.");
+    EXPECT_EQ(tools.messages[0].icon, toolkit::MessageIcon::Critical);
+    EXPECT_EQ(tools.messages[0].buttons, toolkit::MessageButtons::Ok);
+    EXPECT_EQ(Main().Caption(), Title(""));
+    EXPECT_EQ(Source().RowCount(), 0);
+    EXPECT_TRUE(Main().Visible());
+}
+
+TEST_F(ProgramStart, AFileNamedOnTheCommandLineThatDoesNotExistIsReported) {
+    system.environment.commandLine = "C:\\nowhere.log";
+    Start();
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text, "Cannot find Total Commander log file.");
+}
+
+TEST_F(ProgramStart, HasTheDefaultPlacementAndColumns) {
+    Start();
+    EXPECT_EQ(Main().Bounds(), (toolkit::Rect{0, 0, 12030, 8520}));
+    EXPECT_EQ(Source().ColumnCount(), 2);
+    EXPECT_EQ(Source().ColumnCaption(0), "Time");
+    EXPECT_EQ(Source().ColumnCaption(1), "Source");
+    EXPECT_EQ(Target().ColumnCaption(0), "Target");
+    EXPECT_EQ(Source().ColumnWidth(0), 884);
+    EXPECT_EQ(Source().ColumnWidth(1), 10019);
+    EXPECT_EQ(Target().ColumnWidth(0), 10890);
+    EXPECT_TRUE(MemoryToolkit::Of(Source()).flatHeaders);
+    EXPECT_TRUE(MemoryToolkit::Of(Target()).flatHeaders);
+    EXPECT_FALSE(Files().Visible());
+}
+
+TEST_F(ProgramStart, RestoresPlacementColumnsAndPanels) {
+    SetSettings(
+        "MainPosition=100,200,9000,7000\r\nColumnsWidth=500,600,700\r\n"
+        "ColumnHeadersPosition=2,1,3\r\nTwoPanels=0\r\nStatusBarVisible=0");
+    Start();
+    EXPECT_EQ(Main().Bounds(), (toolkit::Rect{100, 200, 9000, 7000}));
+    EXPECT_EQ(Source().ColumnCount(), 3);
+    EXPECT_EQ(Source().ColumnCaption(2), "Target");
+    EXPECT_EQ(Source().ColumnWidth(0), 500);
+    EXPECT_EQ(Source().ColumnWidth(2), 700);
+    EXPECT_EQ(Source().ColumnPosition(0), 1);
+    EXPECT_EQ(Source().ColumnPosition(1), 0);
+    EXPECT_EQ(Source().ColumnPosition(2), 2);
+    EXPECT_FALSE(Status().Visible());
+    EXPECT_EQ(Source().Text(0, 2), "D:\\Ordner \xC3\xBC");
+}
+
+TEST_F(ProgramStart, AThirdColumnWithoutAPlaceStaysTheThird) {
+    SetSettings("ColumnHeadersPosition=2,1\r\nTwoPanels=0");
+    Start();
+    EXPECT_EQ(Source().ColumnPosition(0), 1);
+    EXPECT_EQ(Source().ColumnPosition(2), 2);
+}
+
+TEST_F(ProgramStart, BadColumnSettingsStillGiveEveryColumn) {
+    SetSettings("ColumnsWidth=-5,x\r\nColumnHeadersPosition=9,,z");
+    Start();
+    EXPECT_EQ(Source().ColumnWidth(0), 884);
+    EXPECT_EQ(Source().ColumnWidth(1), 0);
+    EXPECT_EQ(Target().ColumnWidth(0), 10890);
+    EXPECT_EQ(Source().ColumnPosition(0), 0);
+}
+
+TEST_F(ProgramStart, NeverStartsMinimised) {
+    SetSettings("MainWindowState=1");
+    Start();
+    EXPECT_EQ(Main().State(), toolkit::WindowState::Normal);
+}
+
+TEST_F(ProgramStart, StartsMaximised) {
+    SetSettings("MainWindowState=2");
+    Start();
+    EXPECT_EQ(Main().State(), toolkit::WindowState::Maximised);
+}
+
+TEST_F(ProgramStart, ANumberThatIsNoneEndsTheLoadingSilently) {
+    SetSettings("GridLines=1\r\nFixedBorders=yes\r\nTwoPanels=0");
+    Start();
+    EXPECT_TRUE(Source().GridLines());
+    EXPECT_EQ(Source().ColumnCount(), 2);  // what stands behind it keeps its default
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
+TEST_F(ProgramStart, WritesTheExemptSectionsIntoItsOwnFile) {
+    Start();
+    EXPECT_THAT(Stored("TCSectionsNotRedirectedByDefault", "Common"),
+                testing::StartsWith("Configuration;Layout;Packer"));
+}
+
+TEST_F(ProgramStart, AppliesTheVisualSettings) {
+    SetSettings(
+        "GridLines=1\r\nFixedBorders=0\r\nFlatUserInterface=1\r\nForegroundColor=255\r\n"
+        "BackgroundColor=65280\r\nFontName=Tahoma\r\nFontSize=11\r\nFontStyle=3");
+    Start();
+    for (const toolkit::ListView* list : {&Source(), &Target()}) {
+        EXPECT_TRUE(list->GridLines());
+        EXPECT_EQ(list->Border(), toolkit::BorderStyle::None);
+        EXPECT_EQ(list->Look(), toolkit::Appearance::Flat);
+        EXPECT_EQ(list->ForeColor(), 255);
+        EXPECT_EQ(list->BackColor(), 65280);
+    }
+    for (const toolkit::Control* control : std::initializer_list<toolkit::Control*>{
+             &Source(), &Target(), &Date(), &Files(), &Status()}) {
+        EXPECT_EQ(control->Font().name, "Tahoma");
+        EXPECT_EQ(control->Font().size, 11);
+        EXPECT_TRUE(control->Font().bold);
+        EXPECT_TRUE(control->Font().italic);
+    }
+    EXPECT_EQ(Date().Look(), toolkit::Appearance::Flat);
+    EXPECT_EQ(Files().ForeColor(), 255);
+    for (int panel = 1; panel <= 3; ++panel)
+        EXPECT_EQ(Status().PanelBevel(panel), toolkit::Bevel::None);
+}
+
+TEST_F(ProgramEnd, StoresColumnsPanelsAndPlacement) {
+    Start();
+    MemoryToolkit::DragColumn(Source(), 0, 1000.9F);
+    MemoryToolkit::DragColumn(Target(), 0, 3000);
+    MemoryToolkit::MoveColumn(Source(), 0, 1);
+    tools.ResizeByUser(Main(), {150, 300, 9000.5F, 6000});
+    Choose("mnuViewVerticalPanels");
+    Choose("mnuViewStatusBar");
+    const std::string file = SettingsAfterClose();
+    EXPECT_THAT(file, HasSubstr("ColumnsWidth=1000,10019,3000\r\n"));
+    EXPECT_THAT(file, HasSubstr("ColumnHeadersPosition=2,1,3\r\n"));
+    EXPECT_THAT(file, HasSubstr("VerticalPanels=1\r\n"));
+    EXPECT_THAT(file, HasSubstr("HSplitPosition=4000\r\n"));
+    EXPECT_THAT(file, HasSubstr("StatusBarVisible=0\r\n"));
+    EXPECT_THAT(file, HasSubstr("TwoPanels=1\r\n"));
+    EXPECT_THAT(file, HasSubstr("MainPosition=150,300,9000,6000\r\n"));
+    EXPECT_THAT(file, HasSubstr("MainWindowState=0\r\n"));
+    EXPECT_TRUE(tools.quit);
+}
+
+TEST_F(ProgramEnd, ASinglePanelStoresItsThreeColumnsAndNoSplitter) {
+    SetSettings("TwoPanels=0");
+    Start();
+    MemoryToolkit::DragColumn(Source(), 2, 3210);
+    MemoryToolkit::MoveColumn(Source(), 2, 0);
+    const std::string file = SettingsAfterClose();
+    EXPECT_THAT(file, HasSubstr("ColumnsWidth=884,10019,3210\r\n"));
+    EXPECT_THAT(file, HasSubstr("ColumnHeadersPosition=2,3,1\r\n"));
+    EXPECT_THAT(file, HasSubstr("TwoPanels=0\r\n"));
+    EXPECT_THAT(file, Not(HasSubstr("VerticalPanels")));
+    EXPECT_THAT(file, Not(HasSubstr("SplitPosition")));
+}
+
+TEST_F(ProgramEnd, MaximisedKeepsTheLastNormalPlacement) {
+    SetSettings("MainPosition=100,200,9000,7000");
+    Start();
+    Main().SetState(toolkit::WindowState::Maximised);
+    const std::string file = SettingsAfterClose();
+    EXPECT_THAT(file, HasSubstr("MainPosition=100,200,9000,7000\r\n"));
+    EXPECT_THAT(file, HasSubstr("MainWindowState=2\r\n"));
+}
+
+TEST_F(ProgramEnd, FileExitClosesTheWindow) {
+    Start();
+    Choose("mnuFileExit");
+    EXPECT_TRUE(Main().Unloaded());
+    EXPECT_TRUE(tools.quit);
+    program.reset();
+    EXPECT_THAT(*system.files.Get("C:\\Ordalyn\\Ordalyn.ini"), HasSubstr("MainPosition="));
+}
+
+TEST_F(ProgramEnd, NothingOfTheFileManagersIsChanged) {
+    const auto ini = system.files.Get("C:\\tc\\wincmd.ini");
+    const auto log = system.files.Get("C:\\logs\\tc.log");
+    Start();
+    Choose("mnuViewRefresh");
+    SettingsAfterClose();
+    EXPECT_EQ(system.files.Get("C:\\tc\\wincmd.ini"), ini);
+    EXPECT_EQ(system.files.Get("C:\\logs\\tc.log"), log);
+}
+
+}  // namespace
+}  // namespace ordalyn
