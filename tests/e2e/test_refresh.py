@@ -1,0 +1,168 @@
+"""The log grows, moves and goes away under the program's eyes."""
+
+import subprocess
+import time
+
+from harness.waiting import wait_until
+
+# Lines that the second process appends before it renames the log.
+APPENDED = 10
+READ_ERROR = "There is an error in file\n{}\nLine: {}"
+
+
+def line(word, date="01.03.2024"):
+    return rf"{date} 10:15:30: Delete C:\{word}.txt"
+
+
+def cmd(wine, command):
+    """A second process works on the log: one command line of the system's shell."""
+    wine.run(["cmd", "/c", command])
+
+
+def start(folder, lines, *keys):
+    """Starts the program on the log that wincmd.ini names."""
+    log = folder.write("live.log", lines)
+    app = folder.start(env=folder.file_manager(f"LogFile={folder.windows(log.name)}", *keys))
+    app.wait_for_rows()
+    return app, log, folder.windows(log.name)
+
+
+def operations(app):
+    return [text.split("\\")[1] for text in app.main.source.column(1)]
+
+
+def test_lines_of_another_program_appear(folder, wine):
+    app, log, path = start(folder, [line("a"), line("b"), line("c")])
+    cmd(wine, f"echo {line('new')}>>{path}")
+    app.main.source.click_row(0)
+    app.keys("F5")
+    assert operations(app) == ["a.txt", "b.txt", "c.txt", "new.txt"]
+    assert app.main.source.selected == [3]
+    assert app.main.target.selected == [3]
+    assert app.main.status[0] == "4 Operation(s)  "
+    assert app.pointer == "arrow"
+
+    # Nothing new: nothing changes.
+    app.main.source.click_row(1)
+    app.keys("F5")
+    assert app.main.source.selected == [1]
+
+    # A new day is chosen; a blank line counts as a line and is no entry.
+    with open(log, "ab") as file:
+        file.write(f"\r\n{line('d', '02.03.2024')}\r\n{line('e', '02.03.2024')}\r\n".encode())
+    app.main.choose("View", "Refresh")
+    assert app.main.dates.items == ["All dates", "01.03.2024", "02.03.2024"]
+    assert app.main.dates.chosen == "02.03.2024"
+    assert operations(app) == ["d.txt", "e.txt"]
+    assert app.main.source.selected == [1]
+    # A click on a row that came later does no harm.
+    app.main.source.click_row(0)
+    assert app.main.source.selected == [0]
+
+    # A bad line: the message names the number of lines from before, plus one.
+    with open(log, "ab") as file:
+        file.write(b"garbage\r\n")
+    app.main.choose("View", "Refresh")
+    message = app.message()
+    assert message.text == READ_ERROR.format(path, 8)
+    assert message.icon == ""
+    message.press("OK")
+    app.main.dates.choose("All dates")
+    assert operations(app) == ["a.txt", "b.txt", "c.txt", "new.txt", "d.txt", "e.txt"]
+    app.close()
+
+
+def test_the_log_is_rotated_and_deleted_while_it_is_shown(folder, wine):
+    app, log, path = start(folder, [line("a"), line("b"), line("c")],
+                           "LogRotateLimit=1000", "LogKeepCount=3")
+    assert not app.main.files.visible
+    cmd(wine, f"ren {path} live.1.log && echo {line('new')}>{path}")
+    assert log.with_name("live.1.log").exists() and log.exists()
+    app.keys("F5")
+    # The new log is shorter than what was read: nothing to add, but the old one is offered.
+    assert operations(app) == ["a.txt", "b.txt", "c.txt"]
+    assert app.main.files.visible
+    assert app.main.files.items == ["All files", "live.log", "live.1.log"]
+    app.main.files.choose("live.1.log")
+    app.main.files.choose("live.log")
+    assert operations(app) == ["new.txt"]
+
+    cmd(wine, f"del {path}")
+    assert not log.exists()
+    app.keys("F5")
+    message = app.message()
+    assert message.text == READ_ERROR.format(path, 0)
+    message.press("OK")
+    assert operations(app) == ["new.txt"]
+    assert app.main.responsive
+    # It comes back with the next operation.
+    cmd(wine, f"echo {line('new')}>{path}")
+    cmd(wine, f"echo {line('next')}>>{path}")
+    app.keys("F5")
+    assert operations(app) == ["new.txt", "next.txt"]
+
+
+class Busy:
+    """A second process that repeats commands until it is stopped."""
+
+    def __init__(self, folder, wine, *commands):
+        self.stop_file = folder.path / "stop"
+        self.failures = folder.path / "failures"
+        self.rounds = folder.path / "rounds"
+        name = {key: folder.windows(key) for key in ("stop", "failures", "rounds", "busy.bat")}
+        batch = ["@echo off", ":again", *commands, f"echo x>>{name['rounds']}",
+                 f"if not exist {name['stop']} goto again"]
+        folder.write("busy.bat", batch, encoding="ascii")
+        self.process = subprocess.Popen(["wine", "cmd", "/c", name["busy.bat"]],
+                                        env=wine.environment(), stdin=subprocess.DEVNULL,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(lambda: self.count(self.rounds) > 0, "the second process", 30)
+
+    @staticmethod
+    def count(file):
+        return len(file.read_bytes().splitlines()) if file.exists() else 0
+
+    def stop(self):
+        """Ends it; answers how many rounds it went and how many commands failed."""
+        self.stop_file.touch()
+        self.process.wait(30)
+        return self.count(self.rounds), self.count(self.failures)
+
+
+def test_reading_never_stands_in_another_program_s_way(folder, wine):
+    count = 20_000
+    app, log, path = start(folder, [line("a")] * count)
+    failures = folder.windows("failures")
+    # What the file manager does: it appends, and it renames the log and begins another one.
+    busy = Busy(folder, wine,
+                *[f"echo {line('added')}>>{path}"] * APPENDED,
+                f"ren {path} moved.log",
+                f"if exist {path} echo rename>>{failures}",
+                f"ren {folder.windows('moved.log')} {log.name}",
+                # Between two changes there is time to read.
+                *[f"if not exist {path} echo rename back>>{failures}"] * 200)
+    # A read of the whole file or a refresh, each in whatever moment it meets.
+    read, missed = 0, []
+    begun = time.monotonic()
+    while time.monotonic() < begun + (4 if read > len(missed) else 20):
+        if read % 2:
+            app.agent.ask("keys", keys=[0x74, 1, 0x74, 0])
+        else:
+            app.main.ask("dropFiles", paths=[path])
+        app.settle(30)
+        message = app.find_dialog()
+        if message:
+            assert message.text.startswith(READ_ERROR.format(path, "")), message.text
+            missed.append(int(message.text.split()[-1]))
+            message.press("OK")
+        read += 1
+    rounds, failed = busy.stop()
+    assert failed == 0, busy.failures.read_text()
+    assert rounds > 5 and read > len(missed), (rounds, read, missed)
+    # Just then there was no file of that name, or it grew after its lines had been counted.
+    assert all(number == 0 or number > count for number in missed), missed
+    assert not app.find_dialog()
+    app.main.drop_files(path)
+    app.settle(30)
+    app.main.dates.choose("01.03.2024")
+    assert app.main.source.row_count == count + rounds * APPENDED
