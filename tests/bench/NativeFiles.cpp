@@ -1,0 +1,55 @@
+#include "bench/NativeFiles.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+#include "base/Errors.h"
+
+namespace ordalyn::bench {
+
+namespace {
+
+class NativeFile : public platform::ReadableFile {
+  public:
+    NativeFile(std::FILE* file, std::string_view path) : file_(file), path_(path) {
+        std::setvbuf(file_, nullptr, _IONBF, 0);
+    }
+    ~NativeFile() override { std::fclose(file_); }
+    NativeFile(const NativeFile&) = delete;
+    NativeFile& operator=(const NativeFile&) = delete;
+    std::size_t Read(char* buffer, std::size_t capacity) override {
+        const std::size_t count = std::fread(buffer, 1, capacity, file_);
+        if (count == 0 && std::ferror(file_) != 0)
+            throw FileError(path_, 1);
+        return count;
+    }
+
+  private:
+    std::FILE* file_;
+    std::string path_;
+};
+
+}  // namespace
+
+std::unique_ptr<platform::ReadableFile> NativeFiles::OpenForReading(std::string_view path) {
+    const std::string name(path);
+    std::FILE* file = std::fopen(name.c_str(), "rb");
+    if (file == nullptr)
+        throw FileError(name, 2);
+    return std::make_unique<NativeFile>(file, path);
+}
+
+bool NativeFiles::Exists(std::string_view path) {
+    return std::filesystem::exists(std::string(path));
+}
+
+std::vector<std::string> NativeFiles::List(std::string_view, std::string_view) {
+    return {};
+}
+
+void NativeFiles::Replace(std::string_view path, std::string_view) {
+    throw FileError(std::string(path), 5);
+}
+
+}  // namespace ordalyn::bench

@@ -1,0 +1,17 @@
+// NativeFiles: the files of whatever system a measurement runs on, without any buffer between.
+// Reading is all it can.
+#pragma once
+
+#include "platform/Platform.h"
+
+namespace ordalyn::bench {
+
+class NativeFiles : public platform::Files {
+  public:
+    std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
+    bool Exists(std::string_view path) override;
+    std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
+    void Replace(std::string_view path, std::string_view bytes) override;
+};
+
+}  // namespace ordalyn::bench
