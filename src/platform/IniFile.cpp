@@ -176,7 +176,8 @@ std::string IniFile::Text() const {
         return unchanged_;
     std::string text;
     for (const SectionLines& section : sections_) {
-        if (!section.name.empty())
+        // A header without a name is one, too: without it its lines would join the section before.
+        if (&section != &sections_.front())
             text += "[" + section.name + "]\r\n";
         for (const Line& line : section.lines) {
             text += line.name;

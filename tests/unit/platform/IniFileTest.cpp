@@ -133,6 +133,13 @@ TEST(IniFile, TheNamelessSectionStaysFirst) {
     EXPECT_EQ(ini.Text(), "k=1\r\n[B]\r\nx=1\r\n");
 }
 
+TEST(IniFile, AHeaderWithoutANameKeepsItsLinesApart) {
+    IniFile ini("[A]\r\nk=1\r\n[ ]\r\nl=2\r\n");
+    EXPECT_EQ(ini.Entry("A", "l"), std::nullopt);
+    EXPECT_TRUE(ini.WriteEntry("A", "m", "3"));
+    EXPECT_EQ(ini.Text(), "[A]\r\nk=1\r\nm=3\r\n[]\r\nl=2\r\n");
+}
+
 TEST(IniFile, ALastLineWithoutLineEndIsFollowedByNewOnes) {
     IniFile ini("[A]\r\nk=1");
     EXPECT_TRUE(ini.WriteEntry("A", "l", "2"));
