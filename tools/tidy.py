@@ -87,7 +87,8 @@ def main():
     native = commands("native-debug")
     windows = {file: flags + FOR_WINDOWS for file, flags in commands("mingw-x64").items()}
     work = {file: flags for file, flags in {**windows, **native}.items()
-            if file.is_relative_to(PROJECT / "src") and file.exists() and (not only or file in only)}
+            if file.is_relative_to(PROJECT / "src") and file.suffix == ".cpp" and file.exists()
+            and (not only or file in only)}
     clean = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         for file, said in zip(work, pool.map(lambda item: check(*item), work.items())):
