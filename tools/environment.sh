@@ -4,6 +4,8 @@
 # A compiler cache, when there is one, also serves other checkouts of the project.
 if command -v ccache >/dev/null; then
     export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_NOHASHDIR=1
+    # Without this it does not serve sources that use precompiled headers.
+    export CCACHE_SLOPPINESS=pch_defines,time_macros
 fi
 
 # configure PRESET: only once for each build folder; CMake repeats it by itself when needed.
