@@ -235,8 +235,10 @@ void frmMain::WireMenus() {
                  *this);
     });
     on("mnuHelpAbout", [this] {
-        frmAbout about(shared_.toolkit, shared_.services.shell, shared_.FormTexts());
-        about.ShowModal(this);
+        about_ = std::make_unique<frmAbout>(shared_.toolkit, shared_.services.shell,
+                                            shared_.FormTexts());
+        about_->ShowModal(this);
+        about_.reset();
     });
     on("mnuContextCopySource", [this] { copy_.CopySource(); });
     on("mnuContextCopyTarget", [this] { copy_.CopyTarget(); });
@@ -355,20 +357,19 @@ void frmMain::ShowOptions() {
     mAppSpecific& settings = *shared_.settings;
     const std::int32_t useDefaultLanguage = settings.UseDefaultLanguage;
     const std::string languageFile = settings.LanguageFile;
-    {
-        frmOptions options(
-            shared_.toolkit,
-            {.texts = shared_.FormTexts(),
-             .settings = settings,
-             .commonDialog = *shared_.commonDialog,
-             .programFolder = shared_.common.ProgramFolder(),
-             .isNoValue =
-                 [this](const std::string& text) { return shared_.common.IsNoValue(text); },
-             .applySettings = [this] { ApplySettings(); },
-             .applyNewDateFormat = [this](std::int32_t lngLd) { ApplyNewDateFormat(lngLd); },
-             .refreshMainWindow = [this] { Refresh(); }});
-        options.ShowModal(this);
-    }
+    options_ = std::make_unique<frmOptions>(
+        shared_.toolkit,
+        frmOptions::Surroundings{
+            .texts = shared_.FormTexts(),
+            .settings = settings,
+            .commonDialog = *shared_.commonDialog,
+            .programFolder = shared_.common.ProgramFolder(),
+            .isNoValue = [this](const std::string& text) { return shared_.common.IsNoValue(text); },
+            .applySettings = [this] { ApplySettings(); },
+            .applyNewDateFormat = [this](std::int32_t lngLd) { ApplyNewDateFormat(lngLd); },
+            .refreshMainWindow = [this] { Refresh(); }});
+    options_->ShowModal(this);
+    options_.reset();
     if (settings.UseDefaultLanguage == useDefaultLanguage &&
         EqualsIgnoreCase(settings.LanguageFile, languageFile))
         return;
@@ -396,6 +397,11 @@ void frmMain::Close() {
     Attempt([this] { columns_.SaveOrder(); });
     Attempt([this] { shared_.settings->SaveSetting("TwoPanels"); });
     Attempt([this] { shared_.settings->SaveWindowPosition(*this, true); });
+    // A dialog that waits for an answer does not keep another program from closing this window.
+    if (about_ != nullptr)
+        about_->Unload();
+    if (options_ != nullptr)
+        options_->Unload();
     progress_.HideProgress();
     find_.UnloadFindDialog();
     find_.UnloadFilterDialog();

@@ -2,6 +2,7 @@
 // parts to each other and to menus, keys and mouse, and offers what other forms ask of it.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,9 @@
 #include "ui/ProgressWindow.h"
 
 namespace ordalyn {
+
+class frmAbout;
+class frmOptions;
 
 class frmMain : public toolkit::Form {
   public:
@@ -82,6 +86,9 @@ class frmMain : public toolkit::Form {
     MainWindowLayout layout_;
     TotalCommanderLocator locator_;
     FindCommands find_;
+    // While they are shown.
+    std::unique_ptr<frmAbout> about_;
+    std::unique_ptr<frmOptions> options_;
     bool activated_ = false;
 };
 

@@ -1,7 +1,10 @@
 """The windows beside the main one: about box, progress, and what the menus offer."""
 
+import pytest
+
 from harness.waiting import wait_until
 
+WM_CLOSE = 0x10
 LOG = [r"01.03.2024 10:15:30: Copy C:\a.txt -> D:\a.txt"]
 
 
@@ -74,6 +77,19 @@ def test_alt_f4_ends_the_program(show):
     app.keys("Alt+F4")
     app.wait_for_end()
     assert app.exit_code == 0
+
+
+@pytest.mark.parametrize("menu, title", [(("Help", "About..."), "About"),
+                                         (("View", "Options..."), "Options")])
+def test_no_dialog_keeps_another_program_from_ending_this_one(show, folder, menu, title):
+    app = show(LOG)
+    app.main.choose(*menu)
+    app.window(title)
+    assert not app.main.enabled
+    app.main.ask("post", message=WM_CLOSE)
+    app.wait_for_end()
+    assert app.exit_code == 0
+    assert "MainPosition" in folder.settings["Ordalyn"]
 
 
 def test_nothing_but_the_main_window_is_on_screen(show):

@@ -372,7 +372,12 @@ class MemoryForm : public Peer<FormPeer> {
         shown.defaultButton = controlOf(defaultButton);
         shown.cancelButton = controlOf(cancelButton);
     }
-    void Close() override { shown.visible = false; }
+    void Close() override {
+        shown.visible = false;
+        // A form closes again when it is destroyed.
+        if (!std::exchange(closed_, true))
+            toolkit_.closedForms.push_back(form_.Name());
+    }
     void RebuildMenus() override {
         toolkit_.menuRebuilds.push_back(form_.Name());
         menus = ShownItems(form_.Menus());
@@ -456,6 +461,7 @@ class MemoryForm : public Peer<FormPeer> {
     Form& form_;
     WindowState state_ = WindowState::Normal;
     bool ended_ = false;  // the modal run
+    bool closed_ = false;
     Rect normal_;
     std::shared_ptr<int> alive_ = std::make_shared<int>(0);
 };

@@ -112,6 +112,7 @@ class MemoryToolkit : public toolkit::Toolkit {
     const toolkit::Control* focus = nullptr;
     toolkit::Form* modalForm = nullptr;
     std::vector<std::string> menuRebuilds;  // names of forms
+    std::vector<std::string> closedForms;   // names, in the order in which their windows went
 
     // What a user does. A form that a modal one keeps disabled gets nothing. Errors that no handler
     // catches end in a message box, here as in the work that was posted.

@@ -62,6 +62,7 @@ TEST_F(ProgramStart, WithoutALogSaysSoAndStaysOpen) {
     EXPECT_EQ(tools.messages[0].buttons, toolkit::MessageButtons::Ok);
     EXPECT_EQ(Main().Caption(), Title(""));
     EXPECT_EQ(Source().RowCount(), 0);
+    EXPECT_EQ(Target().RowCount(), 0);
     EXPECT_TRUE(Main().Visible());
 }
 
@@ -211,6 +212,56 @@ TEST_F(ProgramEnd, MaximisedKeepsTheLastNormalPlacement) {
     const std::string file = SettingsAfterClose();
     EXPECT_THAT(file, HasSubstr("MainPosition=100,200,9000,7000\r\n"));
     EXPECT_THAT(file, HasSubstr("MainWindowState=2\r\n"));
+}
+
+// The order of the keys in a new file is the order in which they were written.
+TEST_F(ProgramEnd, TheMainWindowIsSavedBeforeTheDialogsSaveTheirs) {
+    Start();
+    const std::string file = SettingsAfterClose();
+    std::size_t before = 0;
+    for (const char* key :
+         {"ColumnsWidth=", "VerticalPanels=", "StatusBarVisible=", "ColumnHeadersPosition=",
+          "TwoPanels=", "MainPosition=", "FindOptions=", "FiltersPosition="}) {
+        const std::size_t at = file.find(std::string("\n") + key);
+        ASSERT_NE(at, std::string::npos) << key;
+        EXPECT_GT(at, before) << key;
+        before = at;
+    }
+}
+
+TEST_F(ProgramEnd, TheWindowsAreUnloadedInAFixedOrder) {
+    Start();
+    tools.closedForms.clear();
+    Main().UserClosed();
+    EXPECT_THAT(tools.closedForms,
+                ElementsAre("frmSearchFor", "frmFilters", "frmXpStyleLoader", "frmMain"));
+}
+
+TEST_F(ProgramEnd, ADialogThatWaitsForAnAnswerIsUnloadedFirst) {
+    for (const auto& [menu, form] :
+         {std::pair("mnuHelpAbout", "frmAbout"), std::pair("mnuViewOptions", "frmOptions")}) {
+        Start();
+        tools.closedForms.clear();
+        tools.modalScripts.push_back([this](toolkit::Form&) { Main().UserClosed(); });
+        Choose(menu);
+        EXPECT_THAT(tools.closedForms,
+                    ElementsAre(form, "frmSearchFor", "frmFilters", "frmXpStyleLoader", "frmMain"));
+        program.reset();
+    }
+}
+
+TEST_F(ProgramEnd, TheProgressWindowIsUnloadedBeforeTheDialogsThatOutliveIt) {
+    Start();
+    tools.closedForms.clear();
+    std::vector<std::string> closed;
+    tools.onDoEvents = [&] {
+        tools.onDoEvents = nullptr;
+        Main().UserClosed();
+        closed = tools.closedForms;
+    };
+    Main().FilesDropped.Raise({"C:\\logs\\tc.log"});
+    EXPECT_THAT(closed, ElementsAre("frmProgress", "frmSearchFor", "frmFilters", "frmXpStyleLoader",
+                                    "frmMain"));
 }
 
 TEST_F(ProgramEnd, FileExitClosesTheWindow) {
