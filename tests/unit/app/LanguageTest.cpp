@@ -24,10 +24,10 @@ class Language : public ProgramWindow {
         system.files.Set(kFile, "[UserLanguage]\r\n" + lines + "\r\n");
     }
     // Opens the options, chooses the language file and leaves with OK.
-    void ChooseLanguage() {
-        tools.modalScripts.push_back([](toolkit::Form& options) {
+    void ChooseLanguage(const std::string& file = kFile) {
+        tools.modalScripts.push_back([file](toolkit::Form& options) {
             options.Get<toolkit::OptionButton>("optUseOtherLanguage").UserToggled();
-            options.Get<toolkit::TextBox>("txtLanguageFilePath").UserEdited(kFile);
+            options.Get<toolkit::TextBox>("txtLanguageFilePath").UserEdited(file);
             options.Get<toolkit::CommandButton>("cmdOK").UserClicked();
         });
         Choose("mnuViewOptions");
@@ -71,6 +71,18 @@ TEST_F(Language, ChoosingTheSameFileAgainChangesNothingOnScreen) {
     SetLanguage("101=&Akte");
     ChooseLanguage();
     EXPECT_EQ(Main().Menu("mnuFile").Caption(), "&Datei");
+    // The path in other letters is the same file.
+    ChooseLanguage("C:\\ORDALYN\\LANGUAGES\\GERMAN.LNG");
+    EXPECT_EQ(program->Shared().settings->LanguageFile, "C:\\ORDALYN\\LANGUAGES\\GERMAN.LNG");
+    EXPECT_EQ(Main().Menu("mnuFile").Caption(), "&Datei");
+}
+
+TEST_F(Language, ColumnHeadersKeepTheBlanksOfATextAndSlashEMeansEnglish) {
+    SetLanguage("4000=\" /E \"\r\n4001=\" Quelle\"");
+    Start();
+    ChooseLanguage();
+    EXPECT_EQ(Source().ColumnCaption(0), "Time");
+    EXPECT_EQ(Source().ColumnCaption(1), " Quelle");
 }
 
 TEST_F(Language, ARightToLeftLanguageMirrorsTheWindow) {

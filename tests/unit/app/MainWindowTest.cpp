@@ -165,6 +165,17 @@ TEST_F(MainWindow, FileOpenReadsAndRemembersAndLeavesNoFileSelected) {
     EXPECT_EQ(Main().Caption(), Title("C:\\logs\\x.log"));
 }
 
+TEST_F(MainWindow, AllFilesStandInTheTitleOnlyUntilTheFirstRowIsClicked) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    Start();
+    Files().UserSelected(0);
+    ASSERT_EQ(Source().RowCount(), 4);
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.1.log"));
+    Source().UserSelected(3);
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
+}
+
 TEST_F(MainWindow, ACancelledOpenChangesNothingButTheFileSelection) {
     SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
     SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
