@@ -86,7 +86,7 @@ kind_contract() {
 
 kind_e2e() {
     ./build.sh x64
-    cmake --build --preset mingw-x64 --target ordalyn_e2e_agent ordalyn_e2e_launch
+    cmake --build --preset mingw-x64 --target ordalyn_e2e_agent ordalyn_e2e_launch ordalyn_e2e_hold
     # shellcheck disable=SC2086
     run_pytest e2e tests/e2e ${ORDALYN_E2E:-}
 }

@@ -98,12 +98,8 @@ def test_an_empty_file(folder):
 def test_a_folder_instead_of_a_file(folder):
     path = folder.path / "folder.log"
     path.mkdir()
-    app = folder.start(path, env=folder.file_manager())
     # A folder is found where a log is looked for, but it cannot be read as one.
-    message = app.message(30)
-    assert message.text in (READ_ERROR.format(folder.windows("folder.log"), 0),
-                            "Cannot find Total Commander log file.")
-    message.press("OK")
+    app = refuse(folder, path, 0)
     app.close()
 
 
