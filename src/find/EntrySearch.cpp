@@ -17,13 +17,20 @@ std::int32_t EntrySearch::FindString(std::string_view strString, std::int32_t ln
                                      std::int32_t lngColumnNo, std::int32_t lngWholeWord,
                                      std::int32_t lngSelectedDate) {
     std::int32_t start = lngStartItem;
-    std::int32_t end = around_.entries.EntrySources().ListCount();
+    const std::int32_t last = around_.entries.EntrySources().ListCount();
+    std::int32_t end = last;
     if (lngSelectedDate == 1) {
         const cLongArray& days = around_.panels.DayStarts();
         const std::int32_t day = around_.panels.SelectedDay();
+        // A log without a dated entry, or one whose reading failed, leaves the chosen day behind
+        // without its entries: nothing of it can be found.
+        if (day < 0 || day >= days.ListCount()) {
+            searchPosition_ = kNotFound;
+            return kNotFound;
+        }
         if (searchPosition_ == kNotFound)
             start = days.List(day);
-        end = CheckedAdd(days.List(CheckedAdd(day, 1)), -1);
+        end = std::min(days.List(day + 1) - 1, last);
     }
     searchPosition_ = start;
     const cStringArray& fields =
@@ -66,7 +73,8 @@ bool EntrySearch::ShowRowOf(std::int32_t entry, std::int32_t firstEntry) {
             around_.panels.SelectEntryRow(row);
         return true;
     }
-    // Rows are in the order of their entries.
+    // Rows are in the order of their entries. Selecting by row number selects in both panels and
+    // brings title and status bar along, with a filter as without one.
     const toolkit::ListView::Tags& tags = around_.SourceListView.RowTags();
     const auto found = std::lower_bound(tags->begin(), tags->end(), entry);
     if (found == tags->end() || *found != entry)

@@ -1,7 +1,6 @@
 // Finding entries and taking the panels to them.
 #include "find/EntrySearch.h"
 
-#include "base/Errors.h"
 #include "unit/find/FindWindow.h"
 
 namespace ordalyn::test {
@@ -235,7 +234,26 @@ TEST_F(Search, OfAnEmptyLogFindsNothing) {
                        system.locale,
                        [](std::int32_t) { return std::string(); }};
     EntrySearch noSearch{{none, noPanels, cboDate, SourceListView, settings}};
-    EXPECT_THROW(noSearch.FindString("x", 0, 0, 0, 1), Error);
+    EXPECT_EQ(noSearch.FindString("x", 0, 0, 0, 1), -1);
+}
+
+TEST_F(Search, WithinADateOfAReadThatFailedFindsNothing) {
+    ShowDay(2);
+    entries.Clear();
+    entries.Add(SplitOperationLine("01.03.2024 10:15:30: Copy C:\\a.txt -> D:\\a.txt"));
+    EXPECT_EQ(Find("copy", 0, 0, 0, 1), -1);
+    entries.Clear();
+    EXPECT_EQ(Find("copy", 0, 0, 0, 1), -1);
+}
+
+TEST_F(Search, ALogWithoutDatesHasNothingWithinTheSelectedOne) {
+    entries.Clear();
+    entries.Add({{}, "only a comment", {}});
+    panels.BuildDateList(true);
+    EXPECT_EQ(Find("comment", 0, 0, 0, 1), -1);
+    // It counts as failed: the next search within a date begins with the day.
+    Load({"01.03.2024 10:00:00: Copy a -> b", "02.03.2024 10:00:00: Copy a -> b"});
+    EXPECT_EQ(Find("copy", 0, 0, 0, 1), 2);
 }
 
 TEST_F(Search, AnEntryBehindTheLastDayHasNoRow) {
