@@ -116,6 +116,7 @@ frmAbout::frmAbout(toolkit::Toolkit& toolkit, platform::Shell& shell, const Text
     auto& lblURL = Get<Label>("lblURL");
     lblURL.SetToolTip(texts.text(1508));
     lblURL.SetCaption(publisher::kHomePage);
+    lblURL.SetRightToLeft(false);  // an address is the same in every language
     lblURL.SetForeColor(kLinkColor);
     toolkit::Font underlined = lblURL.Font();
     underlined.underline = true;

@@ -198,6 +198,15 @@ TEST_F(About, TheLinkOpensTheHomePage) {
     EXPECT_EQ(system.shell.opened[0].second, publisher::kHomePage);
 }
 
+TEST_F(About, AnAddressIsNotTurnedByALanguageFromTheRight) {
+    frmAbout about(tools, system.shell, {TextOf, [](toolkit::Form& form) {
+                                             for (const auto& control : form.Controls())
+                                                 control->SetRightToLeft(true);
+                                         }});
+    EXPECT_FALSE(about.Get<Label>("lblURL").RightToLeft());
+    EXPECT_TRUE(about.Get<Label>("lblEmail").RightToLeft());
+}
+
 TEST_F(About, OkClosesTheBox) {
     frmAbout about(tools, system.shell, TestTexts());
     tools.modalScripts.push_back([](toolkit::Form& form) {

@@ -208,6 +208,24 @@ TEST_F(Controls, ColoursAreLookedUpAtEachPaint) {
     ReleaseDC(window, dc);
 }
 
+TEST_F(Controls, TextsAreDrawnInTheReadingOrderOfTheirControl) {
+    auto& label = form.Get<Label>("lbl");
+    const HWND window = Child(form, L"Static");
+    const auto drawnFromTheRight = [&] {
+        const HDC dc = GetDC(window);
+        SendMessageW(GetParent(window), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
+                     reinterpret_cast<LPARAM>(window));
+        const bool fromTheRight = (GetTextAlign(dc) & TA_RTLREADING) != 0;
+        ReleaseDC(window, dc);
+        return fromTheRight;
+    };
+    EXPECT_FALSE(drawnFromTheRight());
+    label.SetRightToLeft(true);
+    EXPECT_TRUE(drawnFromTheRight());
+    label.SetRightToLeft(false);
+    EXPECT_FALSE(drawnFromTheRight());
+}
+
 TEST_F(Controls, AControlMovedIntoAnotherContainerKeepsItsPlace) {
     auto& label = form.Get<Label>("lbl");
     const HWND window = Child(form, L"Static");

@@ -200,6 +200,9 @@ std::optional<LRESULT> Window::Reflect(UINT message, WPARAM wParam, LPARAM lPara
 HBRUSH Window::OnColor(HDC dc) {
     SetTextColor(dc, Resolve(control_.ForeColor()));
     SetBkColor(dc, Resolve(control_.BackColor()));
+    // Not every system's controls draw in their own reading order.
+    if (control_.RightToLeft())
+        SetTextAlign(dc, GetTextAlign(dc) | TA_RTLREADING);
     return BackBrush();
 }
 
