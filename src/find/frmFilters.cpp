@@ -28,7 +28,7 @@ constexpr Twips kLeastWidth = 8910;    // of the whole window
 constexpr int kHeightAroundBoxes = 8;  // pixels
 constexpr Twips kEdge = 60, kGap = 75;
 constexpr Twips kFilterWidth = 2760, kContainsWidth = 1710, kSourceWidth = 1440, kBarWidth = 1380,
-                kCancelWidth = 1080, kBoxHeight = 315, kBarHeight = 360;
+                kCancelWidth = 1170, kBoxHeight = 315, kBarHeight = 360;
 constexpr Twips kClientWidth =
     2 * kEdge + 4 * kGap + kFilterWidth + kContainsWidth + kSourceWidth + kBarWidth + kCancelWidth;
 
@@ -167,7 +167,7 @@ void frmFilters::Arrange() {
         right -= width + kGap;
     };
     place(cmdCancel, kCancelWidth, height);
-    place(Toolbar1, kBarWidth, kBarHeight);
+    place(Toolbar1, kBarWidth, std::min(kBarHeight, inside.height));
     place(cboSource, kSourceWidth, height);
     place(cboContains, kContainsWidth, height);
     cboFilter.Move({kEdge, top, std::max<Twips>(right - kEdge, 0), height});

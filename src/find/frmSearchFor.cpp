@@ -19,14 +19,14 @@ constexpr std::int32_t kSourceColumn = 0, kTargetColumn = 1;
 
 constexpr Twips kEdge = 120;
 // The gap is for languages written from right to left: their label ends at the box.
-constexpr Twips kLabelWidth = 1440, kLabelGap = 75, kBoxWidth = 3825;
+constexpr Twips kLabelWidth = 1440, kLabelGap = 75, kBoxWidth = 3975;
 constexpr Twips kBoxLeft = kEdge + kLabelWidth + kLabelGap;
 constexpr Twips kFrameTop = 600, kFrameWidth = 2550, kFrameHeight = 1095;
 constexpr Twips kOptionWidth = 2250, kLine = 240;
 constexpr Twips kChecksLeft = kEdge + kFrameWidth + 165;
 constexpr Twips kButtonsLeft = kBoxLeft + kBoxWidth + 180;
 constexpr Twips kChecksWidth = kButtonsLeft - 105 - kChecksLeft;
-constexpr Twips kButtonWidth = 1590, kButtonHeight = 375;
+constexpr Twips kButtonWidth = 1710, kButtonHeight = 375;
 
 // In tab order. The label's access key belongs to the box behind it.
 constexpr toolkit::ControlDesign kControls[] = {

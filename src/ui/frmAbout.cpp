@@ -19,8 +19,8 @@ constexpr int kButtonOffset = 6;  // pixels
 constexpr Twips kFrameWidth = 5100;
 constexpr Twips kFrameHeight = 2565;
 constexpr Twips kLeft = 180;
-constexpr Twips kSecondColumn = 1755;
-constexpr Twips kLabelWidth = 1530;
+constexpr Twips kSecondColumn = 1875;
+constexpr Twips kLabelWidth = 1650;
 constexpr Twips kValueWidth = kFrameWidth - kSecondColumn - kLeft;
 constexpr Twips kLine = 225;
 // The colour of selections reads well on dialogs in every theme; that of hot-tracked text does not.

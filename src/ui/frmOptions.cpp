@@ -23,7 +23,7 @@ constexpr Twips kPageTop = 540;
 constexpr Twips kPageWidth = kTabWidth - 240;
 constexpr Twips kPageHeight = kTabHeight - 540;
 constexpr Twips kButtonTop = 3900;
-constexpr Twips kButtonWidth = 1215;
+constexpr Twips kButtonWidth = 1260;
 constexpr Twips kButtonHeight = 375;
 constexpr Twips kButtonRow[] = {kTabWidth + 120 - 3 * kButtonWidth - 240,
                                 kTabWidth + 120 - 2 * kButtonWidth - 120,

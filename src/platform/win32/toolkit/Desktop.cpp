@@ -45,7 +45,8 @@ FrameMargins MeasureMargins(HINSTANCE program, bool resizable) {
 
 }  // namespace
 
-Desktop::Desktop(HINSTANCE handle) : program(handle), fonts(scale.DpiY()) {}
+Desktop::Desktop(HINSTANCE handle, const Scale& screen)
+    : program(handle), scale(screen), fonts(screen.DpiY()) {}
 
 const FrameMargins& Desktop::Margins(bool resizable) {
     const std::size_t which = resizable ? 1 : 0;

@@ -20,7 +20,7 @@ struct FrameMargins {
 
 class Desktop {
   public:
-    explicit Desktop(HINSTANCE program);
+    Desktop(HINSTANCE program, const Scale& scale);
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 

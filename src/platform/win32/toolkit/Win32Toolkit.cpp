@@ -23,7 +23,7 @@ constexpr UINT_PTR kSubclass = 1;
 
 }  // namespace
 
-Win32Toolkit::Win32Toolkit(HINSTANCE program) : desktop_(program) {
+Win32Toolkit::Win32Toolkit(HINSTANCE program, const Scale& scale) : desktop_(program, scale) {
     INITCOMMONCONTROLSEX classes = {};
     classes.dwSize = sizeof classes;
     classes.dwICC = ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES |

@@ -10,8 +10,9 @@ namespace ordalyn::win32 {
 
 class Win32Toolkit : public toolkit::Toolkit {
   public:
-    // `program` holds the icon (resource 1) of the forms. Outlives all forms.
-    explicit Win32Toolkit(HINSTANCE program);
+    // `program` holds the icon (resource 1) of the forms. Outlives all forms. Tests give the scale
+    // of another screen.
+    explicit Win32Toolkit(HINSTANCE program, const Scale& scale = Scale());
     ~Win32Toolkit() override;
     Win32Toolkit(const Win32Toolkit&) = delete;
     Win32Toolkit& operator=(const Win32Toolkit&) = delete;
