@@ -43,10 +43,12 @@ void DayPanels::BuildDateList(bool selectLastDate) {
     Attempt([&] { dates = days_.Build(entries_.EntryDates()); });
     if (dates.empty())
         return;
+    if (settings_.LongDate != 0)
+        for (std::string& date : dates)
+            date = LongDate(date);
     if (days_.FirstDayItem() == 1)
-        cboDate.AddItem(strings_(kAllDatesText));
-    for (const std::string& date : dates)
-        cboDate.AddItem(settings_.LongDate != 0 ? LongDate(date) : date);
+        dates.insert(dates.begin(), strings_(kAllDatesText));
+    cboDate.AddItems(dates);
     shownDay_ = kNothingShown;
     Attempt([&] { cboDate.SetListIndex(selectLastDate ? cboDate.ListCount() - 1 : 0); });
     controls_.SourceListView.SetFocus();
@@ -129,8 +131,9 @@ void DayPanels::ApplyNewDateFormat(std::int32_t lngLd) {
     toolkit::ComboBox& cboDate = controls_.cboDate;
     const int selected = cboDate.ListIndex();
     cboDate.Clear();
+    std::vector<std::string> labels;
     if (days_.FirstDayItem() == 1)
-        cboDate.AddItem(strings_(kAllDatesText));
+        labels.push_back(strings_(kAllDatesText));
     for (std::int32_t day = 0; day < days_.DayCount(); ++day) {
         // Days that are older than the entries can have lost their dates; they keep their places.
         std::string label;
@@ -138,8 +141,9 @@ void DayPanels::ApplyNewDateFormat(std::int32_t lngLd) {
             const std::string_view date = days_.DateOfDay(day, entries_.EntryDates());
             label = lngLd != 0 ? LongDate(date) : std::string(date);
         });
-        cboDate.AddItem(label);
+        labels.push_back(std::move(label));
     }
+    cboDate.AddItems(labels);
     {
         const toolkit::ScopedFlag ignore(ignoreComboClick_);
         cboDate.SetListIndex(selected);

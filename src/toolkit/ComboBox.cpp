@@ -29,6 +29,11 @@ void ComboBox::AddItem(std::string_view text) {
     InsertItem(ListCount(), text);
 }
 
+void ComboBox::AddItems(const std::vector<std::string>& texts) {
+    items_.insert(items_.end(), texts.begin(), texts.end());
+    peer_->AddItems(texts);
+}
+
 void ComboBox::InsertItem(int index, std::string_view text) {
     if (index < 0 || index > ListCount())
         throw SubscriptOutOfRange();

@@ -21,6 +21,8 @@ class ComboBox : public Control {
     int ListCount() const { return static_cast<int>(items_.size()); }
     const std::string& List(int index) const;  // SubscriptOutOfRange
     void AddItem(std::string_view text);
+    // The same for many items, which takes much less time than one after the other.
+    void AddItems(const std::vector<std::string>& texts);
     // Inserting at or above the selected item moves the selection with its item; nothing is raised.
     void InsertItem(int index, std::string_view text);
     // The box shows the new text when the item is the selected one; nothing is raised.

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "toolkit/Basics.h"
 
@@ -53,6 +54,7 @@ class TextPeer : public ControlPeer {
 
 class ComboBoxPeer : public TextPeer {
   public:
+    virtual void AddItems(const std::vector<std::string>& texts) = 0;
     virtual void InsertItem(int index, std::string_view text) = 0;
     virtual void SetItem(int index, std::string_view text) = 0;
     virtual void RemoveItem(int index) = 0;

@@ -41,6 +41,15 @@ TEST_P(ComboBoxes, ItemsAreShownInTheirOrder) {
     list.InsertItem(1, "between");
     list.AddItem("");
     ExpectShown(list);
+    list.SetListIndex(1);
+    listClick.Take();
+    list.AddItems({"many", "at \u00dcnce", ""});
+    ExpectShown(list);
+    EXPECT_EQ(list.ListIndex(), 1);
+    edit.SetVisible(false);
+    edit.AddItems({"unseen"});
+    EXPECT_FALSE(User().IsVisible(edit));
+    ExpectShown(edit);
     EXPECT_EQ(listClick.Take(), 0);
 }
 

@@ -161,6 +161,9 @@ class MemoryComboBox : public TextualPeer<ComboBoxPeer> {
         shown.bounds.height = HeightFor(font);
         return shown.bounds;
     }
+    void AddItems(const std::vector<std::string>& texts) override {
+        shown.items.insert(shown.items.end(), texts.begin(), texts.end());
+    }
     void InsertItem(int index, std::string_view text) override {
         shown.items.emplace(shown.items.begin() + index, text);
         if (shown.listIndex >= index)

@@ -111,6 +111,21 @@ void ComboBoxWindow::SelectText(std::size_t start, std::size_t length) {
     Send(CB_SETEDITSEL, 0, MAKELPARAM(from, from + TextPosition(length, end - from)));
 }
 
+// The control thinks about its looks with each item, for which a log of many years has no time.
+void ComboBoxWindow::AddItems(const std::vector<std::string>& texts) {
+    const ScopedFlag setting(setting_);
+    // Drawing that is switched on again would show a hidden window.
+    const bool drawn = (GetWindowLongW(handle(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (drawn)
+        Send(WM_SETREDRAW, FALSE);
+    for (const std::string& text : texts)
+        Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(WideForDisplay(text).c_str()));
+    if (drawn) {
+        Send(WM_SETREDRAW, TRUE);
+        InvalidateRect(handle(), nullptr, TRUE);
+    }
+}
+
 void ComboBoxWindow::InsertItem(int index, std::string_view text) {
     const ScopedFlag setting(setting_);
     const std::wstring shown = WideForDisplay(text);

@@ -19,6 +19,7 @@ class ComboBoxWindow : public Peer<toolkit::ComboBoxPeer> {
     void TakeFocus() override;
     void SetText(std::string_view text) override;
     void SelectText(std::size_t start, std::size_t length) override;
+    void AddItems(const std::vector<std::string>& texts) override;
     void InsertItem(int index, std::string_view text) override;
     void SetItem(int index, std::string_view text) override;
     void RemoveItem(int index) override;
