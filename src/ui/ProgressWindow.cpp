@@ -5,12 +5,19 @@
 
 namespace ordalyn {
 
+namespace {
+
+constexpr std::chrono::milliseconds kBetweenPaintings{50};
+
+}  // namespace
+
 ProgressWindow::ProgressWindow(toolkit::Toolkit& toolkit, toolkit::Form& owner, Texts texts,
-                               std::function<void()> cancelled)
+                               std::function<void()> cancelled, Clock clock)
     : toolkit_(toolkit),
       owner_(owner),
       texts_(std::move(texts)),
-      cancelled_(std::move(cancelled)) {}
+      cancelled_(std::move(cancelled)),
+      clock_(std::move(clock)) {}
 
 frmProgress& ProgressWindow::Loaded() {
     if (window_ == nullptr)
@@ -34,11 +41,17 @@ void ProgressWindow::ShowProgress(std::string_view caption, std::int32_t max) {
         window.Show(&owner_);
     window.ProgressBar1.SetMaximum(max);
     window.ProgressBar1.SetValue(1);
+    nextPainting_ = {};
     toolkit_.DoEvents();
 }
 
 void ProgressWindow::SetValue(std::int32_t value) {
-    Loaded().ProgressBar1.SetValue(value);
+    toolkit::ProgressBar& bar = Loaded().ProgressBar1;
+    const auto now = clock_();
+    if (now < nextPainting_ && value <= bar.Maximum())
+        return;
+    bar.SetValue(value);
+    nextPainting_ = now + kBetweenPaintings;
 }
 
 void ProgressWindow::HideProgress() {

@@ -1,6 +1,8 @@
 // The progress window, the about box, help and the version text.
 #include <gmock/gmock.h>
 
+#include <chrono>
+
 #include "base/Errors.h"
 #include "support/platform/MemoryPlatform.h"
 #include "support/toolkit/MemoryToolkit.h"
@@ -43,7 +45,9 @@ class Dialogs : public testing::Test {
     test::MemoryPlatform system;
     toolkit::Form owner{tools, kOwner};
     int cancelled = 0;
-    ProgressWindow progress{tools, owner, TestTexts(), [this] { ++cancelled; }};
+    std::chrono::steady_clock::time_point now = std::chrono::steady_clock::now();
+    ProgressWindow progress{tools, owner, TestTexts(), [this] { ++cancelled; },
+                            [this] { return now; }};
     HelpSurroundings help{tools, system.files, system.shell, "C:\\Ordalyn\\", true, "", TextOf};
 };
 
@@ -96,6 +100,23 @@ TEST_F(Progress, AValueBeyondTheMaximumIsAnError) {
     progress.ShowProgress("Reading", 3);
     progress.SetValue(3);
     EXPECT_THROW(progress.SetValue(4), InvalidPropertyValue);
+}
+
+TEST_F(Progress, ValuesThatFollowFasterThanEyesAreLeftOut) {
+    progress.PrepareCompact();
+    progress.ShowProgress("Reading", 100);
+    const toolkit::ProgressBar& bar = progress.Window()->ProgressBar1;
+    progress.SetValue(10);
+    EXPECT_EQ(bar.Value(), 10);
+    now += std::chrono::milliseconds(49);
+    progress.SetValue(20);
+    EXPECT_EQ(bar.Value(), 10);
+    now += std::chrono::milliseconds(1);
+    progress.SetValue(30);
+    EXPECT_EQ(bar.Value(), 30);
+    progress.ShowProgress("Reading", 100);  // the next file
+    progress.SetValue(2);
+    EXPECT_EQ(bar.Value(), 2);
 }
 
 TEST_F(Progress, HidingUnloadsTheWindowAndRestoresThePointer) {
