@@ -16,7 +16,7 @@ PROJECT = pathlib.Path(__file__).resolve().parents[1]
 SECONDS_FOR_ONE_PROGRAM = 300
 
 PASSED = re.compile(r"^\[       OK \] (\S+)", re.M)
-FAILED = re.compile(r"^\[  FAILED  \] (\S+?),? .*\(\d+ ms\)$", re.M)
+FAILED = re.compile(r"^\[  FAILED  \] (\S+?),? .*\(\d+ ms\)\r?$", re.M)
 STARTED = re.compile(r"^\[ RUN      \] (\S+)", re.M)
 
 
