@@ -87,8 +87,10 @@ kind_contract() {
 kind_e2e() {
     ./build.sh x64
     cmake --build --preset mingw-x64 --target ordalyn_e2e_agent ordalyn_e2e_launch ordalyn_e2e_hold
+    # The program and its tests mostly wait for one another. Each worker has a display and a Wine
+    # prefix of its own.
     # shellcheck disable=SC2086
-    run_pytest e2e tests/e2e ${ORDALYN_E2E:-}
+    run_pytest e2e -n 2 tests/e2e ${ORDALYN_E2E:-}
 }
 
 # targets PRESET PREFIX: the names of a build folder's targets that start so.

@@ -23,7 +23,7 @@ packages_for() {
             echo wine wine64 xvfb xdotool imagemagick fonts-wine fonts-liberation python3
             ;;
         test)
-            echo python3-pytest locales libbenchmark-dev shellcheck \
+            echo python3-pytest python3-pytest-xdist locales libbenchmark-dev shellcheck \
                 clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev
             ;;
         *)
