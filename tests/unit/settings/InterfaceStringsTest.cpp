@@ -120,6 +120,17 @@ TEST_F(InterfaceStringsTest, WithoutAMarkTheCodePageIsThatOfTheCharacterSet) {
     EXPECT_EQ(strings.GetInterfaceString(4000), "Âðåìÿ");
 }
 
+TEST_F(InterfaceStringsTest, EveryCharacterSetHasItsCodePage) {
+    UseLanguageFile(Section("4000=\xBF\xF1\xE1\r\n"));
+    settings.FontScript = 161;  // Greek
+    EXPECT_EQ(strings.GetInterfaceString(4000), "Ώρα");
+    // In this one a letter may take two bytes, the second of them a backslash.
+    UseLanguageFile(Section("4000=\x95\x5C\r\n4001=\x93\xFA\x96\x7B\x8C\xEA\r\n"));
+    settings.FontScript = 128;  // Japanese
+    EXPECT_EQ(strings.GetInterfaceString(4001), "日本語");
+    EXPECT_EQ(strings.GetInterfaceString(4000), "表");
+}
+
 TEST_F(InterfaceStringsTest, OnASystemOfThatCodePageTheDefaultCharacterSetWillDo) {
     system.codePages.systemCodePage = 1251;
     UseLanguageFile(Section("4000=\xC2\xF0\xE5\xEC\xFF\r\n"));
