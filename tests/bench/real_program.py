@@ -62,6 +62,8 @@ def filter_over_all_dates(folder, log):
 
 def main():
     million = pathlib.Path(sys.argv[1]).resolve()
+    if not million.is_file():
+        sys.exit(f"there is no log {million}; make_log writes one")
     display = Display()
     try:
         wine = Wine(display)
