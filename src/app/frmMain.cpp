@@ -249,8 +249,13 @@ void frmMain::WirePanels() {
                           .applyFilter = [this] { find_.ApplyFilter(false); },
                           .dayChosen = [this](bool singleDay) { find_.DayChosen(singleDay); }});
     StatusBar1.PanelClick.Subscribe([this](int panel) { find_.StatusBarPanelClicked(panel); });
-    SourceListView.ItemClick.Subscribe([this](int row) { SourceRowClicked(row); });
-    TargetListView.ItemClick.Subscribe([this](int row) { TargetRowClicked(row); });
+    // Rows can be older than the entries, when a file could not be read, and an entry can be newer
+    // than the list of files: such a row has no title to show, which is nothing to report for each
+    // arrow key.
+    SourceListView.ItemClick.Subscribe(
+        [this](int row) { Attempt([&] { SourceRowClicked(row); }); });
+    TargetListView.ItemClick.Subscribe(
+        [this](int row) { Attempt([&] { TargetRowClicked(row); }); });
     for (ListView* list : {&SourceListView, &TargetListView}) {
         list->MouseUp.Subscribe(
             [this](int button, toolkit::Modifiers, toolkit::Twips, toolkit::Twips) {
@@ -402,6 +407,7 @@ void frmMain::Close() {
         about_->Unload();
     if (options_ != nullptr)
         options_->Unload();
+    reading_.Stop();
     progress_.HideProgress();
     find_.UnloadFindDialog();
     find_.UnloadFilterDialog();

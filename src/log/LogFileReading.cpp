@@ -21,7 +21,7 @@ LogFileReading::LogFileReading(LogReader& reader, EntryLists& entries, Surroundi
 
 void LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles,
                                  bool startNewList) {
-    if (reading_)
+    if (reading_ || stopped_)
         return;
     const toolkit::ScopedFlag reading(reading_);
     try {
@@ -64,6 +64,8 @@ void LogFileReading::Prepare(const std::string& fileName, bool startNewList) {
 void LogFileReading::ReadWhole(const std::string& fileName, bool addToRecentFiles,
                                bool startNewList) {
     Prepare(fileName, startNewList);
+    if (stopped_)
+        return;
     reader_.ReadEntries([this](std::int32_t value) { around_.progress.SetValue(value); });
     if (addToRecentFiles)
         around_.rememberFile(fileName);

@@ -76,6 +76,11 @@ class LogFileReading {
     void ReadAppendedLines(const std::string& fileName);
     void HideProgress() { around_.progress.HideProgress(); }
 
+    // The main window has closed, perhaps in the middle of a read: nothing is read, shown or told
+    // any more.
+    void Stop() { stopped_ = true; }
+    bool Stopped() const { return stopped_; }
+
     // Set by the progress window's Cancel button; looked at between the files of a set only.
     bool CancelReading = false;
 
@@ -89,6 +94,7 @@ class LogFileReading {
     Surroundings around_;
     int busy_ = 0;
     bool reading_ = false;
+    bool stopped_ = false;
 };
 
 }  // namespace ordalyn

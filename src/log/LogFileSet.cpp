@@ -101,6 +101,8 @@ void LogFileSet::ReadAllFiles() {
             reading_.ReadLogFile(false, logFolder_ + around_.cboFiles.List(kLiveLogItem), false,
                                  false);
     }
+    if (reading_.Stopped())
+        return;
     if (stopped) {
         ReadOnlyLiveLog();
         return;
@@ -118,7 +120,7 @@ bool LogFileSet::ReadSiblings() {
         // So that a click on Cancel is seen. The main window waits for the read, but the list of
         // files could still change here.
         around_.form.toolkit().DoEvents();
-        if (!reading_.CancelReading)
+        if (!reading_.CancelReading || reading_.Stopped())
             continue;
         const toolkit::Answer answer = around_.form.toolkit().ShowMessage(
             &around_.form, around_.strings(kAreYouSureText), around_.messageTitle,

@@ -262,6 +262,9 @@ TEST_F(ProgramEnd, TheProgressWindowIsUnloadedBeforeTheDialogsThatOutliveIt) {
     Main().FilesDropped.Raise({"C:\\logs\\tc.log"});
     EXPECT_THAT(closed, ElementsAre("frmProgress", "frmSearchFor", "frmFilters", "frmXpStyleLoader",
                                     "frmMain"));
+    // The read that was going on ends there: it shows no window again.
+    EXPECT_EQ(tools.closedForms, closed);
+    EXPECT_TRUE(tools.messages.empty());
 }
 
 TEST_F(ProgramEnd, FileExitClosesTheWindow) {

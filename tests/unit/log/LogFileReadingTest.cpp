@@ -98,6 +98,16 @@ TEST_F(LogFileReadingTest, AnEmptyFileIsAnErrorAtLine0) {
     EXPECT_EQ(reader.LineCount(), 1);
 }
 
+TEST_F(LogFileReadingTest, AWindowThatClosesInTheMiddleEndsTheReadWithoutAWord) {
+    progress.onShow = [&] { reading.Stop(); };
+    Load(std::vector<std::string>(500, kLine));
+    EXPECT_EQ(entries.EntryDates().ListCount(), -1);
+    EXPECT_EQ(SourceListView.RowCount(), 0);
+    EXPECT_THAT(tools.messages, IsEmpty());
+    Load({kLine});
+    EXPECT_EQ(SourceListView.RowCount(), 0);
+}
+
 TEST_F(LogFileReadingTest, AFileThatCannotBeOpenedIsAnErrorAtLine0) {
     Load({kLine});
     system.files.Set("C:\\logs\\locked.log", "x");
@@ -146,7 +156,9 @@ TEST_F(LogFileReadingTest, RefreshOfAnUnchangedFileChangesNothing) {
     Load({kLine, kLine});
     const int fills = MemoryToolkit::Of(SourceListView).fills;
     SourceListView.SelectRow(0);
+    tools.pointers.clear();
     reading.ReadAppendedLines(kLog);
+    EXPECT_EQ(tools.pointers.front(), toolkit::Pointer::Hourglass);
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).fills, fills);
     EXPECT_EQ(SourceListView.SelectedRow(), 0);
     EXPECT_EQ(reader.LineCount(), 3);
@@ -156,6 +168,7 @@ TEST_F(LogFileReadingTest, RefreshOfAnUnchangedFileChangesNothing) {
 TEST_F(LogFileReadingTest, RefreshAppendsAndSelectsTheLastDayAndRow) {
     Load({kLine});
     progress.steps.clear();
+    tools.pointers.clear();
     system.files.Append(
         kLog, "02.03.2024 11:00:00: Move a -> b\r\n\r\n02.03.2024 11:00:01: Delete c\r\n");
     reading.ReadAppendedLines(kLog);
@@ -168,6 +181,7 @@ TEST_F(LogFileReadingTest, RefreshAppendsAndSelectsTheLastDayAndRow) {
     EXPECT_EQ(entries.EntryFiles().ListCount(), 0);
     EXPECT_THAT(progress.steps, IsEmpty());
     EXPECT_THAT(tools.messages, IsEmpty());
+    EXPECT_EQ(tools.pointers.front(), toolkit::Pointer::Hourglass);
 }
 
 TEST_F(LogFileReadingTest, RefreshHasNoCommentRule) {

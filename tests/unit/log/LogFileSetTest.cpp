@@ -127,6 +127,18 @@ TEST_F(LogFileSetTest, NothingOfTheMainWindowCanBeUsedWhileAllFilesAreRead) {
     EXPECT_THAT(enabled, ElementsAre(false, false));
 }
 
+TEST_F(LogFileSetTest, AWindowThatClosesBetweenFilesEndsTheReadWithoutAWord) {
+    files.BuildLogFileList();
+    tools.onDoEvents = [&] {
+        reading.CancelReading = true;
+        reading.Stop();
+    };
+    cboFiles.UserSelected(0);
+    EXPECT_EQ(entries.EntryDates().ListCount(), 0);  // of the first sibling
+    EXPECT_EQ(SourceListView.RowCount(), 0);
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
 TEST_F(LogFileSetTest, CancelIsAskedAboutBetweenFilesWithNoAsTheDefault) {
     files.BuildLogFileList();
     int events = 0;
