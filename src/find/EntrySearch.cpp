@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Attempt.h"
 #include "base/CheckedMath.h"
 #include "find/FieldScan.h"
 
@@ -67,10 +68,14 @@ bool EntrySearch::ShowEntry(std::int32_t entry) {
 // Selects the entry's row. Without a filter the rows are the entries from the first one on, so its
 // place is known; a row that a fill has not got to counts as shown, though nothing is selected.
 bool EntrySearch::ShowRowOf(std::int32_t entry, std::int32_t firstEntry) {
+    // The row is what was looked for: it stays found when there is no file to name in the title.
+    const auto select = [this](std::int32_t row) {
+        Attempt([&] { around_.panels.SelectEntryRow(row); });
+    };
     if (around_.settings.FilterText.empty()) {
         const std::int32_t row = entry - firstEntry + 1;
         if (row <= around_.SourceListView.RowCount())
-            around_.panels.SelectEntryRow(row);
+            select(row);
         return true;
     }
     // Rows are in the order of their entries. Selecting by row number selects in both panels and
@@ -79,7 +84,7 @@ bool EntrySearch::ShowRowOf(std::int32_t entry, std::int32_t firstEntry) {
     const auto found = std::lower_bound(tags->begin(), tags->end(), entry);
     if (found == tags->end() || *found != entry)
         return false;
-    around_.panels.SelectEntryRow(static_cast<std::int32_t>(found - tags->begin()) + 1);
+    select(static_cast<std::int32_t>(found - tags->begin()) + 1);
     return true;
 }
 

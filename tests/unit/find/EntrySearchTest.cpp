@@ -1,6 +1,7 @@
 // Finding entries and taking the panels to them.
 #include "find/EntrySearch.h"
 
+#include "base/Errors.h"
 #include "unit/find/FindWindow.h"
 
 namespace ordalyn::test {
@@ -254,6 +255,17 @@ TEST_F(Search, ALogWithoutDatesHasNothingWithinTheSelectedOne) {
     // It counts as failed: the next search within a date begins with the day.
     Load({"01.03.2024 10:00:00: Copy a -> b", "02.03.2024 10:00:00: Copy a -> b"});
     EXPECT_EQ(Find("copy", 0, 0, 0, 1), 2);
+}
+
+TEST_F(Search, ARowStaysFoundWhenItsReactionFails) {
+    panels.SetReactions({.rowClicked = [](int) { throw SubscriptOutOfRange(); },
+                         .applyFilter = {},
+                         .dayChosen = {}});
+    AllDates();
+    EXPECT_EQ(Find("Delete"), 7);
+    EXPECT_EQ(SelectedEntry(), 6);
+    Filter("f.txt");
+    EXPECT_EQ(Find("f.txt"), 8);
 }
 
 TEST_F(Search, AnEntryBehindTheLastDayHasNoRow) {
