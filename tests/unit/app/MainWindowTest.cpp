@@ -240,6 +240,18 @@ TEST_F(MainWindow, AFileWithoutAnyLogIsReportedAndTheOldRowsStay) {
     EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
 }
 
+TEST_F(MainWindow, OldRowsThatHaveLostTheirEntriesCanBeWalkedThroughInPeace) {
+    SetLog("D:\\long.log",
+           std::vector<std::string>(2500, "07.03.2024 10:00:00: Copy x -> y"));
+    system.files.Set("D:\\empty.log", "");
+    Start();
+    Main().FilesDropped.Raise({"D:\\long.log"});
+    Main().FilesDropped.Raise({"D:\\empty.log"});
+    ASSERT_EQ(tools.messages.size(), 1U);
+    Source().UserSelected(2400);
+    EXPECT_EQ(tools.messages.size(), 1U);
+}
+
 TEST_F(MainWindow, ShortcutsDoNothingWhileADialogIsModal) {
     Start();
     tools.modalScripts.push_back([&](toolkit::Form& about) {

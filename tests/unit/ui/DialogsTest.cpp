@@ -93,6 +93,8 @@ TEST_F(Progress, IsCentredAndHandlesMessagesOnceWhenShown) {
     EXPECT_FLOAT_EQ(window.Left() + window.Width() / 2, tools.workArea.width / 2);
     progress.ShowProgress("Reading", 2);
     EXPECT_EQ(events, 1);
+    progress.SetValue(2);
+    EXPECT_EQ(events, 1);  // nobody may do anything to the log while it is read
 }
 
 TEST_F(Progress, AValueBeyondTheMaximumIsAnError) {

@@ -258,6 +258,9 @@ TEST_F(Layout, StoresOrientationAndBothPositions) {
     EXPECT_EQ(Stored("VerticalPanels"), "1");
     EXPECT_EQ(Stored("VSplitPosition"), "1234");
     EXPECT_EQ(Stored("HSplitPosition"), "2000");
+    // In this order in a new file.
+    EXPECT_THAT(system.files.Get(common.SettingsFile()).value_or(""),
+                testing::ContainsRegex("VerticalPanels.*\nVSplitPosition.*\nHSplitPosition"));
 }
 
 TEST_F(Layout, StoresTheStackedPosition) {
