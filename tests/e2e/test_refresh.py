@@ -1,9 +1,12 @@
 """The log grows, moves and goes away under the program's eyes."""
 
+import re
 import subprocess
 import time
 
+from harness.folder import tools_folder
 from harness.waiting import wait_until
+from harness.wine import windows_path
 
 # Lines that the second process appends before it renames the log.
 APPENDED = 10
@@ -166,3 +169,51 @@ def test_reading_never_stands_in_another_program_s_way(folder, wine):
     app.settle(30)
     app.main.dates.choose("01.03.2024")
     assert app.main.source.row_count == count + rounds * APPENDED
+
+
+def test_logs_that_take_each_other_s_place_are_read(folder, wine):
+    """The very moment of a rotation: logs are renamed or deleted, and others begun, all the time."""
+    app, log, path = start(folder, [line("log0")] * 1000)
+    mark = folder.path / "rotates"
+    rotation = subprocess.Popen(
+        ["wine", str(tools_folder() / "ordalyn_e2e_hold.exe"), path, windows_path(mark), "rotate"],
+        env=wine.environment(), stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+        stderr=subprocess.DEVNULL)
+    wait_until(lambda: mark.exists() or rotation.poll() is not None, "the second process", 30)
+    seen, missed, refreshed = set(), 0, 0
+    begun = time.monotonic()
+    while rotation.poll() is None and time.monotonic() < begun + (3 if len(seen) > 2 else 20):
+        app.main.ask("dropFiles", paths=[path])
+        app.settle(30)
+        message = app.find_dialog()
+        if message:
+            assert re.fullmatch(re.escape(READ_ERROR.format(path, "")) + r"\d+", message.text)
+            message.press("OK")
+            missed += 1
+            continue
+        # What is shown are rows of one log; of a log that is just being written the last line may
+        # not be whole.
+        rows = app.main.source.rows()
+        words = {text for _, text in rows[:-1]}
+        assert len(words) == 1, (words, len(rows))
+        seen |= words
+        app.agent.ask("keys", keys=[0x74, 1, 0x74, 0])
+        app.settle(30)
+        message = app.find_dialog()
+        if message:
+            assert message.text.startswith(READ_ERROR.format(path, "")), message.text
+            message.press("OK")
+            refreshed += 1
+    assert rotation.poll() is None, f"a step of the rotation was refused: {rotation.returncode}"
+    mark.unlink()
+    rotation.wait(30)
+    assert rotation.returncode == 0
+    assert len(seen) > 2, (seen, missed, refreshed)
+    assert not app.find_dialog()
+    app.main.drop_files(path)
+    app.settle(30)
+    lines = log.read_bytes().decode().splitlines()
+    assert app.main.source.row_count == len(lines) > 0
+    assert app.main.source.rows(0, 1) == [("10:15:30", lines[0].split(": ", 1)[1])]
+    assert app.main.responsive
+    app.close()
