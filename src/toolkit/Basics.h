@@ -35,6 +35,8 @@ inline constexpr Color kWindowBackground = SystemColor(5);
 inline constexpr Color kWindowText = SystemColor(8);
 inline constexpr Color kButtonFace = SystemColor(15);
 inline constexpr Color kButtonText = SystemColor(18);
+// No index of the system's: what the pages of a tab strip are painted with.
+inline constexpr Color kTabInterior = SystemColor(0x80);
 
 struct Font {
     std::string name;  // empty: the system's dialog font

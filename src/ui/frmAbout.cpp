@@ -98,6 +98,11 @@ frmAbout::frmAbout(toolkit::Toolkit& toolkit, platform::Shell& shell, const Text
     Frame1.SetBorder(toolkit::BorderStyle::FixedSingle);
     Frame1.SetLeft(kFrameOffset * tpx);
     Frame1.SetTop(kFrameOffset * tpy);
+    // As far from the other edges, where the button below it ends, too.
+    const toolkit::Size inside = ClientSize();
+    Frame1.SetWidth(inside.width - 2 * kFrameOffset * tpx);
+    Frame1.SetHeight(inside.height - (2 * kFrameOffset + kButtonOffset) * tpy - cmdOK.Height());
+    cmdOK.SetLeft(Frame1.Left() + Frame1.Width() - cmdOK.Width());
     cmdOK.SetTop(Frame1.Top() + Frame1.Height() + kButtonOffset * tpy);
     SetCaption(Caption() + " " + std::string(mAppCommon::kProgramTitle));
     CentreOnScreen();

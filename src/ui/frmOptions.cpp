@@ -14,13 +14,15 @@ namespace {
 
 constexpr int kForeground = 0;
 constexpr int kBackground = 1;
-constexpr int kPageOffset = 8;  // pixels from the tab strip's left edge
+constexpr int kPageOffset = 8;  // pixels from the tab strip's edges
 constexpr Twips kOffDialog = -20000;
 
 constexpr Twips kTabWidth = 6300;
 constexpr Twips kTabHeight = 3660;
 constexpr Twips kPageTop = 540;
 constexpr Twips kPageWidth = kTabWidth - 240;
+constexpr Twips kPageMargin = 60;    // around the frames of a page
+constexpr Twips kFrameMargin = 180;  // around what a frame holds
 constexpr Twips kPageHeight = kTabHeight - 540;
 constexpr Twips kButtonTop = 3900;
 constexpr Twips kButtonWidth = 1260;
@@ -40,7 +42,7 @@ constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::Frame,
      .name = "Frame1",
      .tag = "1021",
-     .bounds = {60, 60, 2970, 1830},
+     .bounds = {kPageMargin, kPageMargin, 2970, 1830},
      .container = "picOptions",
      .containerIndex = 1},
     {.kind = Kind::CheckBox,
@@ -66,7 +68,7 @@ constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::Frame,
      .name = "Frame7",
      .tag = "1051",
-     .bounds = {3120, 60, 2850, 1830},
+     .bounds = {3120, kPageMargin, kPageWidth - kPageMargin - 3120, 1830},
      .container = "picOptions",
      .containerIndex = 1},
     {.kind = Kind::Label,
@@ -92,7 +94,7 @@ constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::Frame,
      .name = "Frame3",
      .tag = "1065",
-     .bounds = {60, 1980, 5910, 900},
+     .bounds = {kPageMargin, 1980, kPageWidth - 2 * kPageMargin, 900},
      .container = "picOptions",
      .containerIndex = 1},
     {.kind = Kind::CommandButton,
@@ -109,7 +111,7 @@ constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::Frame,
      .name = "Frame4",
      .tag = "1089",
-     .bounds = {60, 60, 5910, 1830},
+     .bounds = {kPageMargin, kPageMargin, kPageWidth - 2 * kPageMargin, 1830},
      .container = "picOptions",
      .containerIndex = 2},
     {.kind = Kind::OptionButton,
@@ -174,6 +176,7 @@ frmOptions::frmOptions(toolkit::Toolkit& toolkit, Surroundings surroundings)
     tbsOptions.AddTab("1006");
     cmdBrowseForLangFile.SetCaption("...");
     PaintPages();
+    ArrangePages();
     for (const int label : {kForeground, kBackground})
         ColorLabel(label).SetBorder(toolkit::BorderStyle::FixedSingle);
     WirePages();
@@ -193,13 +196,17 @@ void frmOptions::LoadFromSettings() {
     Box("chkLongDate").SetChecked(settings.LongDate != 0);
     ColorLabel(kForeground).SetBackColor(settings.ForegroundColor);
     ColorLabel(kBackground).SetBackColor(settings.BackgroundColor);
-    (settings.UseDefaultLanguage != 0 ? optUseDefaultLanguage : optUseOtherLanguage)
-        .SetChecked(true);
+    ShowLanguageSource();
     txtLanguageFilePath.SetText(around_.isNoValue(settings.LanguageFile) ? ""
                                                                          : settings.LanguageFile);
 }
 
-// The inside of a tab has the colour of windows, not of dialogs; what lies on it follows.
+void frmOptions::ShowLanguageSource() {
+    (around_.settings.UseDefaultLanguage != 0 ? optUseDefaultLanguage : optUseOtherLanguage)
+        .SetChecked(true);
+}
+
+// What lies on a tab follows the colour of its inside.
 void frmOptions::PaintPages() {
     for (const auto& control : Controls()) {
         switch (control->ControlKind()) {
@@ -208,12 +215,42 @@ void frmOptions::PaintPages() {
             case Kind::Label:
             case Kind::CheckBox:
             case Kind::OptionButton:
-                control->SetBackColor(toolkit::kWindowBackground);
+                control->SetBackColor(toolkit::kTabInterior);
+                break;
+            case Kind::CommandButton:
+                // Around its face; the buttons below the pages lie on the dialog.
+                if (control->Container() != this)
+                    control->SetBackColor(toolkit::kTabInterior);
                 break;
             default:
                 break;
         }
     }
+}
+
+// The pages keep a number of pixels to the tab strip's edges, which is another number of twips on
+// each screen; what lies at their right edge goes with it.
+void frmOptions::ArrangePages() {
+    const Twips pageWidth = tbsOptions.Width() - 2 * PageOffset();
+    for (int page = 1; page <= tbsOptions.TabCount(); ++page)
+        Get<toolkit::PictureBox>("picOptions", page).SetWidth(pageWidth);
+    for (const char* name : {"Frame7", "Frame3", "Frame4"}) {
+        auto& frame = Get<toolkit::Frame>(name);
+        frame.SetWidth(pageWidth - kPageMargin - frame.Left());
+    }
+    const auto moveToRightEdge = [](toolkit::Control& control) {
+        control.SetLeft(control.Container()->Width() - kFrameMargin - control.Width());
+    };
+    for (const int label : {kForeground, kBackground})
+        moveToRightEdge(ColorLabel(label));
+    const Twips gap =
+        cmdBrowseForLangFile.Left() - txtLanguageFilePath.Left() - txtLanguageFilePath.Width();
+    moveToRightEdge(cmdBrowseForLangFile);
+    txtLanguageFilePath.SetWidth(cmdBrowseForLangFile.Left() - gap - txtLanguageFilePath.Left());
+}
+
+Twips frmOptions::PageOffset() {
+    return kPageOffset * static_cast<Twips>(std::lround(toolkit().TwipsPerPixelX()));
 }
 
 void frmOptions::WirePages() {
@@ -227,11 +264,10 @@ void frmOptions::WirePages() {
 }
 
 void frmOptions::ShowPage(int tab) {
-    const auto tpx = static_cast<Twips>(std::lround(toolkit().TwipsPerPixelX()));
     for (int page = 1; page <= tbsOptions.TabCount(); ++page) {
         auto& picture = Get<toolkit::PictureBox>("picOptions", page);
         const bool shown = page == tab;
-        picture.SetLeft(shown ? tbsOptions.Left() + kPageOffset * tpx : kOffDialog);
+        picture.SetLeft(shown ? tbsOptions.Left() + PageOffset() : kOffDialog);
         picture.SetEnabled(shown);
         if (shown)
             picture.BringToFront();
@@ -330,6 +366,8 @@ void frmOptions::ApplyOptions() {
         settings.LanguageFile = txtLanguageFilePath.Text();
     around_.applySettings();
     settings.SaveSettings();
+    // A language file that cannot be found has been told by now, and given up.
+    ShowLanguageSource();
     cmdApply.SetEnabled(false);
 }
 

@@ -33,7 +33,10 @@ class frmOptions : public toolkit::Form {
 
   private:
     void LoadFromSettings();
+    void ShowLanguageSource();
     void PaintPages();
+    void ArrangePages();
+    toolkit::Twips PageOffset();
     void WirePages();
     void WireControls();
     void ShowPage(int tab);

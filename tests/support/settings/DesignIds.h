@@ -74,6 +74,7 @@ inline constexpr DesignId kDesignIds[] = {
     {"frmOptions", "tbsOptions", "1002", 1},
     {"frmOptions", "tbsOptions", "1006", 2},
     {"frmProgress", "cmdCancel", "1009"},
+    {"frmAbout", "", "1501"},
     {"frmAbout", "lblProgrammedBy", "1502"},
     {"frmAbout", "Label4", "1505"},
     {"frmAbout", "lblVersion", "1503"},

@@ -5,6 +5,7 @@
 
 #include "base/Errors.h"
 #include "support/platform/MemoryPlatform.h"
+#include "support/settings/DesignIds.h"
 #include "support/toolkit/MemoryToolkit.h"
 #include "ui/Help.h"
 #include "ui/ProgressWindow.h"
@@ -83,6 +84,11 @@ TEST_F(Progress, TheTallFormNamesTheFileAndCanBeCancelled) {
     window.cmdCancel.UserClicked();
     EXPECT_EQ(cancelled, 1);
     EXPECT_TRUE(window.Visible());  // nothing else happens
+}
+
+TEST_F(Progress, CarriesTheIdsOfItsTexts) {
+    progress.PrepareTall("a");
+    EXPECT_THAT(test::DesignIdFaults(*progress.Window()), testing::IsEmpty());
 }
 
 TEST_F(Progress, IsCentredAndHandlesMessagesOnceWhenShown) {
@@ -202,6 +208,11 @@ TEST_F(About, ShowsTheTextsOfMakerAndVersion) {
     EXPECT_EQ(about.Get<toolkit::CommandButton>("cmdOK").Caption(), "text 1008");
 }
 
+TEST_F(About, CarriesTheIdsOfItsTexts) {
+    EXPECT_THAT(test::DesignIdFaults(frmAbout(tools, system.shell, TestTexts())),
+                testing::IsEmpty());
+}
+
 TEST_F(About, PlacesFrameAndButtonByPixelsAndItselfInTheMiddle) {
     tools.twipsPerPixelX = 10;
     tools.twipsPerPixelY = 12;
@@ -209,7 +220,12 @@ TEST_F(About, PlacesFrameAndButtonByPixelsAndItselfInTheMiddle) {
     const auto& frame = about.Get<toolkit::Frame>("Frame1");
     EXPECT_EQ(frame.Left(), 70);
     EXPECT_EQ(frame.Top(), 84);
-    EXPECT_EQ(about.Get<toolkit::CommandButton>("cmdOK").Top(), 84 + frame.Height() + 72);
+    const auto& button = about.Get<toolkit::CommandButton>("cmdOK");
+    EXPECT_EQ(button.Top(), 84 + frame.Height() + 72);
+    // The other edges are as far away.
+    EXPECT_EQ(about.ClientSize().width - (frame.Left() + frame.Width()), 70);
+    EXPECT_EQ(about.ClientSize().width - (button.Left() + button.Width()), 70);
+    EXPECT_EQ(about.ClientSize().height - (button.Top() + button.Height()), 84);
     EXPECT_FLOAT_EQ(about.Left() + about.Width() / 2, tools.workArea.width / 2);
     EXPECT_FLOAT_EQ(about.Top() + about.Height() / 2, tools.workArea.height / 2);
 }

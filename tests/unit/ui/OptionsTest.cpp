@@ -7,6 +7,7 @@
 #include "hostconfig/cRegistry.h"
 #include "hostconfig/mAppCommon.h"
 #include "support/platform/MemoryPlatform.h"
+#include "support/settings/DesignIds.h"
 #include "support/toolkit/MemoryToolkit.h"
 
 namespace ordalyn {
@@ -116,6 +117,49 @@ TEST_F(Options, ShowsOnePageAndKeepsTheOtherAway) {
     EXPECT_EQ(Page(1).Left(), -20000);
     EXPECT_FALSE(Page(1).Enabled());
     EXPECT_EQ(settings.OptionsPage, 1);
+}
+
+TEST_F(Options, CarriesTheIdsOfItsTexts) {
+    Open();
+    EXPECT_THAT(test::DesignIdFaults(*options), IsEmpty());
+}
+
+TEST_F(Options, PagesAndFramesHaveEqualMarginsOnEveryScreen) {
+    for (const float twipsPerPixel : {15.0F, 12.0F, 10.0F}) {
+        tools.twipsPerPixelX = twipsPerPixel;
+        Open();
+        const auto right = [](const toolkit::Control& c) { return c.Left() + c.Width(); };
+        const auto frame = [this](const char* name) -> toolkit::Frame& {
+            return options->Get<toolkit::Frame>(name);
+        };
+        auto& tabs = options->Get<toolkit::TabStrip>("tbsOptions");
+        for (const int page : {1, 2}) {
+            tabs.SelectTab(page);
+            EXPECT_EQ(Page(page).Left() - tabs.Left(), 8 * twipsPerPixel);
+            EXPECT_EQ(right(tabs) - right(Page(page)), 8 * twipsPerPixel);
+        }
+        for (const auto& [leftmost, rightmost] :
+             {std::pair("Frame1", "Frame7"), {"Frame3", "Frame3"}, {"Frame4", "Frame4"}})
+            EXPECT_EQ(frame(leftmost).Left(), Page(1).Width() - right(frame(rightmost)));
+        for (const int label : {0, 1}) {
+            EXPECT_EQ(frame("Frame7").Width() - right(ColorLabel(label)),
+                      options->Get<toolkit::Label>("Label3").Left());
+        }
+        EXPECT_EQ(frame("Frame4").Width() - right(Button("cmdBrowseForLangFile")),
+                  DefaultLanguage().Left());
+        EXPECT_LT(right(Path()), Button("cmdBrowseForLangFile").Left());
+    }
+}
+
+TEST_F(Options, WhatLiesOnAPageHasTheColourOfTheTabs) {
+    Open();
+    EXPECT_EQ(Page(1).BackColor(), toolkit::kTabInterior);
+    EXPECT_EQ(Box("chkGridLines").BackColor(), toolkit::kTabInterior);
+    EXPECT_EQ(DefaultLanguage().BackColor(), toolkit::kTabInterior);
+    for (const char* button : {"cmdChangeFont", "cmdBrowseForLangFile"})
+        EXPECT_EQ(Button(button).BackColor(), toolkit::kTabInterior) << button;
+    for (const char* button : {"cmdOK", "cmdCancel", "cmdApply"})
+        EXPECT_EQ(Button(button).BackColor(), toolkit::kButtonFace) << button;
 }
 
 TEST_F(Options, OpensOnThePageThatWasSeenLast) {

@@ -1,8 +1,21 @@
 #include "platform/win32/toolkit/Colors.h"
 
+// after windows.h
+#include <uxtheme.h>
+
 namespace ordalyn::win32 {
 
+namespace {
+
+bool ControlsAreThemed() {
+    return IsThemeActive() && IsAppThemed() && (GetThemeAppProperties() & STAP_ALLOW_CONTROLS) != 0;
+}
+
+}  // namespace
+
 COLORREF Resolve(toolkit::Color color) {
+    if (color == toolkit::kTabInterior)
+        return GetSysColor(ControlsAreThemed() ? COLOR_WINDOW : COLOR_BTNFACE);
     if (color < 0)
         return GetSysColor(color & 0xFF);
     return static_cast<COLORREF>(color) & 0xFFFFFFU;
