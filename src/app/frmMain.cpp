@@ -370,7 +370,12 @@ void frmMain::ShowOptions() {
             .commonDialog = *shared_.commonDialog,
             .programFolder = shared_.common.ProgramFolder(),
             .isNoValue = [this](const std::string& text) { return shared_.common.IsNoValue(text); },
-            .applySettings = [this] { ApplySettings(); },
+            .applySettings =
+                [this] {
+                    ApplySettings();
+                    // The font decides how high the boxes above the panels and the status bar are.
+                    layout_.WindowResized();
+                },
             .applyNewDateFormat = [this](std::int32_t lngLd) { ApplyNewDateFormat(lngLd); },
             .refreshMainWindow = [this] { Refresh(); }});
     options_->ShowModal(this);

@@ -11,8 +11,7 @@ from harness.waiting import wait_until
 LOG = [r"01.03.2024 10:15:30: Copy C:\a.txt -> D:\a.txt",
        r"02.03.2024 10:15:31: Delete C:\b.txt"]
 GRID_LINES = 0x1  # of a list view's extended style
-RIGHT_TO_LEFT = 0x400000  # of a window's extended style
-MIRRORED = 0x2000  # WS_EX_RTLREADING
+RIGHT_TO_LEFT = 0x2000  # of a window's extended style: WS_EX_RTLREADING
 BORDER, CLIENT_EDGE = 0x800000, 0x200
 GERMAN = {
     250: "&Suchen", 251: "&Suchen...", 4030: "Filte&r...", 141: "&Ansicht", 150: "&Optionen...",
@@ -201,6 +200,41 @@ def test_a_bold_font_survives_cancel_until_the_next_apply(show, folder):
     assert boxes.cancel.font["weight"] == 400
 
 
+def choose_size(app, dialog, points):
+    dialog.button("Change...").click()
+    chooser = app.dialog()
+    sizes = [combo for combo in chooser.controls("ComboBox") if points in combo.items]
+    sizes[0].choose(points)
+    chooser.button("OK").press()
+    dialog.wait_for_child(chooser)
+
+
+def test_a_larger_font_covers_nothing(show, folder):
+    app = show(LOG)
+    main = app.main
+    low = main.dates.rect.bottom - main.dates.rect.top
+    dialog = open_options(app)
+    choose_size(app, dialog, "16")
+    app.keys("Alt+A")
+
+    def check(*lists):
+        boxes, bar = main.dates.rect, main.status_bar.rect
+        assert boxes.bottom - boxes.top > low
+        assert lists[0].rect.top >= boxes.bottom
+        assert lists[-1].rect.bottom <= bar.top
+    check(*panels(app))
+    app.keys("Escape")
+    dialog.wait_for_end()
+    # With a single panel, too.
+    main.choose("View", "Two Panels")
+    dialog = open_options(app)
+    choose_size(app, dialog, "24")
+    dialog.button("OK").click()
+    dialog.wait_for_end()
+    check(main.source)
+    assert settings(folder)["FontSize"] == "24"
+
+
 def test_a_language_is_shown_without_a_restart(show, folder):
     path = language_file(folder)
     app = show(LOG)
@@ -301,6 +335,27 @@ def test_a_missing_language_file_is_told_once(folder):
     assert not app.find_dialog()
 
 
+def test_a_missing_file_that_is_chosen_is_told_once(show, folder):
+    app = show(LOG)
+    dialog = open_options(app)
+    app.keys("Ctrl+Tab")
+    dialog.button("Other").click()
+    dialog.language_file.set(folder.windows("Ordalyn", "gone.lng"))
+    dialog.button("Apply").click()
+    box = app.message()
+    assert box.text == "Cannot find language file!"
+    box.press("OK")
+    app.settle()
+    # The dialog shows what holds now.
+    assert dialog.button("Use default language").checked
+    assert not dialog.button("Other").checked
+    assert not dialog.button("Apply").enabled
+    dialog.button("OK").click()
+    dialog.wait_for_end()
+    assert not app.find_dialog()
+    assert settings(folder)["UseDefaultLanguage"] == "1"
+
+
 def test_a_language_from_right_to_left_turns_what_has_a_caption(folder):
     hebrew = {253: "חיפוש", 254: "חפש את:", 255: "חפש ב:", 252: "חפש הבא", 1009: "ביטול",
               258: "מילה שלמה", 4003: "מקור", 4004: "יעד", 4016: "תאריך", 109: "נקה"}
@@ -313,8 +368,7 @@ def test_a_language_from_right_to_left_turns_what_has_a_caption(folder):
     assert {plain(button.text) for button in buttons} == {
         text for number, text in hebrew.items() if number not in (253, 254)}
     for control in (dialog, *buttons, *dialog.controls("Static")):
-        style = control.info["exStyle"]
-        assert style & (MIRRORED | RIGHT_TO_LEFT), control.text
+        assert control.info["exStyle"] & RIGHT_TO_LEFT, control.text
     assert not dialog.one("ComboBox").info["exStyle"] & RIGHT_TO_LEFT
 
 

@@ -123,6 +123,55 @@ TEST_F(Language, TheOptionsReachTheMainWindowAtOnce) {
     EXPECT_EQ(Status().PanelText(2), "02.03.2024  ");
 }
 
+TEST_F(Language, AFileThatIsMissingIsReportedOnceAndTheDialogSaysSo) {
+    Start();
+    tools.modalScripts.push_back([this](toolkit::Form& options) {
+        auto& standard = options.Get<toolkit::OptionButton>("optUseDefaultLanguage");
+        auto& other = options.Get<toolkit::OptionButton>("optUseOtherLanguage");
+        other.UserToggled();
+        options.Get<toolkit::TextBox>("txtLanguageFilePath").UserEdited("C:\\gone.lng");
+        options.Get<toolkit::CommandButton>("cmdApply").UserClicked();
+        EXPECT_EQ(tools.messages.size(), 1U);
+        EXPECT_TRUE(standard.Checked());
+        EXPECT_FALSE(other.Checked());
+        EXPECT_FALSE(options.Get<toolkit::TextBox>("txtLanguageFilePath").Enabled());
+        EXPECT_FALSE(options.Get<toolkit::CommandButton>("cmdApply").Enabled());
+        options.Get<toolkit::CommandButton>("cmdOK").UserClicked();
+    });
+    Choose("mnuViewOptions");
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text, "Cannot find language file!");
+    EXPECT_EQ(Stored("UseDefaultLanguage"), "1");
+}
+
+TEST_F(Language, AnotherFontSizeLaysTheWindowOutAnew) {
+    for (const int twoPanels : {1, 0}) {
+        SetSettings("TwoPanels=" + std::to_string(twoPanels));
+        Start();
+        const toolkit::Twips before = Date().Height();
+        system.dialogs.onChooseFont = [](const auto&) {
+            platform::Dialogs::FontAnswer answer;
+            answer.name = "Tahoma";
+            answer.tenthsOfPoints = 160;
+            return std::optional(answer);
+        };
+        tools.modalScripts.push_back([](toolkit::Form& options) {
+            options.Get<toolkit::CommandButton>("cmdChangeFont").UserClicked();
+            options.Get<toolkit::CommandButton>("cmdApply").UserClicked();
+            options.Get<toolkit::CommandButton>("cmdCancel").UserClicked();
+        });
+        Choose("mnuViewOptions");
+        EXPECT_GT(Date().Height(), before);
+        const toolkit::Control& panels =
+            twoPanels != 0
+                ? static_cast<toolkit::Control&>(Get<toolkit::PictureBox>("picSpliterContainer"))
+                : Source();
+        EXPECT_EQ(panels.Top(), Date().Height() + 60);
+        EXPECT_EQ(panels.Top() + panels.Height(), Status().Top());
+        program.reset();
+    }
+}
+
 TEST_F(Language, AFontChosenBeforeCancelShowsAtTheNextApply) {
     Start();
     system.dialogs.onChooseFont = [](const auto&) {

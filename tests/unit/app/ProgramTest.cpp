@@ -1,6 +1,7 @@
 // Start, first activation, close and shutdown.
 #include "app/Program.h"
 
+#include "support/settings/DesignIds.h"
 #include "unit/app/ProgramWindow.h"
 
 namespace ordalyn {
@@ -166,10 +167,30 @@ TEST_F(ProgramStart, AppliesTheVisualSettings) {
         EXPECT_TRUE(control->Font().bold);
         EXPECT_TRUE(control->Font().italic);
     }
-    EXPECT_EQ(Date().Look(), toolkit::Appearance::Flat);
-    EXPECT_EQ(Files().ForeColor(), 255);
+    for (const toolkit::ComboBox* box : {&Date(), &Files()}) {
+        EXPECT_EQ(box->Look(), toolkit::Appearance::Flat);
+        EXPECT_EQ(box->ForeColor(), 255);
+        EXPECT_EQ(box->BackColor(), 65280);
+    }
     for (int panel = 1; panel <= 3; ++panel)
         EXPECT_EQ(Status().PanelBevel(panel), toolkit::Bevel::None);
+}
+
+TEST_F(ProgramStart, WithoutTheFlatLookEverythingIsInRelief) {
+    SetSettings("FixedBorders=1\r\nFlatUserInterface=0");
+    Start();
+    for (const toolkit::ListView* list : {&Source(), &Target()}) {
+        EXPECT_EQ(list->Border(), toolkit::BorderStyle::FixedSingle);
+        EXPECT_EQ(list->Look(), toolkit::Appearance::ThreeDimensional);
+    }
+    for (const toolkit::ComboBox* box : {&Date(), &Files()})
+        EXPECT_EQ(box->Look(), toolkit::Appearance::ThreeDimensional);
+    for (int panel = 1; panel <= 3; ++panel)
+        EXPECT_EQ(Status().PanelBevel(panel), toolkit::Bevel::Inset);
+}
+
+TEST_F(ProgramStart, TheMainWindowCarriesTheIdsOfItsTexts) {
+    EXPECT_THAT(test::DesignIdFaults(Start()), IsEmpty());
 }
 
 TEST_F(ProgramEnd, StoresColumnsPanelsAndPlacement) {
