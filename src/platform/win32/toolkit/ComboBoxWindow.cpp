@@ -87,8 +87,9 @@ void ComboBoxWindow::MeasureItems() {
     Send(CB_SETITEMHEIGHT, 0, metrics.tmHeight);
 }
 
-// The control has one frame only; the flat look is its items' look.
-void ComboBoxWindow::SetBorder(BorderStyle, Appearance) {
+// The control always has a frame; how it is drawn is its look.
+void ComboBoxWindow::SetBorder(BorderStyle, Appearance appearance) {
+    flat_ = appearance == Appearance::Flat;
     if (handle() != nullptr)
         InvalidateRect(handle(), nullptr, TRUE);
 }
@@ -201,7 +202,7 @@ void ComboBoxWindow::OnCommand(int code, int) {
     }
 }
 
-// Long items are shown whole, as far as the screen allows.
+// Long items are shown whole, as far as the box's screen allows.
 void ComboBoxWindow::WidenList() {
     RECT box = {};
     GetWindowRect(handle(), &box);
@@ -218,8 +219,11 @@ void ComboBoxWindow::WidenList() {
     }
     SelectObject(dc, before);
     ReleaseDC(handle(), dc);
-    const int room = GetSystemMetrics(SM_CXSCREEN) - box.left;
-    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::max<int>(std::min(widest, room), 0)));
+    MONITORINFO screen = {};
+    screen.cbSize = sizeof screen;
+    GetMonitorInfoW(MonitorFromWindow(handle(), MONITOR_DEFAULTTONEAREST), &screen);
+    const LONG room = screen.rcWork.right - box.left;
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::clamp<LONG>(room, 0, widest)));
 }
 
 // Opening a list selects the item that fits the typed text, and closing it without a choice keeps
@@ -243,13 +247,95 @@ LRESULT ComboBoxWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case kListClosed:
             ReportWhatIsShown();
             return 0;
+        case WM_PAINT:
+            if (flat_) {
+                PAINTSTRUCT paint;
+                PaintFlat(BeginPaint(handle(), &paint));
+                EndPaint(handle(), &paint);
+                return 0;
+            }
+            break;
+        case WM_PRINTCLIENT:
+            if (flat_) {
+                PaintFlat(reinterpret_cast<HDC>(wParam));
+                return 0;
+            }
+            break;
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORSTATIC:
             return reinterpret_cast<LRESULT>(OnColor(reinterpret_cast<HDC>(wParam)));
         default:
-            return Window::OnMessage(message, wParam, lParam);
+            break;
     }
+    return Window::OnMessage(message, wParam, lParam);
+}
+
+// The class draws frame and button in relief or as the theme has them, which may even move; so the
+// flat look is drawn instead of that, not over it.
+void ComboBoxWindow::PaintFlat(HDC dc) {
+    COMBOBOXINFO parts = {};
+    parts.cbSize = sizeof parts;
+    RECT area = {};
+    if (!GetComboBoxInfo(handle(), &parts) || !GetClientRect(handle(), &area))
+        return;
+    const int before = SaveDC(dc);
+    // The frames of the lists have the same colour; every theme makes it stand out.
+    FrameRect(dc, &area, GetSysColorBrush(COLOR_WINDOWFRAME));
+    InflateRect(&area, -1, -1);
+    RECT button = {};
+    IntersectRect(&button, &parts.rcButton, &area);
+    DrawFlatButton(dc, button, (parts.stateButton & STATE_SYSTEM_PRESSED) != 0);
+    ExcludeClipRect(dc, button.left, button.top, button.right, button.bottom);
+    RECT& item = parts.rcItem;
+    if (editable_) {
+        // The edit field draws itself.
+        GetWindowRect(parts.hwndItem, &item);
+        MapWindowPoints(nullptr, handle(), reinterpret_cast<POINT*>(&item), 2);
+    } else {
+        DrawClosedItem(dc, item);
+    }
+    ExcludeClipRect(dc, item.left, item.top, item.right, item.bottom);
+    FillRect(dc, &area, BackBrush());
+    RestoreDC(dc, before);
+}
+
+void ComboBoxWindow::DrawFlatButton(HDC dc, const RECT& button, bool pressed) const {
+    int arrow = COLOR_BTNTEXT;
+    if (!IsWindowEnabled(handle()))
+        arrow = COLOR_GRAYTEXT;
+    else if (pressed)
+        arrow = COLOR_HIGHLIGHTTEXT;
+    FillRect(dc, &button, GetSysColorBrush(pressed ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
+    const LONG half = desktop().scale.Nominal(3);
+    const LONG x = (button.left + button.right) / 2;
+    const LONG y = (button.top + button.bottom - half) / 2;
+    for (LONG row = 0; row <= half; ++row) {
+        const RECT line = {x - half + row, y + row, x + half - row + 1, y + row + 1};
+        FillRect(dc, &line, GetSysColorBrush(arrow));
+    }
+}
+
+// As the class has the closed part of a plain list drawn.
+void ComboBoxWindow::DrawClosedItem(HDC dc, const RECT& area) {
+    DRAWITEMSTRUCT item = {};
+    item.CtlType = ODT_COMBOBOX;
+    item.itemID = static_cast<UINT>(SelectedIndex());
+    item.itemAction = ODA_DRAWENTIRE;
+    item.itemState = ODS_COMBOBOXEDIT;
+    if (!IsWindowEnabled(handle()))
+        item.itemState |= ODS_DISABLED;
+    if (HasFocus() && !IsDroppedDown())
+        item.itemState |= ODS_SELECTED | ODS_FOCUS;
+    if ((Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS) != 0)
+        item.itemState |= ODS_NOFOCUSRECT;
+    item.hwndItem = handle();
+    item.hDC = dc;
+    item.rcItem = area;
+    InflateRect(&item.rcItem, -1, -1);
+    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
+    OnDrawItem(item);
+    SelectObject(dc, before);
 }
 
 void ComboBoxWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {

@@ -1,5 +1,5 @@
 // Combo boxes. Those with a plain list draw their items themselves, because the themed ones ignore
-// the colours of their closed part.
+// the colours of their closed part. With the flat look they draw their frame and button, too.
 #pragma once
 
 #include "platform/win32/toolkit/Window.h"
@@ -39,9 +39,13 @@ class ComboBoxWindow : public Peer<toolkit::ComboBoxPeer> {
     void WidenList();
     toolkit::Rect RealBounds() const;
     void ReportWhatIsShown();
+    void PaintFlat(HDC dc);
+    void DrawFlatButton(HDC dc, const RECT& button, bool pressed) const;
+    void DrawClosedItem(HDC dc, const RECT& area);
 
     toolkit::ComboBox& box_;
     bool editable_;
+    bool flat_ = false;
     bool setting_ = false;
 };
 

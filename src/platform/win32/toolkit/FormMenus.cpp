@@ -113,9 +113,13 @@ void FormMenus::Insert(HMENU menu, MenuItem& item, Places& places) const {
     info.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STATE;
     info.wID = static_cast<UINT>(NextId());
     info.fState = StateOf(item);
-    // The first item takes the rest of the bar to the right with it.
-    if (RightToLeft() && item.Parent() == nullptr && GetMenuItemCount(menu) == 0)
-        info.fType |= MFT_RIGHTJUSTIFY;
+    if (RightToLeft()) {
+        // The first item takes the rest of the bar to the right with it; the order of the items,
+        // and the side on which their menus open, are a matter of each of them.
+        info.fType |= MFT_RIGHTORDER;
+        if (item.Parent() == nullptr && GetMenuItemCount(menu) == 0)
+            info.fType |= MFT_RIGHTJUSTIFY;
+    }
     if (IsSeparator(item)) {
         info.fType |= MFT_SEPARATOR;
     } else {
