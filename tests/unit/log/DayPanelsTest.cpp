@@ -105,6 +105,12 @@ TEST_F(DayPanelsTest, CountsTheOperationsInTheStatusBar) {
     EXPECT_EQ(Status(1), "1234 Operation(s)  ");
 }
 
+TEST_F(DayPanelsTest, TheCountStandsWhereverItsMarkDoesInEitherCase) {
+    countText = "%I (%i) of %I %d %";
+    Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024 10:00:01: Copy c -> d"});
+    EXPECT_EQ(Status(1), "2 (2) of 2 %d %  ");
+}
+
 TEST_F(DayPanelsTest, PlainDatesInTheListGoWithLongOnesInTheStatusBar) {
     Load(kThreeDays);
     EXPECT_EQ(Dates().back(), "01.03.2024");

@@ -144,12 +144,13 @@ class LogWindow : public testing::Test {
     std::vector<int> clickedRows;
     int filters = 0;
     std::vector<bool> daysChosen;
+    std::string countText = Text(4010);
     DayPanels panels{{form, cboDate, SourceListView, TargetListView, StatusBar1,
                       form.Menu("mnuContext"), mnuContextCopyTarget},
                      entries,
                      settings,
                      system.locale,
-                     Text};
+                     [this](std::int32_t id) { return id == 4010 ? countText : Text(id); }};
     FakeProgress progress;
     std::vector<std::string> titles;
     std::vector<std::string> remembered;
