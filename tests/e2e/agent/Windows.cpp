@@ -259,6 +259,15 @@ Json RegistryKeyTime(const Json& request) {
     return ticks / kTicksInSecond - kSecondsTo1970;
 }
 
+// A font for this program alone, as long as it runs.
+Json AddFont(const Json& request) {
+    const int added =
+        AddFontResourceExW(ToWide(request.String("path")).c_str(), FR_PRIVATE, nullptr);
+    if (added == 0)
+        throw std::runtime_error("that is no font");
+    return added;
+}
+
 }  // namespace
 
 DWORD InterfaceThread() {
@@ -285,6 +294,7 @@ void AddWindowCommands(Commands& commands) {
     commands["place"] = Place;
     commands["windowCommand"] = WindowCommand;
     commands["font"] = FontOf;
+    commands["addFont"] = AddFont;
     commands["screen"] = Screen;
     commands["registryKeyTime"] = RegistryKeyTime;
     commands["send"] = [](const Json& request) -> Json {

@@ -45,19 +45,29 @@ class FileDialog(Window):
 
     def choose(self, path):
         """Enters the name of a file and confirms."""
+        self._enter(path)
+        self.press("Open")
+
+    def enter(self, path):
+        """Enters the name of a file that the dialog may refuse."""
+        self._enter(path)
+        self._button("Open").ask("press")
+        self.app.settle()
+
+    def _enter(self, path):
         edits = [info for info in self._with_id(*FILE_NAME, 1001) if info["class"] == "Edit"]
         TextBox(self.app, edits[-1]["handle"]).ask("setText", text=path)
-        self.press("Open")
 
     def cancel(self):
         self.press("Cancel")
 
-    def press(self, caption):
+    def _button(self, caption):
         for button in self.controls("Button"):
             if plain(button.text) == caption:
-                button.ask("press")
-                break
-        else:
-            raise AssertionError(f"no button {caption!r} in the file dialog")
+                return button
+        raise AssertionError(f"no button {caption!r} in the file dialog")
+
+    def press(self, caption):
+        self._button(caption).ask("press")
         wait_until(lambda: not self.app.has_window(self.handle), f"the dialog to go by {caption}")
         self.app.settle()
