@@ -126,6 +126,39 @@ def test_a_bare_name_in_the_registry_means_the_windows_folder(folder, registry, 
     shows(folder.start(), "machine")
 
 
+def test_the_machine_s_registry_comes_before_what_is_remembered(folder, registry):
+    install(folder, "machine")
+    install(folder, "remembered")
+    registry.registry_import({MACHINE: {"InstallDir": folder.windows("machine"),
+                                        "IniFileName": r".\wincmd.ini"}})
+    folder.write_settings(Common={"TCInstallDir": folder.windows("remembered"),
+                                  "UserDefinedWincmd": folder.windows("remembered", "wincmd.ini")})
+    shows(folder.start(), "machine")
+    assert common(folder)["TCInstallDir"] == folder.windows("machine")
+
+
+def test_what_the_file_manager_s_folder_lacks_may_be_in_the_windows_folder(folder, registry,
+                                                                            windows_ini):
+    install(folder, "windows")
+    shutil.copy(folder.path / "windows" / "wincmd.ini", windows_ini)
+    (folder.path / "empty").mkdir()
+    registry.registry_import({USER: {"InstallDir": folder.windows("empty"),
+                                     "IniFileName": r".\wincmd.ini"}})
+    shows(folder.start(), "windows")
+
+
+def test_a_network_path_in_the_registry_is_passed_over(folder, registry):
+    """It counts as a name below the Windows folder, where there is no such file."""
+    # Both begin with two backslashes; the first one leads to a file that is there.
+    install(folder, "there")
+    install(folder, "remembered")
+    registry.registry_import({
+        USER: {"IniFileName": "\\\\?\\" + folder.windows("there", "wincmd.ini")},
+        MACHINE: {"IniFileName": r"\\localhost\totalcmd\wincmd.ini"}})
+    folder.write_settings(Common={"UserDefinedWincmd": folder.windows("remembered", "wincmd.ini")})
+    shows(folder.start(), "remembered")
+
+
 def test_the_own_settings_file_comes_last(folder):
     install(folder, "remembered")
     folder.write_settings(Common={"TCInstallDir": r"%E2E_HOME%\remembered",
@@ -173,6 +206,22 @@ def test_the_user_is_asked_and_the_choice_is_remembered(folder):
 
     # A folder below the program's own needs nothing.
     shows(folder.start(), "beside")
+
+
+@pytest.mark.parametrize("bits, place, stored", [
+    (0, "Ordalyn/own", None), (1, "other", None),
+    (2, "Ordalyn/own", r"%Commander_Path%\Ordalyn\own\wincmd.ini")],
+    ids=["none", "program", "file manager"])
+def test_which_folders_have_a_symbolic_form_is_a_setting(folder, bits, place, stored):
+    """The program lies in the file manager's folder."""
+    file = install(folder, place) + r"\wincmd.ini"
+    folder.write_settings(Common={"TCInstallDir": windows_path(folder.path),
+                                  "UnExpandPaths": bits})
+    app = folder.start()
+    app.message(30).press("OK")
+    FileDialog.of(app).choose(file)
+    shows(app, place.split("/")[-1])
+    assert common(folder)["UserDefinedWincmd"] == (stored or file)
 
 
 def test_whoever_declines_gets_a_fresh_settings_file_once(folder, windows_ini):
@@ -240,6 +289,24 @@ def test_a_user_ini_elsewhere(folder, redirect, shown):
     app = folder.start(env={"Commander_Path": folder.windows("main"),
                             "Commander_INI": folder.windows("main", "wincmd.ini")})
     shows(app, shown)
+
+
+def test_which_sections_stay_is_a_setting(folder):
+    install(folder, "main", rf"AlternateUserIni={folder.windows('user', 'wincmd.ini')}")
+    install(folder, "user")
+    env = {"Commander_Path": folder.windows("main"),
+           "Commander_INI": folder.windows("main", "wincmd.ini")}
+    app = shows(folder.start(env=env), "main")
+    app.close()
+    # Whoever wants another list finds the one that counts.
+    assert common(folder)["TCSectionsNotRedirectedByDefault"] == (
+        "Configuration;Layout;Packer;Confirmation;Extensions;Shortcuts;PackerPlugins;"
+        "FileSystemPlugins;ListerPlugins;ContentPlugins")
+    own = "Layout;configurations;Packer"
+    folder.write_settings(Common={"TCSectionsNotRedirectedByDefault": own})
+    app = shows(folder.start(env=env), "user")
+    app.close()
+    assert common(folder)["TCSectionsNotRedirectedByDefault"] == own
 
 
 @pytest.mark.parametrize("there, shown", [(("current", "temp", "tmp"), "current"),
