@@ -242,21 +242,23 @@ Json Screen(const Json&) {
     return answer;
 }
 
-// When a key of the registry was written last, in seconds since 1970.
+// When a key of the registry was written last, in milliseconds since 1970.
 Json RegistryKeyTime(const Json& request) {
+    HKEY root =
+        request.String("root") == "HKEY_LOCAL_MACHINE" ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
     HKEY key = nullptr;
-    if (RegOpenKeyExW(HKEY_CURRENT_USER, ToWide(request.String("key")).c_str(), 0, KEY_QUERY_VALUE,
-                      &key) != ERROR_SUCCESS)
+    if (RegOpenKeyExW(root, ToWide(request.String("key")).c_str(), 0, KEY_QUERY_VALUE, &key) !=
+        ERROR_SUCCESS)
         throw std::runtime_error("there is no such key");
     FILETIME written{};
     RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                      nullptr, nullptr, &written);
     RegCloseKey(key);
-    constexpr std::int64_t kTicksInSecond = 10'000'000;
-    constexpr std::int64_t kSecondsTo1970 = 11'644'473'600;
+    constexpr std::int64_t kTicksInMillisecond = 10'000;
+    constexpr std::int64_t kMillisecondsTo1970 = 11'644'473'600'000;
     const auto ticks = static_cast<std::int64_t>(
         (static_cast<std::uint64_t>(written.dwHighDateTime) << 32) | written.dwLowDateTime);
-    return ticks / kTicksInSecond - kSecondsTo1970;
+    return ticks / kTicksInMillisecond - kMillisecondsTo1970;
 }
 
 // A font for this program alone, as long as it runs.
