@@ -183,7 +183,8 @@ void cRecentFiles::RefreshMenu() {
         toolkit::MenuItem& item = Item(i);
         const bool occupied = Occupied(i);
         if (occupied)
-            item.SetCaption("&" + std::to_string(i) + " " + CompactPath(Entry(i)));
+            item.SetCaption("&" + std::to_string(i) + " " +
+                            toolkit::CaptionShowing(CompactPath(Entry(i))));
         item.SetVisible(occupied);
         item.SetEnabled(occupied);
     }

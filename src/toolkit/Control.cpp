@@ -1,6 +1,8 @@
 #include "toolkit/Control.h"
 
 #include "base/Errors.h"
+#include "base/Text.h"
+#include "base/Utf8.h"
 
 namespace ordalyn::toolkit {
 
@@ -36,6 +38,13 @@ std::string_view KindName(Kind kind) {
             return "progressbar";
     }
     return "";
+}
+
+std::string CaptionShowing(std::string_view text) {
+    std::string caption;
+    for (const char c : text)
+        caption.append(c == '&' ? 2 : 1, c);
+    return caption;
 }
 
 Control::Control(Kind kind, std::string_view name, int index)
@@ -98,6 +107,28 @@ void Control::SetContainer(Control& container) {
 void Control::SetCaption(std::string_view caption) {
     caption_ = caption;
     peer().SetCaption(caption);
+}
+
+// The character behind the first "&" that is not doubled.
+char32_t Control::AccessKey() const {
+    switch (kind_) {
+        case Kind::Label:
+        case Kind::Frame:
+        case Kind::CommandButton:
+        case Kind::CheckBox:
+        case Kind::OptionButton:
+            break;
+        default:
+            return 0;  // their captions, if any, are not drawn with marks
+    }
+    for (std::size_t i = 0; i + 1 < caption_.size(); ++i) {
+        if (caption_[i] != '&')
+            continue;
+        if (caption_[i + 1] != '&')
+            return FoldCase(DecodeUtf8(caption_, i + 1).value);
+        ++i;
+    }
+    return 0;
 }
 
 void Control::SetFont(const toolkit::Font& font) {

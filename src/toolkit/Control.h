@@ -31,6 +31,9 @@ enum class Kind {
 // The kind's name as routines that tell kinds apart by name use it: "label", "checkbox", ...
 std::string_view KindName(Kind kind);
 
+// The caption that shows a text which is data (a file name): "&" marks nothing in it.
+std::string CaptionShowing(std::string_view text);
+
 class Control {
   public:
     virtual ~Control() = default;
@@ -66,6 +69,8 @@ class Control {
 
     const std::string& Caption() const { return caption_; }
     virtual void SetCaption(std::string_view caption);  // "&" marks the access key
+    // The folded character that the caption marks; 0 for none.
+    virtual char32_t AccessKey() const;
     const toolkit::Font& Font() const { return font_; }
     void SetFont(const toolkit::Font& font);
     Color ForeColor() const { return foreColor_; }
@@ -97,6 +102,9 @@ class Control {
 
     // For peers: what the user or the system did.
     void UserClicked() { Click.Raise(); }
+    // A key that the form offers to the control with the focus before it uses it itself; answers
+    // whether the control used it. `held`: the key repeats itself because it is held down.
+    virtual bool UserPressedKey(int /*key*/, bool /*held*/) { return false; }
     void SystemChangedBounds(const Rect& bounds);
 
     virtual ControlPeer& peer() const = 0;

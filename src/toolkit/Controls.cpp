@@ -11,8 +11,6 @@ namespace {
 std::unique_ptr<ControlPeer> CreateSimplePeer(Toolkit& toolkit, Kind kind, Control& control,
                                               ControlPeer& container) {
     switch (kind) {
-        case Kind::Label:
-            return toolkit.CreateLabel(control, container);
         case Kind::Frame:
             return toolkit.CreateFrame(control, container);
         case Kind::PictureBox:
@@ -31,6 +29,26 @@ SimpleControl::SimpleControl(Toolkit& toolkit, Kind kind, std::string_view name,
     : Control(kind, name, index), peer_(CreateSimplePeer(toolkit, kind, *this, container.peer())) {
     SetContainerReference(&container);
     InitialisePeer(bounds);
+}
+
+Label::Label(Toolkit& toolkit, std::string_view name, int index, Control& container,
+             const Rect& bounds)
+    : Control(Kind::Label, name, index), peer_(toolkit.CreateLabel(*this, container.peer())) {
+    SetContainerReference(&container);
+    InitialisePeer(bounds);
+}
+
+void Label::SetPlainText(bool plain) {
+    plainText_ = plain;
+    peer_->SetPlainText(plain);
+}
+
+bool Label::UserPressedKey(int key, bool held) {
+    if (key != key::Space)
+        return false;
+    if (!held)
+        Click.Raise();
+    return true;
 }
 
 Toggle::Toggle(Toolkit& toolkit, Kind kind, std::string_view name, int index, Control& container,

@@ -8,8 +8,8 @@
 
 namespace ordalyn::toolkit {
 
-// Label, Frame (an empty caption makes it a bare area), PictureBox (a container) and CommandButton
-// differ only in their peers.
+// Frame (an empty caption makes it a bare area), PictureBox (a container) and CommandButton differ
+// only in their peers.
 class SimpleControl : public Control {
   public:
     SimpleControl(Toolkit& toolkit, Kind kind, std::string_view name, int index, Control& container,
@@ -20,11 +20,6 @@ class SimpleControl : public Control {
     std::unique_ptr<ControlPeer> peer_;
 };
 
-class Label : public SimpleControl {
-  public:
-    Label(Toolkit& t, std::string_view name, int index, Control& container, const Rect& bounds)
-        : SimpleControl(t, Kind::Label, name, index, container, bounds) {}
-};
 class Frame : public SimpleControl {
   public:
     Frame(Toolkit& t, std::string_view name, int index, Control& container, const Rect& bounds)
@@ -40,6 +35,23 @@ class CommandButton : public SimpleControl {
     CommandButton(Toolkit& t, std::string_view name, int index, Control& container,
                   const Rect& bounds)
         : SimpleControl(t, Kind::CommandButton, name, index, container, bounds) {}
+};
+
+// One that its design makes a tab stop is clicked by Space as well. Enter is left to the form.
+class Label : public Control {
+  public:
+    Label(Toolkit& toolkit, std::string_view name, int index, Control& container,
+          const Rect& bounds);
+    ControlPeer& peer() const override { return *peer_; }
+    // Whether the caption is data ("R&D.log"): "&" is then a character like any other.
+    bool PlainText() const { return plainText_; }
+    void SetPlainText(bool plain);
+    char32_t AccessKey() const override { return plainText_ ? 0 : Control::AccessKey(); }
+    bool UserPressedKey(int key, bool held) override;
+
+  private:
+    std::unique_ptr<LabelPeer> peer_;
+    bool plainText_ = false;
 };
 
 // A check box or an option button. Options of one container exclude each other. Click is raised

@@ -101,8 +101,8 @@ void Form::CreateControls(const FormDesign& design) {
         control.SetTag(row.tag);
         if (!row.visible)
             control.SetVisible(false);
-        if (!row.tabStop)
-            control.peer().SetTabStop(false);
+        if (row.tabStop)
+            control.peer().SetTabStop(*row.tabStop);
     }
     GroupOptions();
     ControlPeer* defaultButton = nullptr;

@@ -2,6 +2,7 @@
 // walks them (which is also the tab order).
 #pragma once
 
+#include <optional>
 #include <span>
 
 #include "toolkit/Control.h"
@@ -29,7 +30,8 @@ struct ControlDesign {
     bool editable = false;   // combo boxes
     bool isDefault = false;  // command buttons: pressed by Enter
     bool isCancel = false;   // command buttons: pressed by Escape
-    bool tabStop = true;
+    // Whether Tab stops at it; unset: as is usual for the kind (at labels it does not).
+    std::optional<bool> tabStop = {};
 };
 
 struct MenuDesign {

@@ -38,6 +38,12 @@ class ControlPeer {
     virtual void Refresh() = 0;  // repaints at once
 };
 
+class LabelPeer : public ControlPeer {
+  public:
+    // Whether "&" is a character like any other.
+    virtual void SetPlainText(bool plain) = 0;
+};
+
 // Check boxes and option buttons.
 class TogglePeer : public ControlPeer {
   public:
@@ -109,6 +115,11 @@ class ToolBarPeer : public ControlPeer {
     // `image` names a picture of the program's resources; the button's drop-down menu, when it has
     // one, is read from the control when it is opened.
     virtual void AddButton(std::string_view image, bool hasMenu) = 0;
+    // Another button is the one that keys are for; it is marked while the bar has the focus.
+    virtual void ShowCurrentButton(int index) = 0;
+    // Shows the button's menu and waits until an entry is chosen (which has then been told) or the
+    // menu is dismissed. Messages are handled meanwhile.
+    virtual void OpenMenu(int index) = 0;
     virtual void SetButtonToolTip(int index, std::string_view text) = 0;
 };
 

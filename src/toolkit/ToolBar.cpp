@@ -15,8 +15,11 @@ ToolBar::ToolBar(Toolkit& toolkit, std::string_view name, int index, Control& co
 }
 
 void ToolBar::AddButton(std::string_view tag, std::string_view image, bool hasMenu) {
-    buttons_.push_back({std::string(tag), "", hasMenu, {}});
+    const bool separator = image == kSeparatorImage;
+    buttons_.push_back({std::string(tag), "", hasMenu, separator, {}});
     peer_->AddButton(image, hasMenu);
+    if (current_ == 0 && !separator)
+        current_ = ButtonCount();
 }
 
 ToolBar::Button& ToolBar::At(int number) {
@@ -50,6 +53,38 @@ void ToolBar::SetMenuEntryText(int number, int entry, std::string_view text) {
     if (entry < 0 || entry >= static_cast<int>(menu.size()))
         throw SubscriptOutOfRange();
     menu[static_cast<std::size_t>(entry)].text = text;
+}
+
+void ToolBar::MoveCurrent(bool forward) {
+    const int count = ButtonCount();
+    int number = current_;
+    do {
+        number = forward ? number % count + 1 : (number + count - 2) % count + 1;
+    } while (At(number).separator);
+    current_ = number;
+    peer_->ShowCurrentButton(number - 1);
+}
+
+bool ToolBar::UserPressedKey(int key, bool held) {
+    if (current_ == 0)
+        return false;
+    switch (key) {
+        case key::Left:
+        case key::Right:
+            MoveCurrent(key == key::Right);
+            return true;
+        case key::Space:
+        case key::Enter:
+            if (!held)
+                ButtonClick.Raise(current_);
+            return true;
+        case key::Down:
+            if (!held && At(current_).hasMenu)
+                peer_->OpenMenu(current_ - 1);
+            return true;
+        default:
+            return false;
+    }
 }
 
 }  // namespace ordalyn::toolkit

@@ -3,14 +3,20 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "toolkit/Control.h"
 
 namespace ordalyn::toolkit {
 
-// Buttons are numbered from 1. A menu entry has a key, unique within its menu (the empty key
-// apart), and a text; the text "-" without a key is a separator.
+// The image of a button that only keeps others apart.
+inline constexpr std::string_view kSeparatorImage = "separator";
+
+// Buttons are numbered from 1. While the bar has the focus, the arrows walk its buttons, Space and
+// Enter press the current one, Down opens its menu. A menu entry has a key, unique within its menu
+// (the empty key apart), and a text, in which "&" is a character like any other; the text "-"
+// without a key is a separator.
 class ToolBar : public Control {
   public:
     struct MenuEntry {
@@ -21,6 +27,7 @@ class ToolBar : public Control {
         std::string tag;
         std::string toolTip;
         bool hasMenu = false;
+        bool separator = false;
         std::vector<MenuEntry> menu;
     };
     ToolBar(Toolkit& toolkit, std::string_view name, int index, Control& container,
@@ -31,6 +38,8 @@ class ToolBar : public Control {
     const Button& ButtonAt(int number) const;  // SubscriptOutOfRange
     void SetButtonToolTip(int number, std::string_view text);
     // Throws InvalidPropertyValue when the menu holds the key already (keys ignore case).
+    // The one that keys are for; 0 while there is none.
+    int CurrentButton() const { return current_; }
     void AddMenuEntry(int number, std::string_view key, std::string_view text);
     void SetMenuEntryText(int number, int entry, std::string_view text);  // entry is 0-based
 
@@ -39,11 +48,14 @@ class ToolBar : public Control {
     // For the peer: 0-based.
     void UserClickedButton(int index) { ButtonClick.Raise(index + 1); }
     void UserChoseMenuEntry(int index, int entry) { ButtonMenuClick.Raise(index + 1, entry); }
+    bool UserPressedKey(int key, bool held) override;
 
   private:
     Button& At(int number);
+    void MoveCurrent(bool forward);
     std::unique_ptr<ToolBarPeer> peer_;
     std::vector<Button> buttons_;
+    int current_ = 0;
 };
 
 }  // namespace ordalyn::toolkit

@@ -13,6 +13,7 @@ namespace ordalyn::toolkit {
 
 class Control;
 class Form;
+class Label;
 class Toggle;
 class TextBox;
 class ComboBox;
@@ -34,7 +35,7 @@ class Toolkit {
     // One operation for each kind of peer. `container` is the peer of the container control or
     // form.
     virtual std::unique_ptr<FormPeer> CreateForm(Form& form, const FormStyle& style) = 0;
-    virtual std::unique_ptr<ControlPeer> CreateLabel(Control& control, ControlPeer& container) = 0;
+    virtual std::unique_ptr<LabelPeer> CreateLabel(Label& control, ControlPeer& container) = 0;
     virtual std::unique_ptr<ControlPeer> CreateFrame(Control& control, ControlPeer& container) = 0;
     virtual std::unique_ptr<ControlPeer> CreatePictureBox(Control& control,
                                                           ControlPeer& container) = 0;

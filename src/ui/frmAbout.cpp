@@ -27,6 +27,13 @@ constexpr Twips kLine = 225;
 constexpr toolkit::Color kLinkColor = toolkit::SystemColor(13);
 
 constexpr toolkit::ControlDesign kControls[] = {
+    // First, so that it has the focus when the box opens, and not the address.
+    {.kind = Kind::CommandButton,
+     .name = "cmdOK",
+     .tag = "1008",
+     .bounds = {kFrameWidth + 105 - 1215, 2760, 1215, 375},
+     .isDefault = true,
+     .isCancel = true},
     {.kind = Kind::Frame, .name = "Frame1", .bounds = {105, 105, kFrameWidth, kFrameHeight}},
     {.kind = Kind::Label,
      .name = "lblProgrammedBy",
@@ -60,7 +67,8 @@ constexpr toolkit::ControlDesign kControls[] = {
      .name = "lblURL",
      .tag = "1508",
      .bounds = {kSecondColumn, 1620, kValueWidth, kLine},
-     .container = "Frame1"},
+     .container = "Frame1",
+     .tabStop = true},
     {.kind = Kind::Label,
      .name = "lblEmail",
      .tag = "1507",
@@ -70,12 +78,6 @@ constexpr toolkit::ControlDesign kControls[] = {
      .name = "lbleMialAddress",
      .bounds = {kSecondColumn, 1935, kValueWidth, kLine},
      .container = "Frame1"},
-    {.kind = Kind::CommandButton,
-     .name = "cmdOK",
-     .tag = "1008",
-     .bounds = {kFrameWidth + 105 - 1215, 2760, 1215, 375},
-     .isDefault = true,
-     .isCancel = true},
 };
 
 constexpr toolkit::FormDesign kDesign = {
@@ -107,6 +109,8 @@ frmAbout::frmAbout(toolkit::Toolkit& toolkit, platform::Shell& shell, const Text
     SetCaption(Caption() + " " + std::string(mAppCommon::kProgramTitle));
     CentreOnScreen();
 
+    for (const char* data : {"lblAuthorName", "lblVersionNo", "lblURL", "lbleMialAddress"})
+        Get<Label>(data).SetPlainText(true);
     const auto show = [this](const char* name, std::string_view text) {
         Get<Label>(name).SetCaption(text);
     };

@@ -47,6 +47,7 @@ frmProgress::frmProgress(toolkit::Toolkit& toolkit, const Texts& texts,
       ProgressBar1(Get<toolkit::ProgressBar>("ProgressBar1")),
       lblFileName(Get<toolkit::Label>("lblFileName")),
       cmdCancel(Get<toolkit::CommandButton>("cmdCancel")) {
+    lblFileName.SetPlainText(true);
     CentreOnScreen();
     texts.apply(*this);
     cmdCancel.Click.Subscribe(std::move(cancelled));

@@ -126,6 +126,23 @@ def test_the_words_come_from_the_file_managers_language_in_the_order_of_the_ids(
     assert sources(app) == [r"Löschen C:\a.txt"]
 
 
+def test_a_word_is_shown_as_it_stands(folder):
+    words = ["Deutsch (German)", "codepage=1252", '1802="Copy&Verify"', '1806="&Wipe"']
+    folder.write("totalcmd/Language/WCMD_DEU.LNG", words, encoding="cp1252")
+    log = folder.write("totalcmd.log", [r"01.03.2024 10:15:30: Copy&Verify C:\a.txt -> D:\a.txt",
+                                        r"01.03.2024 10:15:31: &Wipe C:\b.txt"])
+    app = folder.start(log, env=folder.file_manager("languageini=WCMD_DEU.LNG"))
+    app.wait_for_rows(2)
+    dialog = open_filter(app)
+    # An "&" alone would mark an access key and not be drawn.
+    menu = dialog.drop_down(0)
+    assert [entry.caption for entry in menu.entries if not entry.separator] == [
+        "Copy&&Verify", "&&Wipe"]
+    menu.choose("&Wipe")
+    assert dialog.filter.value == "&Wipe"
+    assert sources(app) == [r"&Wipe C:\b.txt"]
+
+
 def test_a_language_file_that_is_named_with_its_path_gives_no_words(folder):
     file = folder.write("totalcmd/Language/WCMD_DEU.LNG", GERMAN, encoding="cp1252")
     log = folder.write("totalcmd.log", LOG)
@@ -159,6 +176,34 @@ def test_the_lists_work_by_keyboard(app):
     app.keys("Tab", "Down")
     assert dialog.source.chosen == "Target"
     assert targets(app) == [r"D:\a.txt", r"E:\b.txt", r"D:\d.txt", r"E:\f.txt", r"D:\f.zip"]
+
+
+def test_the_tool_bar_works_by_keyboard(app):
+    dialog = open_filter(app)
+    dialog.filter.type("pack")
+    app.keys("Tab", "Tab", "Tab")
+    assert dialog.focus_is_in(dialog.tool_bar)
+    app.keys("Space")
+    assert sources(app) == [r"Pack C:\f.txt"]
+    assert dialog.filter.items == ["pack"]
+    # On to the button that removes the filter, past the gap between them.
+    app.keys("Right", "Enter")
+    assert app.main.source.row_count == len(LOG)
+    assert dialog.filter.value == ""
+    app.keys("Left", "Down")
+    assert [entry.name for entry in app.pop_up().entries if not entry.separator][:3] == [
+        "Program start", "Program shutdown", "Copy"]
+    app.keys("Down", "Down", "Down", "Enter")
+    assert dialog.filter.value == "Copy"
+    assert sources(app) == [r"Copy C:\a.txt", r"Copy: Failed: C:\d.txt", r"Copy C:\f.txt"]
+    assert dialog.focus_is_in(dialog.tool_bar)
+    # The menu's Escape is not the dialog's.
+    app.keys("Down", "Escape")
+    assert app.find_window("Filter")
+    app.keys("Tab")
+    assert dialog.focus_is_in(dialog.cancel)
+    app.keys("Shift+Tab", "Escape")
+    dialog.wait_for_end()
 
 
 def test_rows_without_a_target_go_whichever_way_targets_are_filtered(app):

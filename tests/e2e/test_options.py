@@ -5,7 +5,7 @@ import re
 import pytest
 
 from harness.controls import plain
-from harness.dialogs import FilterDialog, open_filter, open_options
+from harness.dialogs import FilterDialog, center, open_filter, open_options
 from harness.waiting import wait_until
 
 LOG = [r"01.03.2024 10:15:30: Copy C:\a.txt -> D:\a.txt",
@@ -64,6 +64,70 @@ def test_the_pages_change_by_mouse_and_by_ctrl_tab(show):
     dialog.wait_for_end()
     # The page is remembered while the program runs.
     assert open_options(app).pages.index == 1
+
+
+def walk(app, dialog, key="Tab"):
+    """Presses Tab until the pages have the focus again; answers what had it meanwhile."""
+    names = {dialog.pages.handle: "pages", dialog.language_file.handle: "file"}
+    names |= {label.handle: f"colour {n}" for n, label in enumerate(dialog.colours)}
+    names |= {button.handle: plain(button.text) for button in dialog.controls("Button", None)}
+    walked = []
+    while not walked or walked[-1] != "pages":
+        assert len(walked) < 20, walked
+        app.keys(key)
+        walked.append(names.get(app.agent.ask("focus")["focus"]))
+    return walked
+
+
+def test_tab_walks_the_page_that_shows(show):
+    app = show(LOG)
+    dialog = open_options(app)
+    assert dialog.focus_is_in(dialog.pages)
+    layout = ["Show grid lines", "Fixed borders", "Flat user interface", "Long date format",
+              "colour 0", "colour 1", "Change...", "OK", "Cancel", "pages"]
+    assert walk(app, dialog) == layout
+    assert walk(app, dialog, "Shift+Tab") == [*reversed(layout[:-1]), "pages"]
+    # The focus does not stay on a page that goes.
+    app.keys("Tab", "Ctrl+Tab")
+    assert dialog.pages.index == 1
+    assert dialog.focus_is_in(dialog.pages)
+    assert walk(app, dialog) == ["Use default language", "OK", "Cancel", "pages"]
+    app.keys("Alt+O")
+    assert dialog.button("Other").checked
+    app.keys("Shift+Tab")
+    assert walk(app, dialog) == ["Other", "file", "...", "OK", "Cancel", "Apply", "pages"]
+    # No key reaches the page that is not shown.
+    app.keys("Alt+G")
+    assert not dialog.button("Show grid lines").checked
+    app.keys("Tab", "Tab")
+    assert dialog.focus_is_in(dialog.language_file)
+    app.keys("Ctrl+Tab")
+    assert dialog.pages.index == 0
+    assert dialog.focus_is_in(dialog.pages)
+
+
+def test_a_colour_is_chosen_by_keyboard(show):
+    app = show(LOG)
+    dialog = open_options(app)
+    app.keys(*["Tab"] * 5)
+    assert dialog.focus_is_in(dialog.colours[0])
+    app.keys("Space")
+    chooser = app.dialog()
+    app.keys("Escape")
+    dialog.wait_for_child(chooser)
+    assert dialog.focus_is_in(dialog.colours[0])
+    # Enter is the default button's.
+    app.keys("Enter")
+    dialog.wait_for_end()
+
+
+def test_two_fast_clicks_turn_a_box_over_twice(show):
+    app = show(LOG)
+    dialog = open_options(app)
+    box = dialog.button("Show grid lines")
+    app.click(*center(box.rect), double=True)
+    assert not box.checked
+    assert dialog.button("Apply").enabled
 
 
 def test_apply_shows_and_writes_and_cancel_does_not(show, folder):

@@ -108,6 +108,55 @@ TEST_P(ToolBars, AMenuIsReadWhenItIsOpened) {
     EXPECT_THAT(entries, ElementsAre(Pair(1, 3)));
 }
 
+TEST_P(ToolBars, ArrowsWalkTheButtonsAndSpaceAndEnterPressThem) {
+    bar.AddButton("", "separator", false);
+    bar.AddButton("4", "find", false);
+    Counter ok(Get<CommandButton>("cmdOk").Click);
+    Get<TabStrip>("tabStrip").SetFocus();
+    Settle();
+    const auto press = [&](int key) { User().PressKey(Form(), key); };
+    press(key::Tab);
+    ASSERT_TRUE(User().HasFocus(bar));
+    press(key::Space);
+    press(key::Right);
+    press(key::Enter);
+    press(key::Right);
+    press(key::Space);
+    press(key::Right);
+    press(key::Space);
+    press(key::Left);
+    press(key::Left);
+    press(key::Enter);
+    EXPECT_THAT(buttons, ElementsAre(1, 2, 4, 1, 2));
+    EXPECT_EQ(ok.Take(), 0) << "Enter is the bar's while it has the focus";
+    press(key::Tab);
+    EXPECT_TRUE(User().HasFocus(Get<CommandButton>("cmdOk")));
+    press(key::Left);
+    press(key::Space);
+    EXPECT_EQ(buttons.size(), 5U);
+}
+
+TEST_P(ToolBars, DownOpensTheMenuOfTheCurrentButton) {
+    bar.SetFocus();
+    Settle();
+    User().ChooseToolMenuEntryByKeys(bar, 1, 2);
+    User().ChooseToolMenuEntryByKeys(bar, 1, 0);
+    EXPECT_THAT(entries, ElementsAre(Pair(1, 2), Pair(1, 0)));
+    EXPECT_TRUE(buttons.empty());
+    EXPECT_TRUE(User().HasFocus(bar));
+    User().PressKey(Form(), key::Right);
+    User().PressKey(Form(), key::Down);
+    EXPECT_EQ(entries.size(), 2U) << "a button without a menu";
+}
+
+TEST_P(ToolBars, EscapeIsLeftToTheForm) {
+    Counter cancel(Get<CommandButton>("cmdCancel").Click);
+    bar.SetFocus();
+    Settle();
+    User().PressKey(Form(), key::Escape);
+    EXPECT_EQ(cancel.Take(), 1);
+}
+
 TEST_P(ToolBars, ADisabledBarCannotBeUsed) {
     bar.SetEnabled(false);
     User().ClickToolButton(bar, 2);

@@ -1,4 +1,4 @@
-// Keys: forms first, then controls; shortcuts; Tab, Enter and Escape.
+// Keys: forms first, then controls; shortcuts; Tab, Enter and Escape; access keys.
 #include "contract/toolkit/ToolkitContract.h"
 
 namespace ordalyn::contract {
@@ -146,8 +146,10 @@ TEST_P(Keys, TabWalksTheControlsInDesignOrder) {
                 walked.push_back(control->Name());
         }
     }
-    EXPECT_THAT(walked, ElementsAre("txtBox", "cboList", "cboEdit", "lvwRows", "tabStrip", "cmdOk",
-                                    "cmdCancel", "optSide"));
+    EXPECT_THAT(walked, ElementsAre("txtBox", "cboList", "cboEdit", "lvwRows", "tabStrip",
+                                    "tbrTools", "cmdOk", "cmdCancel"));
+    Press(key::Tab);
+    EXPECT_TRUE(User().HasFocus(Get<OptionButton>("optSide", 0)));
     Press(key::Tab, {true, false, false});
     EXPECT_TRUE(User().HasFocus(Get<CommandButton>("cmdCancel")));
 }
@@ -196,6 +198,210 @@ TEST_P(Keys, HandlersMayUnloadTheForm) {
     Press(key::F3);
     EXPECT_TRUE(Form().Unloaded());
     EXPECT_TRUE(User().boxes.empty());
+}
+
+constexpr Modifiers kAltKey{.alt = true};
+
+constexpr ControlDesign kMarkedControls[] = {
+    {.kind = Kind::TextBox, .name = "txtFirst", .bounds = {120, 120, 2400, 300}},
+    {.kind = Kind::Label, .name = "lblFor", .bounds = {120, 480, 1200, 300}},
+    {.kind = Kind::Label, .name = "lblOther", .bounds = {1400, 480, 1200, 300}},
+    {.kind = Kind::TextBox, .name = "txtSecond", .bounds = {120, 840, 2400, 300}},
+    {.kind = Kind::PictureBox, .name = "picPage", .bounds = {120, 1200, 2400, 1200}},
+    {.kind = Kind::CheckBox,
+     .name = "chkOnPage",
+     .bounds = {0, 0, 1200, 300},
+     .container = "picPage"},
+    {.kind = Kind::CommandButton,
+     .name = "cmdOnPage",
+     .bounds = {0, 400, 1200, 375},
+     .container = "picPage"},
+    {.kind = Kind::CheckBox, .name = "chkBox", .bounds = {120, 2500, 1200, 300}},
+    {.kind = Kind::OptionButton, .name = "optOne", .bounds = {1400, 2500, 1200, 300}},
+    {.kind = Kind::Label, .name = "lblStop", .bounds = {120, 2900, 1200, 300}, .tabStop = true},
+    {.kind = Kind::CommandButton,
+     .name = "cmdOk",
+     .bounds = {120, 3300, 1200, 375},
+     .isDefault = true},
+    {.kind = Kind::CommandButton, .name = "cmdOther", .bounds = {1400, 3300, 1200, 375}},
+};
+const FormDesign kMarkedDesign = {.name = "frmMarked",
+                                  .tag = "",
+                                  .clientSize = {3000, 3900},
+                                  .style = {},
+                                  .controls = kMarkedControls};
+
+class AccessKeys : public ToolkitContract {
+  protected:
+    void SetUp() override {
+        form->Show();
+        Settle();
+        Focus(Of<TextBox>("txtFirst"));
+    }
+    template <typename T>
+    T& Of(std::string_view name) {
+        return form->Get<T>(name);
+    }
+    void Focus(Control& control) {
+        control.SetFocus();
+        Settle();
+        ASSERT_TRUE(User().HasFocus(control));
+    }
+    void Alt(int key) { User().PressKey(*form, key, kAltKey); }
+    void Press(int key) { User().PressKey(*form, key); }
+    // What has the focus.
+    std::string Focused() {
+        for (const auto& control : form->Controls()) {
+            if (User().HasFocus(*control))
+                return control->Name();
+        }
+        return "";
+    }
+    std::unique_ptr<toolkit::Form> form = NewForm(kMarkedDesign);
+};
+INSTANTIATE_TEST_SUITE_P(Toolkit, AccessKeys, AllRealisations(), RealisationName);
+
+TEST_P(AccessKeys, OfALabelGoesToWhatComesNextInTabOrder) {
+    Of<Label>("lblFor").SetCaption("&Name:");
+    Alt('N');
+    EXPECT_EQ(Focused(), "txtSecond");
+    Focus(Of<TextBox>("txtFirst"));
+    Of<TextBox>("txtSecond").SetEnabled(false);
+    Alt('N');
+    EXPECT_EQ(Focused(), "chkOnPage");
+}
+
+TEST_P(AccessKeys, PressButtonsAndTurnBoxesOver) {
+    auto& other = Of<CommandButton>("cmdOther");
+    auto& box = Of<CheckBox>("chkBox");
+    auto& option = Of<OptionButton>("optOne");
+    other.SetCaption("&Go");
+    box.SetCaption("&Turn");
+    option.SetCaption("Ta&ke");
+    Counter pressed(other.Click);
+    Alt('G');
+    EXPECT_EQ(pressed.Take(), 1);
+    EXPECT_EQ(Focused(), "cmdOther");
+    Alt('T');
+    EXPECT_TRUE(box.Checked());
+    EXPECT_EQ(Focused(), "chkBox");
+    Alt('T');
+    EXPECT_FALSE(box.Checked());
+    Alt('K');
+    EXPECT_TRUE(option.Checked());
+    EXPECT_EQ(Focused(), "optOne");
+    // Without Alt, or where there is no mark, nothing happens.
+    Press('G');
+    Alt('O');
+    EXPECT_EQ(pressed.Take(), 0);
+    EXPECT_EQ(Focused(), "optOne");
+}
+
+TEST_P(AccessKeys, OfWhatIsDisabledOrHiddenDoNothing) {
+    Of<CommandButton>("cmdOther").SetCaption("&Go");
+    Of<CheckBox>("chkBox").SetCaption("&Turn");
+    Counter pressed(Of<CommandButton>("cmdOther").Click);
+    Of<CommandButton>("cmdOther").SetEnabled(false);
+    Of<CheckBox>("chkBox").SetVisible(false);
+    Alt('G');
+    Alt('T');
+    EXPECT_EQ(pressed.Take(), 0);
+    EXPECT_FALSE(Of<CheckBox>("chkBox").Checked());
+    EXPECT_EQ(Focused(), "txtFirst");
+}
+
+TEST_P(AccessKeys, OnADisabledPageDoNothing) {
+    Of<CheckBox>("chkOnPage").SetCaption("&Turn");
+    Of<CommandButton>("cmdOnPage").SetCaption("&Go");
+    Counter pressed(Of<CommandButton>("cmdOnPage").Click);
+    Of<PictureBox>("picPage").SetLeft(-20000);
+    Of<PictureBox>("picPage").SetEnabled(false);
+    Alt('T');
+    Alt('G');
+    EXPECT_FALSE(Of<CheckBox>("chkOnPage").Checked());
+    EXPECT_EQ(pressed.Take(), 0);
+    EXPECT_EQ(Focused(), "txtFirst");
+    Of<PictureBox>("picPage").SetEnabled(true);
+    Alt('T');
+    EXPECT_TRUE(Of<CheckBox>("chkOnPage").Checked());
+}
+
+TEST_P(AccessKeys, OfSeveralControlsGoFromOneToTheNextAndPressNone) {
+    Of<CheckBox>("chkBox").SetCaption("&Same");
+    Of<CommandButton>("cmdOther").SetCaption("al&so");
+    Counter pressed(Of<CommandButton>("cmdOther").Click);
+    for (const char* name : {"chkBox", "cmdOther", "chkBox"}) {
+        Alt('S');
+        EXPECT_EQ(Focused(), name);
+    }
+    EXPECT_EQ(pressed.Take(), 0);
+    EXPECT_FALSE(Of<CheckBox>("chkBox").Checked());
+    // One that cannot be used does not count.
+    Of<CheckBox>("chkBox").SetEnabled(false);
+    Alt('S');
+    EXPECT_EQ(pressed.Take(), 1);
+}
+
+TEST_P(AccessKeys, AreNotMarkedByADoubledSignNorInData) {
+    Of<CommandButton>("cmdOther").SetCaption("R&&D");
+    auto& label = Of<Label>("lblFor");
+    label.SetCaption("R&D.log");
+    Counter pressed(Of<CommandButton>("cmdOther").Click);
+    Alt('D');
+    EXPECT_EQ(Focused(), "txtSecond") << "a mark like any other so far";
+    label.SetPlainText(true);
+    Focus(Of<TextBox>("txtFirst"));
+    Alt('D');
+    EXPECT_EQ(Focused(), "txtFirst");
+    EXPECT_EQ(pressed.Take(), 0);
+    EXPECT_EQ(label.Caption(), "R&D.log");
+    EXPECT_EQ(User().CaptionOf(label), "R&D.log");
+}
+
+using LabelStops = AccessKeys;
+INSTANTIATE_TEST_SUITE_P(Toolkit, LabelStops, AllRealisations(), RealisationName);
+
+TEST_P(LabelStops, AreReachedByTabAndClickedBySpace) {
+    auto& label = Of<Label>("lblStop");
+    Counter clicked(label.Click);
+    Counter plain(Of<Label>("lblFor").Click);
+    Counter ok(Of<CommandButton>("cmdOk").Click);
+    Press(key::Tab);
+    EXPECT_EQ(Focused(), "txtSecond") << "other labels are passed over";
+    Focus(Of<OptionButton>("optOne"));
+    Press(key::Tab);
+    EXPECT_EQ(Focused(), "lblStop");
+    Press(key::Space);
+    EXPECT_EQ(clicked.Take(), 1);
+    EXPECT_EQ(ok.Take(), 0);
+    Press(key::Enter);
+    EXPECT_EQ(clicked.Take(), 0) << "Enter is the default button's";
+    EXPECT_EQ(ok.Take(), 1);
+    EXPECT_EQ(Focused(), "lblStop");
+    Press(key::Tab);
+    EXPECT_EQ(Focused(), "cmdOk");
+    EXPECT_EQ(plain.Take(), 0);
+}
+
+TEST_P(LabelStops, AreClickedByTheMouseAsOtherLabelsAre) {
+    auto& label = Of<Label>("lblStop");
+    Counter clicked(label.Click);
+    User().Press(label);
+    EXPECT_EQ(clicked.Take(), 1);
+    EXPECT_EQ(Focused(), "txtFirst");
+}
+
+TEST_P(LabelStops, AreLeftOutWhileDisabled) {
+    Of<Label>("lblStop").SetEnabled(false);
+    Focus(Of<OptionButton>("optOne"));
+    Press(key::Tab);
+    EXPECT_EQ(Focused(), "cmdOk");
+}
+
+TEST_P(LabelStops, TakeTheFocusByTheirOwnAccessKey) {
+    Of<Label>("lblStop").SetCaption("&Colour");
+    Alt('C');
+    EXPECT_EQ(Focused(), "lblStop");
 }
 
 }  // namespace

@@ -53,6 +53,10 @@ class MemoryDriver : public ToolkitDriver {
                 button.UserClicked();
         });
     }
+    void PressTwice(Control& button) override {
+        Press(button);
+        Press(button);
+    }
     void PressKey(Form& form, int key, Modifiers modifiers) override {
         if (!IsVisible(form))
             return;
@@ -93,6 +97,11 @@ class MemoryDriver : public ToolkitDriver {
         if (!bar.ButtonAt(number).hasMenu || bar.ButtonAt(number).menu.empty())
             return;
         Do(bar, [&] { bar.UserChoseMenuEntry(number - 1, entry); });
+    }
+    void ChooseToolMenuEntryByKeys(ToolBar& bar, int number, int entry) override {
+        kit_.onToolMenu = [=](const ToolBar&, int opened) { return opened == number ? entry : -1; };
+        kit_.Press(static_cast<Form&>(const_cast<Control&>(FormOf(bar))), key::Down);
+        kit_.onToolMenu = nullptr;
     }
     void ChooseMenu(Form& form, const std::vector<int>& path) override {
         if (!CanReach(form))

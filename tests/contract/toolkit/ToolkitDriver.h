@@ -53,6 +53,8 @@ class ToolkitDriver {
     virtual void Type(toolkit::TextBox& box, std::string_view text) = 0;
     virtual void Type(toolkit::ComboBox& box, std::string_view text) = 0;
     virtual void Press(toolkit::Control& button) = 0;
+    // Two presses, as fast as those of a double click.
+    virtual void PressTwice(toolkit::Control& button) = 0;
     // The control with the focus gets it, when its form leaves it to that.
     virtual void PressKey(toolkit::Form& form, int key, toolkit::Modifiers modifiers = {}) = 0;
     virtual void ClickRow(toolkit::ListView& list, int row) = 0;
@@ -63,6 +65,8 @@ class ToolkitDriver {
     virtual void ClickTab(toolkit::TabStrip& strip, int number) = 0;
     virtual void ClickToolButton(toolkit::ToolBar& bar, int number) = 0;
     virtual void ChooseToolMenuEntry(toolkit::ToolBar& bar, int number, int entry) = 0;
+    // Presses Down where the focus is, which opens the menu of the button with this number.
+    virtual void ChooseToolMenuEntryByKeys(toolkit::ToolBar& bar, int number, int entry) = 0;
     // Positions from the menu bar down, as they are shown.
     virtual void ChooseMenu(toolkit::Form& form, const std::vector<int>& path) = 0;
     // Pops the menu up and chooses the item at the position, or dismisses the menu for -1.

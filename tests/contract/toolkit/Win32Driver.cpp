@@ -110,6 +110,16 @@ class Win32Driver : public Win32Sight {
         Click(window, Middle(inside));
         Settle();
     }
+    void PressTwice(Control& button) override {
+        const HWND window = HandleOf(button);
+        Press(button);
+        if (!CanReach(window))
+            return;
+        RECT inside = {};
+        GetClientRect(window, &inside);
+        Click(window, Middle(inside), WM_LBUTTONDBLCLK);
+        Settle();
+    }
     void PressKey(Form& form, int key, Modifiers modifiers) override {
         const HWND window = HandleOf(form);
         if (!CanReach(window))
@@ -126,10 +136,12 @@ class Win32Driver : public Win32Sight {
             keys.push_back(VK_MENU);
         const bool system = modifiers.alt && !modifiers.control;
         const LPARAM alt = system ? LPARAM{0x20000000} : LPARAM{0};
+        // What makes a character of a key looks at its place on the keyboard, too.
+        const LPARAM place = MAKELPARAM(0, MapVirtualKeyW(static_cast<UINT>(key), MAPVK_VK_TO_VSC));
         {
             const Held held(keys);
             PostMessageW(target, system ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(key),
-                         1 | alt);
+                         1 | place | alt);
             Settle();
         }
         if (!IsWindow(target))
@@ -137,7 +149,7 @@ class Win32Driver : public Win32Sight {
         keys.erase(keys.begin());
         const Held held(keys);
         PostMessageW(target, system ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(key),
-                     static_cast<LPARAM>(0xC0000001) | alt);
+                     static_cast<LPARAM>(0xC0000001) | place | alt);
         Settle();
     }
     void ClickRow(ListView& list, int row) override {
@@ -202,15 +214,14 @@ class Win32Driver : public Win32Sight {
     void ChooseToolMenuEntry(ToolBar& bar, int number, int entry) override {
         if (!CanReach(HandleOf(bar)) || bar.ButtonAt(number).menu.empty())
             return;
-        int selectable = 0;
-        for (int i = 0; i <= entry; ++i) {
-            const auto& e = bar.ButtonAt(number).menu[static_cast<std::size_t>(i)];
-            selectable += e.key.empty() && e.text == "-" ? 0 : 1;
-        }
-        watch_.ExpectMenu(selectable);
+        watch_.ExpectMenu(StepsTo(bar, number, entry));
         const RECT button = ToolButton(bar, number);
         Click(HandleOf(bar), {button.right - 3, (button.top + button.bottom) / 2});
         Settle();
+    }
+    void ChooseToolMenuEntryByKeys(ToolBar& bar, int number, int entry) override {
+        watch_.ExpectMenu(StepsTo(bar, number, entry));
+        PressKey(dynamic_cast<Form&>(*bar.Container()), key::Down, {});
     }
     void ChooseMenu(Form& form, const std::vector<int>& path) override {
         const HWND window = HandleOf(form);
@@ -304,10 +315,19 @@ class Win32Driver : public Win32Sight {
     }
 
   private:
-    static void Click(HWND window, POINT at) {
+    // How often Down is pressed until the entry is selected.
+    static int StepsTo(const ToolBar& bar, int number, int entry) {
+        int steps = 0;
+        for (int i = 0; i <= entry; ++i) {
+            const auto& e = bar.ButtonAt(number).menu[static_cast<std::size_t>(i)];
+            steps += e.key.empty() && e.text == "-" ? 0 : 1;
+        }
+        return steps;
+    }
+    static void Click(HWND window, POINT at, UINT press = WM_LBUTTONDOWN) {
         {
             const Held held({VK_LBUTTON});
-            Ask(window, WM_LBUTTONDOWN, MK_LBUTTON, At(at));
+            Ask(window, press, MK_LBUTTON, At(at));
         }
         if (IsWindow(window))
             Ask(window, WM_LBUTTONUP, 0, At(at));

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/Text.h"
 
 namespace ordalyn::test {
 
@@ -45,6 +46,8 @@ bool CanReach(const Control& control) {
 
 bool CanHaveFocus(Kind kind) {
     switch (kind) {
+        case Kind::Label:
+        case Kind::ToolBar:
         case Kind::CommandButton:
         case Kind::CheckBox:
         case Kind::OptionButton:
@@ -130,6 +133,14 @@ class Peer : public Interface, public HasShown {
 };
 
 using SimplePeer = Peer<ControlPeer>;
+
+class MemoryLabel : public Peer<LabelPeer> {
+  public:
+    MemoryLabel(MemoryToolkit& toolkit, Control& control) : Peer(toolkit, control) {
+        shown.tabStop = false;
+    }
+    void SetPlainText(bool plain) override { shown.plainText = plain; }
+};
 
 class MemoryToggle : public Peer<TogglePeer> {
   public:
@@ -307,6 +318,15 @@ class MemoryToolBar : public Peer<ToolBarPeer> {
     using Peer::Peer;
     void AddButton(std::string_view image, bool) override { shown.items.emplace_back(image); }
     void SetButtonToolTip(int, std::string_view) override {}
+    void ShowCurrentButton(int) override {}
+    void OpenMenu(int index) override {
+        auto& bar = static_cast<ToolBar&>(control_);
+        if (bar.ButtonAt(index + 1).menu.empty() || !toolkit_.onToolMenu)
+            return;
+        const int entry = toolkit_.onToolMenu(bar, index + 1);
+        if (entry >= 0)
+            bar.UserChoseMenuEntry(index, entry);
+    }
 };
 
 class MemoryForm : public Peer<FormPeer> {
@@ -539,9 +559,16 @@ void MemoryToolkit::PressFormKey(Form& form, int key, Modifiers modifiers) {
         if (button != nullptr && CanReach(*button))
             button->UserClicked();
     };
-    if (modifiers.control || modifiers.alt || !form.Visible())
+    if (modifiers.control || !form.Visible())
         return;
+    if (modifiers.alt) {
+        PressAccessKey(form, FoldCase(static_cast<char32_t>(key)));
+        return;
+    }
     Control* const focused = Of(form).focused;
+    if (focused != nullptr && CanReach(*focused) && !modifiers.shift &&
+        focused->UserPressedKey(key, false))
+        return;
     switch (key) {
         case key::Enter:
             if (focused != nullptr && focused->ControlKind() == Kind::CommandButton)
@@ -568,6 +595,40 @@ void MemoryToolkit::PressFormKey(Form& form, int key, Modifiers modifiers) {
         controls[next % count]->SetFocus();
         return;
     }
+}
+
+void MemoryToolkit::PressAccessKey(Form& form, char32_t key) {
+    const auto& controls = form.Controls();
+    const Control* const focused = Of(form).focused;
+    const auto isMarked = [key](const auto& control) {
+        return control->AccessKey() == key && CanReach(*control);
+    };
+    // From the one behind the focus on, then from the first.
+    const auto focusedAt =
+        std::find_if(controls.begin(), controls.end(),
+                     [focused](const auto& control) { return control.get() == focused; });
+    const auto behind = focusedAt == controls.end() ? controls.begin() : focusedAt + 1;
+    auto found = std::find_if(behind, controls.end(), isMarked);
+    if (found == controls.end())
+        found = std::find_if(controls.begin(), behind, isMarked);
+    if (found == controls.end() || !isMarked(*found))
+        return;
+    const bool several = std::count_if(controls.begin(), controls.end(), isMarked) > 1;
+    const Kind kind = (*found)->ControlKind();
+    if (kind == Kind::Label || kind == Kind::Frame) {
+        found = std::find_if(found, controls.end(),
+                             [&form](const auto& next) { return IsTabStop(form, *next); });
+        if (found != controls.end())
+            (*found)->SetFocus();
+        return;
+    }
+    (*found)->SetFocus();
+    if (several)
+        return;
+    if (auto* const toggle = dynamic_cast<Toggle*>(found->get()))
+        toggle->UserToggled();
+    else
+        (*found)->UserClicked();
 }
 
 void MemoryToolkit::ResizeByUser(Form& form, const Rect& outer) {
@@ -624,8 +685,8 @@ void MemoryToolkit::Run() {
 std::unique_ptr<FormPeer> MemoryToolkit::CreateForm(Form& form, const FormStyle&) {
     return std::make_unique<MemoryForm>(*this, form);
 }
-std::unique_ptr<ControlPeer> MemoryToolkit::CreateLabel(Control& c, ControlPeer& in) {
-    return Make<SimplePeer>(*this, c, in);
+std::unique_ptr<LabelPeer> MemoryToolkit::CreateLabel(Label& c, ControlPeer& in) {
+    return Make<MemoryLabel>(*this, c, in);
 }
 std::unique_ptr<ControlPeer> MemoryToolkit::CreateFrame(Control& c, ControlPeer& in) {
     return Make<SimplePeer>(*this, c, in);

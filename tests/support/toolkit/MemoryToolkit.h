@@ -29,6 +29,7 @@ struct Shown {
     toolkit::Pointer pointer = toolkit::Pointer::Default;
     std::string toolTip;
     bool tabStop = true;
+    bool plainText = false;
     int refreshes = 0;
     int broughtToFront = 0;
     // Kinds with more.
@@ -105,6 +106,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     std::function<void()> onDoEvents;
     std::vector<std::string> poppedUpMenus;
     std::function<void(toolkit::MenuItem&)> onPopUp;
+    // Called when a tool bar's menu is opened by a key; answers the entry that is chosen, or -1.
+    std::function<int(const toolkit::ToolBar&, int number)> onToolMenu;
     toolkit::Pointer pointer = toolkit::Pointer::Default;
     std::vector<toolkit::Pointer> pointers;  // every pointer that was set
     int beeps = 0;
@@ -117,7 +120,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     // What a user does. A form that a modal one keeps disabled gets nothing. Errors that no handler
     // catches end in a message box, here as in the work that was posted.
     // A key goes to the form, then to the control with the focus; after that Tab moves the focus,
-    // and Enter and Escape press the form's buttons (Enter the button that has the focus).
+    // Enter and Escape press the form's buttons (Enter the button that has the focus), and Alt with
+    // a letter goes to the control whose caption marks it.
     void Press(toolkit::Form& form, int key, toolkit::Modifiers modifiers = {});
     // The same after giving the control the focus.
     void PressIn(toolkit::Form& form, toolkit::Control& control, int key,
@@ -132,8 +136,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     // toolkit::Toolkit
     std::unique_ptr<toolkit::FormPeer> CreateForm(toolkit::Form& form,
                                                   const toolkit::FormStyle& style) override;
-    std::unique_ptr<toolkit::ControlPeer> CreateLabel(toolkit::Control& control,
-                                                      toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::LabelPeer> CreateLabel(toolkit::Label& control,
+                                                    toolkit::ControlPeer& container) override;
     std::unique_ptr<toolkit::ControlPeer> CreateFrame(toolkit::Control& control,
                                                       toolkit::ControlPeer& container) override;
     std::unique_ptr<toolkit::ControlPeer> CreatePictureBox(
@@ -173,6 +177,7 @@ class MemoryToolkit : public toolkit::Toolkit {
 
   private:
     void PressFormKey(toolkit::Form& form, int key, toolkit::Modifiers modifiers);
+    static void PressAccessKey(toolkit::Form& form, char32_t key);
     std::deque<std::function<void()>> posted_;
 };
 

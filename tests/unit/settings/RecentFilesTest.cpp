@@ -107,6 +107,14 @@ TEST_F(RecentFiles, FromTheTenthEntryOnTheFirstDigitIsTheAccessKey) {
     EXPECT_EQ(Item(11).Caption(), "&11 a");
 }
 
+TEST_F(RecentFiles, AnAmpersandOfAPathMarksNoAccessKey) {
+    recent.RestartClass();
+    Setup(4);
+    recent.AddFile("C:\\R&D\\x&y.log");
+    EXPECT_EQ(Item(1).Caption(), "&1 C:\\R&&D\\x&&y.log");
+    EXPECT_EQ(recent.ListItems(1), "C:\\R&D\\x&y.log");
+}
+
 TEST_F(RecentFiles, ChoosingAnItemTellsItsNumber) {
     std::vector<std::int32_t> chosen;
     int cleared = 0;

@@ -78,6 +78,7 @@ TEST_F(Progress, TheTallFormNamesTheFileAndCanBeCancelled) {
     EXPECT_EQ(window.Height(), 1425);
     EXPECT_TRUE(window.lblFileName.Visible());
     EXPECT_EQ(window.lblFileName.Caption(), "x.1.log");
+    EXPECT_TRUE(window.lblFileName.PlainText()) << "an \"&\" in the name is shown";
     EXPECT_EQ(window.cmdCancel.Caption(), "text 1009");
     EXPECT_LE(window.cmdCancel.Top() + window.cmdCancel.Height(), window.ClientSize().height);
     EXPECT_LE(window.ProgressBar1.Top() + window.ProgressBar1.Height(), window.cmdCancel.Top());
@@ -235,6 +236,19 @@ TEST_F(About, TheLinkOpensTheHomePage) {
     about.Get<Label>("lblURL").UserClicked();
     ASSERT_EQ(system.shell.opened.size(), 1U);
     EXPECT_EQ(system.shell.opened[0].second, publisher::kHomePage);
+}
+
+TEST_F(About, TheLinkOpensByKeyboardAndEnterCloses) {
+    frmAbout about(tools, system.shell, TestTexts());
+    about.Show();
+    EXPECT_EQ(tools.focus, &about.Get<toolkit::CommandButton>("cmdOK"));
+    tools.Press(about, toolkit::key::Tab);
+    EXPECT_EQ(tools.focus, &about.Get<Label>("lblURL"));
+    tools.Press(about, toolkit::key::Space);
+    ASSERT_EQ(system.shell.opened.size(), 1U);
+    tools.Press(about, toolkit::key::Enter);
+    EXPECT_EQ(system.shell.opened.size(), 1U);
+    EXPECT_TRUE(about.Unloaded());
 }
 
 TEST_F(About, AnAddressIsNotTurnedByALanguageFromTheRight) {

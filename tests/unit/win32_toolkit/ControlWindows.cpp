@@ -278,6 +278,101 @@ TEST_F(Controls, ToolBarButtonsAreClicked) {
     EXPECT_EQ(clicked, 3);
 }
 
+// Whether something else than the background is drawn along the upper edge of the window's inside.
+bool HasFrame(HWND window) {
+    UpdateWindow(window);
+    RECT inside = {};
+    GetClientRect(window, &inside);
+    const HDC dc = GetDC(window);
+    const COLORREF background = GetPixel(dc, inside.right / 2, inside.bottom / 2);
+    bool found = false;
+    for (int x = 0; x < inside.right; ++x)
+        found = found || GetPixel(dc, x, 2) != background;
+    ReleaseDC(window, dc);
+    return found;
+}
+
+TEST_F(Controls, ALabelWithTheFocusShowsIt) {
+    auto& label = form.Get<Label>("lbl");
+    const HWND window = Child(form, L"Static");
+    SendMessageW(HandleOf(form), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    for (const Color background : {0x000000, 0x808080, 0xFFFFFF}) {
+        label.SetBackColor(background);
+        EXPECT_FALSE(HasFrame(window)) << background;
+        SetFocus(window);
+        EXPECT_TRUE(HasFrame(window)) << background;
+        SetFocus(HandleOf(form));
+        form.Get<CheckBox>("chk").SetFocus();
+        EXPECT_FALSE(HasFrame(window)) << background;
+    }
+}
+
+TEST_F(Controls, ALabelOfPlainTextDrawsNoMarks) {
+    auto& label = form.Get<Label>("lbl");
+    const HWND window = Child(form, L"Static");
+    EXPECT_EQ(GetWindowLongPtrW(window, GWL_STYLE) & SS_NOPREFIX, 0);
+    label.SetPlainText(true);
+    label.SetCaption("R&D.log");
+    label.SetTextAlignment(Alignment::Right);
+    EXPECT_NE(GetWindowLongPtrW(window, GWL_STYLE) & SS_NOPREFIX, 0);
+    EXPECT_EQ(win32::TextOf(window), "R&D.log");
+}
+
+TEST_F(Controls, TheCurrentToolBarButtonIsMarkedWhileTheBarHasTheFocus) {
+    auto& bar = form.Get<ToolBar>("Toolbar1");
+    bar.AddButton("", "apply-filter", true);
+    bar.AddButton("", "separator", false);
+    bar.AddButton("", "remove-filter", true);
+    const HWND window = Child(form, L"ToolbarWindow32");
+    const auto hot = [&] { return SendMessageW(window, TB_GETHOTITEM, 0, 0); };
+    // The number of pixels that a button has of the frame's colour along the frame's upper edge.
+    const auto framed = [&](int index) {
+        UpdateWindow(window);
+        RECT button = {};
+        SendMessageW(window, TB_GETITEMRECT, static_cast<WPARAM>(index),
+                     reinterpret_cast<LPARAM>(&button));
+        const HDC dc = GetDC(window);
+        int black = 0;
+        for (int x = button.left + 2; x < button.right - 2; ++x)
+            black += GetPixel(dc, x, button.top + 2) == RGB(0, 0, 0) ? 1 : 0;
+        ReleaseDC(window, dc);
+        return black > (button.right - button.left) / 4;
+    };
+    EXPECT_EQ(hot(), -1);
+    EXPECT_FALSE(framed(0));
+    bar.SetFocus();
+    EXPECT_EQ(hot(), 0);
+    EXPECT_TRUE(framed(0));
+    PressKey(window, key::Right);
+    EXPECT_EQ(hot(), 2);
+    EXPECT_FALSE(framed(0));
+    EXPECT_TRUE(framed(2));
+    form.Get<CheckBox>("chk").SetFocus();
+    EXPECT_EQ(hot(), -1);
+    EXPECT_FALSE(framed(2));
+}
+
+// Notes what the window is told to show or hide of the keyboard's marks.
+LRESULT CALLBACK NoteMarks(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                           DWORD_PTR seen) {
+    if (message == WM_CHANGEUISTATE)
+        reinterpret_cast<std::vector<WPARAM>*>(seen)->push_back(wParam);
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+TEST_F(Controls, AltShowsTheAccessKeys) {
+    // Not every system hides the marks at all; what it is told is the same.
+    std::vector<WPARAM> seen;
+    SetWindowSubclass(HandleOf(form), NoteMarks, 78, reinterpret_cast<DWORD_PTR>(&seen));
+    const HWND box = ChildrenOf(HandleOf(form), L"Button")[1];
+    // Letting Alt go would open the menu, which waits for its user.
+    PostMessageW(box, WM_SYSKEYDOWN, VK_MENU, 0x20000001);
+    PostMessageW(box, WM_KEYDOWN, VK_F3, 1);
+    TheToolkit().DoEvents();
+    RemoveWindowSubclass(HandleOf(form), NoteMarks, 78);
+    EXPECT_EQ(seen, (std::vector<WPARAM>{MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL)}));
+}
+
 TEST_F(Controls, TheHourglassIsOverEverythingUntilItIsTakenBack) {
     auto& label = form.Get<Label>("lbl");
     label.SetMousePointer(Pointer::Hand);

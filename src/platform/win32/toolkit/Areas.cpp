@@ -1,19 +1,57 @@
 #include "platform/win32/toolkit/Areas.h"
 
+#include "platform/win32/toolkit/FocusMark.h"
 #include "platform/win32/toolkit/WindowClasses.h"
 
 namespace ordalyn::win32 {
 
 using namespace toolkit;
 
-LabelWindow::LabelWindow(Desktop& desktop, Control& control, ControlPeer& container)
-    : Peer(desktop, control, {WC_STATICW, SS_LEFT | SS_NOTIFY}, &container) {
+LabelWindow::LabelWindow(Desktop& desktop, Label& label, ControlPeer& container)
+    : Peer(desktop, label, {WC_STATICW, SS_LEFT | SS_NOTIFY}, &container) {
     HandleMouseItself();
 }
 
 void LabelWindow::SetReadingOrder(bool rightToLeft, Alignment alignment) {
     ChangeStyle(GWL_STYLE, SS_TYPEMASK, alignment == Alignment::Right ? SS_RIGHT : SS_LEFT);
     ShowReadingOrder(rightToLeft);
+}
+
+void LabelWindow::SetPlainText(bool plain) {
+    ChangeStyle(GWL_STYLE, SS_NOPREFIX, plain ? SS_NOPREFIX : 0);
+    if (handle() != nullptr)
+        InvalidateRect(handle(), nullptr, TRUE);
+}
+
+void LabelWindow::MarkFocus() {
+    if (!HasFocus() || (Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS) != 0)
+        return;
+    RECT inside = {};
+    GetClientRect(handle(), &inside);
+    // Along the border of a box that only shows its colour it would hardly be seen.
+    if (control().Caption().empty())
+        InflateRect(&inside, -2, -2);
+    const HDC dc = GetDC(handle());
+    DrawFocusMark(dc, inside, Resolve(control().BackColor()));
+    ReleaseDC(handle(), dc);
+}
+
+LRESULT LabelWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_PAINT: {
+            const LRESULT answer = Window::OnMessage(message, wParam, lParam);
+            MarkFocus();
+            return answer;
+        }
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+        case WM_UPDATEUISTATE:
+            InvalidateRect(handle(), nullptr, TRUE);
+            break;
+        default:
+            break;
+    }
+    return Window::OnMessage(message, wParam, lParam);
 }
 
 FrameWindow::FrameWindow(Desktop& desktop, Control& control, ControlPeer& container)

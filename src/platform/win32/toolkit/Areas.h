@@ -2,13 +2,21 @@
 #pragma once
 
 #include "platform/win32/toolkit/Window.h"
+#include "toolkit/Controls.h"
 
 namespace ordalyn::win32 {
 
-class LabelWindow : public Peer<toolkit::ControlPeer> {
+class LabelWindow : public Peer<toolkit::LabelPeer> {
   public:
-    LabelWindow(Desktop& desktop, toolkit::Control& control, toolkit::ControlPeer& container);
+    LabelWindow(Desktop& desktop, toolkit::Label& label, toolkit::ControlPeer& container);
     void SetReadingOrder(bool rightToLeft, toolkit::Alignment alignment) override;
+    void SetPlainText(bool plain) override;
+
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    void MarkFocus();
 };
 
 // A group box; without a caption and a border it is a bare area of its back colour that feels the

@@ -1,9 +1,9 @@
 #include "platform/win32/toolkit/FormKeys.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "base/Text.h"
-#include "base/Utf8.h"
 #include "platform/win32/toolkit/Buttons.h"
 #include "platform/win32/toolkit/Wide.h"
 
@@ -57,9 +57,8 @@ bool IsTabStop(const toolkit::Form& form, const Control& control) {
 }
 
 // Shows the focus marks and access keys that the system hides from those who use the mouse only.
-void ShowKeyboardCues(const FormWindow& form) {
-    SendMessageW(form.handle(), WM_CHANGEUISTATE,
-                 MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
+void ShowKeyboardCues(const FormWindow& form, WORD cues = UISF_HIDEFOCUS | UISF_HIDEACCEL) {
+    SendMessageW(form.handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, cues), 0);
 }
 
 void MoveFocusTo(Window& window) {
@@ -130,36 +129,25 @@ bool PressedByEnter(const FormWindow& form, const Window* focused) {
     return Press(form.DefaultButton());
 }
 
-// The character behind the first "&" that is not doubled, folded; 0 for none.
-char32_t AccessKey(std::string_view caption) {
-    for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
-        if (caption[i] != '&')
-            continue;
-        if (caption[i + 1] != '&')
-            return FoldCase(DecodeUtf8(caption, i + 1).value);
-        ++i;
-    }
-    return 0;
-}
-
 bool HasAccessKey(const Control& control, char32_t key) {
-    switch (control.ControlKind()) {
-        case Kind::Label:
-        case Kind::Frame:
-        case Kind::CommandButton:
-        case Kind::CheckBox:
-        case Kind::OptionButton:
-            return AccessKey(control.Caption()) == key && WindowOf(control).CanTakeInput();
-        default:
-            return false;
-    }
+    return key != 0 && control.AccessKey() == key && WindowOf(control).CanTakeInput();
 }
 
-// What an access key does to the control that it marks.
-void UseAccessKey(FormWindow& form, std::size_t place) {
+// Kinds that an access key presses.
+bool IsPressed(Kind kind) {
+    return kind == Kind::CommandButton || kind == Kind::CheckBox || kind == Kind::OptionButton;
+}
+
+// What an access key does to the control that it marks. One that marks several only goes to the
+// next of them: which one is meant is for Space or Enter to say.
+void UseAccessKey(FormWindow& form, std::size_t place, bool several) {
     const auto& controls = form.Form().Controls();
     const Control& control = *controls[place];
     ShowKeyboardCues(form);
+    if (several && IsPressed(control.ControlKind())) {
+        SetFocus(WindowOf(control).handle());
+        return;
+    }
     switch (control.ControlKind()) {
         case Kind::CommandButton: {
             const auto* const button = dynamic_cast<CommandButtonWindow*>(&control.peer());
@@ -177,8 +165,8 @@ void UseAccessKey(FormWindow& form, std::size_t place) {
         default:
             break;
     }
-    // Labels and frames speak for what comes after them.
-    for (std::size_t next = place + 1; next < controls.size(); ++next) {
+    // Labels and frames speak for what comes after them, unless they take the focus themselves.
+    for (std::size_t next = place; next < controls.size(); ++next) {
         if (IsTabStop(form.Form(), *controls[next])) {
             MoveFocusTo(WindowOf(*controls[next]));
             return;
@@ -189,11 +177,14 @@ void UseAccessKey(FormWindow& form, std::size_t place) {
 bool HandleAccessKey(FormWindow& form, const Window* focused, char32_t key) {
     const auto& controls = form.Form().Controls();
     const std::size_t count = controls.size();
-    const std::size_t at = PlaceOf(form.Form(), focused);
+    const std::size_t at = std::min(PlaceOf(form.Form(), focused), count - 1);
+    const auto marked = std::count_if(controls.begin(), controls.end(), [key](const auto& control) {
+        return HasAccessKey(*control, key);
+    });
     for (std::size_t step = 1; step <= count; ++step) {
         const std::size_t next = (at + step) % count;
         if (HasAccessKey(*controls[next], key)) {
-            UseAccessKey(form, next);
+            UseAccessKey(form, next, marked > 1);
             return true;
         }
     }
@@ -206,6 +197,9 @@ bool HandleKeyDown(FormWindow& form, Window* focused, const MSG& message) {
         return false;
     // A key that is held down presses a button once.
     const bool repeated = (message.lParam & 0x40000000) != 0;
+    if (focused != nullptr && !modifiers.shift &&
+        focused->control().UserPressedKey(static_cast<int>(message.wParam), repeated))
+        return true;
     const bool option = focused != nullptr && AsOption(focused->control()) != nullptr;
     switch (message.wParam) {
         case VK_TAB:
@@ -239,6 +233,9 @@ Window* FirstTabStop(const toolkit::Form& form) {
 bool HandleFormKey(FormWindow& form, Window* focused, const MSG& message) {
     if (message.message == WM_KEYDOWN)
         return HandleKeyDown(form, focused, message);
+    // Who presses Alt wants to see what it can be pressed with.
+    if (message.message == WM_SYSKEYDOWN && message.wParam == VK_MENU)
+        ShowKeyboardCues(form, UISF_HIDEACCEL);
     if (message.message == WM_SYSCHAR)
         return HandleAccessKey(form, focused, FoldCase(static_cast<char32_t>(message.wParam)));
     return false;

@@ -11,8 +11,8 @@ namespace ordalyn::win32 {
 // Null when nothing can take the focus.
 Window* FirstTabStop(const toolkit::Form& form);
 
-// Deals with WM_KEYDOWN and WM_SYSCHAR. `focused` is the control that the key is for, or null.
-// Answers whether the message was used up.
+// Deals with WM_KEYDOWN, WM_SYSKEYDOWN and WM_SYSCHAR. `focused` is the control that the key is
+// for, or null. Answers whether the message was used up.
 bool HandleFormKey(FormWindow& form, Window* focused, const MSG& message);
 
 }  // namespace ordalyn::win32

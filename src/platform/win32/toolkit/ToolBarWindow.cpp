@@ -4,6 +4,7 @@
 #include <cstring>
 #include <cwchar>
 
+#include "platform/win32/toolkit/FocusMark.h"
 #include "platform/win32/toolkit/FormWindow.h"
 #include "platform/win32/toolkit/ToolBarPictures.h"
 #include "platform/win32/toolkit/Wide.h"
@@ -15,8 +16,7 @@ using namespace toolkit;
 namespace {
 
 constexpr DWORD kStyle =
-    TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | CCS_NODIVIDER | CCS_NORESIZE | CCS_NOPARENTALIGN;
-constexpr std::string_view kSeparator = "separator";
+    TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | CCS_NODIVIDER | CCS_NORESIZE | CCS_NOPARENTALIGN | WS_TABSTOP;
 
 std::uint32_t RedGreenBlue(int systemColor) {
     const COLORREF color = GetSysColor(systemColor);
@@ -74,7 +74,7 @@ void ToolBarWindow::AddButton(std::string_view image, bool hasMenu) {
     TBBUTTON button = {};
     button.idCommand = ++buttons_;
     button.fsState = TBSTATE_ENABLED;
-    if (image == kSeparator) {
+    if (image == kSeparatorImage) {
         button.fsStyle = BTNS_SEP;
     } else {
         names_.emplace_back(image);
@@ -90,8 +90,35 @@ void ToolBarWindow::OnCommand(int, int id) {
         bar_.UserClickedButton(id - 1);
 }
 
+void ToolBarWindow::ShowCurrentButton(int index) {
+    Send(TB_SETHOTITEM, static_cast<WPARAM>(HasFocus() ? index : -1));
+    InvalidateRect(handle(), nullptr, TRUE);
+}
+
+// The pointer takes the look of a hot button with it; the frame stays at the one that keys are for.
+LRESULT ToolBarWindow::Draw(const NMTBCUSTOMDRAW& drawing) const {
+    switch (drawing.nmcd.dwDrawStage) {
+        case CDDS_PREPAINT:
+            return HasFocus() ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
+        case CDDS_ITEMPREPAINT:
+            return static_cast<int>(drawing.nmcd.dwItemSpec) == bar_.CurrentButton()
+                       ? CDRF_NOTIFYPOSTPAINT
+                       : CDRF_DODEFAULT;
+        case CDDS_ITEMPOSTPAINT: {
+            RECT frame = drawing.nmcd.rc;
+            InflateRect(&frame, -2, -2);
+            DrawFocusMark(drawing.nmcd.hdc, frame, GetSysColor(COLOR_BTNFACE));
+            return CDRF_DODEFAULT;
+        }
+        default:
+            return CDRF_DODEFAULT;
+    }
+}
+
 std::optional<LRESULT> ToolBarWindow::OnNotify(NMHDR& header) {
     switch (header.code) {
+        case static_cast<UINT>(NM_CUSTOMDRAW):
+            return Draw(reinterpret_cast<const NMTBCUSTOMDRAW&>(header));
         case static_cast<UINT>(TBN_DROPDOWN):
             OpenMenu(reinterpret_cast<const NMTOOLBARW&>(header).iItem - 1);
             return TBDDRET_DEFAULT;
@@ -122,7 +149,7 @@ void ToolBarWindow::OpenMenu(int index) {
             AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
         else
             AppendMenuW(menu, MF_STRING, static_cast<UINT_PTR>(id),
-                        WideForDisplay(entry.text).c_str());
+                        WideForDisplay(CaptionShowing(entry.text)).c_str());
     }
     RECT button = {};
     Send(TB_GETRECT, static_cast<WPARAM>(index + 1), reinterpret_cast<LPARAM>(&button));
@@ -140,11 +167,27 @@ void ToolBarWindow::OpenMenu(int index) {
 }
 
 LRESULT ToolBarWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message != WM_SYSCOLORCHANGE)
-        return Window::OnMessage(message, wParam, lParam);
-    const LRESULT answer = Window::OnMessage(message, wParam, lParam);
-    DrawPicturesAnew();
-    return answer;
+    switch (message) {
+        case WM_KEYDOWN:
+        case WM_CHAR:
+            // What keys do is decided by the control; the class does it on some systems only.
+            return 0;
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS: {
+            const std::weak_ptr<const void> alive = Lifetime();
+            const LRESULT answer = Window::OnMessage(message, wParam, lParam);
+            if (!alive.expired() && handle() != nullptr)
+                ShowCurrentButton(bar_.CurrentButton() - 1);
+            return answer;
+        }
+        case WM_SYSCOLORCHANGE: {
+            const LRESULT answer = Window::OnMessage(message, wParam, lParam);
+            DrawPicturesAnew();
+            return answer;
+        }
+        default:
+            return Window::OnMessage(message, wParam, lParam);
+    }
 }
 
 }  // namespace ordalyn::win32

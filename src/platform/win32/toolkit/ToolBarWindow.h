@@ -17,6 +17,8 @@ class ToolBarWindow : public Peer<toolkit::ToolBarPeer> {
     void AddButton(std::string_view image, bool hasMenu) override;
     // Tool tips are read from the control when they are shown.
     void SetButtonToolTip(int, std::string_view) override {}
+    void ShowCurrentButton(int index) override;
+    void OpenMenu(int index) override;
 
     void OnCommand(int code, int id) override;
     std::optional<LRESULT> OnNotify(NMHDR& header) override;
@@ -28,7 +30,7 @@ class ToolBarWindow : public Peer<toolkit::ToolBarPeer> {
     int PictureSize() const { return desktop().scale.Nominal(16); }
     void AddPicture(const std::string& name);
     void DrawPicturesAnew();
-    void OpenMenu(int index);
+    LRESULT Draw(const NMTBCUSTOMDRAW& drawing) const;
 
     toolkit::ToolBar& bar_;
     HIMAGELIST pictures_;

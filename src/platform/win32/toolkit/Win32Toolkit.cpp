@@ -44,7 +44,7 @@ std::unique_ptr<FormPeer> Win32Toolkit::CreateForm(Form& form, const FormStyle& 
     return std::make_unique<FormWindow>(desktop_, form, style);
 }
 
-std::unique_ptr<ControlPeer> Win32Toolkit::CreateLabel(Control& control, ControlPeer& container) {
+std::unique_ptr<LabelPeer> Win32Toolkit::CreateLabel(Label& control, ControlPeer& container) {
     return std::make_unique<LabelWindow>(desktop_, control, container);
 }
 
@@ -147,7 +147,14 @@ Answer Win32Toolkit::ShowMessage(Form* owner, std::string_view text, std::string
     FormsBlocked others(desktop_, form);
     const std::wstring shown = WideForDisplay(text);
     const std::wstring caption = WideForDisplay(title);
+    // When the box goes, its owner comes to the front, if it can. One that waits for a read cannot,
+    // and another program's window would come instead.
+    const bool waiting = window != nullptr && !IsWindowEnabled(window);
+    if (waiting)
+        EnableWindow(window, TRUE);
     const int answer = MessageBoxW(window, shown.c_str(), caption.c_str(), look);
+    if (waiting)
+        EnableWindow(window, FALSE);
     if (buttons == MessageButtons::Ok)
         return Answer::Ok;
     return answer == IDYES ? Answer::Yes : Answer::No;

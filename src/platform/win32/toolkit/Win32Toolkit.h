@@ -19,8 +19,8 @@ class Win32Toolkit : public toolkit::Toolkit {
 
     std::unique_ptr<toolkit::FormPeer> CreateForm(toolkit::Form& form,
                                                   const toolkit::FormStyle& style) override;
-    std::unique_ptr<toolkit::ControlPeer> CreateLabel(toolkit::Control& control,
-                                                      toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::LabelPeer> CreateLabel(toolkit::Label& control,
+                                                    toolkit::ControlPeer& container) override;
     std::unique_ptr<toolkit::ControlPeer> CreateFrame(toolkit::Control& control,
                                                       toolkit::ControlPeer& container) override;
     std::unique_ptr<toolkit::ControlPeer> CreatePictureBox(
