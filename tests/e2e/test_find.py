@@ -2,7 +2,7 @@
 
 import pytest
 
-from harness.dialogs import open_filter, open_find
+from harness.dialogs import center, open_filter, open_find
 from harness.waiting import wait_until
 
 LOG = [
@@ -51,6 +51,14 @@ def test_the_search_goes_over_the_days_to_the_end_and_begins_again(show):
     assert found(app) == expected[-1]
     app.keys("Enter")
     assert found(app) == ("01.03.2024", 0)
+
+
+def test_fast_clicks_each_find_the_next(show):
+    app = show(LOG)
+    dialog = open_find(app)
+    dialog.search("cOPY")
+    app.click(*center(dialog.button("Find Next").rect), double=True)
+    assert found(app) == ("01.03.2024", 2)
 
 
 def test_f3_goes_on_in_the_main_window(show):

@@ -132,6 +132,28 @@ TEST_P(Controls, AButtonThatIsPressedRaisesClick) {
     EXPECT_EQ(clicked.Take(), 0);
 }
 
+TEST_P(Controls, TheSecondPressOfADoubleClickCountsToo) {
+    auto& button = Get<CommandButton>("cmdOk");
+    auto& box = Get<CheckBox>("chkBox");
+    auto& option = Get<OptionButton>("optAlone");
+    auto& label = Get<Label>("lblText");
+    Counter pressed(button.Click);
+    Counter turned(box.Click);
+    Counter chosen(option.Click);
+    Counter clicked(label.Click);
+    Show();
+    User().PressTwice(button);
+    EXPECT_EQ(pressed.Take(), 2);
+    User().PressTwice(box);
+    EXPECT_EQ(turned.Take(), 2);
+    EXPECT_FALSE(box.Checked());
+    User().PressTwice(option);
+    EXPECT_EQ(chosen.Take(), 1) << "it is chosen once";
+    EXPECT_TRUE(option.Checked());
+    User().PressTwice(label);
+    EXPECT_EQ(clicked.Take(), 2);
+}
+
 TEST_P(Controls, ACheckBoxRaisesTheSameForCodeAndForTheUser) {
     Show();
     auto& box = Get<CheckBox>("chkBox");

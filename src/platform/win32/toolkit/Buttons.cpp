@@ -6,8 +6,10 @@ namespace ordalyn::win32 {
 
 using namespace toolkit;
 
+// Without BS_NOTIFY: with it, the second press of a double click would be told as something else
+// than a click.
 CommandButtonWindow::CommandButtonWindow(Desktop& desktop, Control& control, ControlPeer& container)
-    : Peer(desktop, control, {WC_BUTTONW, BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP}, &container) {}
+    : Peer(desktop, control, {WC_BUTTONW, BS_PUSHBUTTON | WS_TABSTOP}, &container) {}
 
 void CommandButtonWindow::ShowAsDefault(bool isDefault) {
     if (handle() == nullptr)
@@ -33,8 +35,7 @@ LRESULT CommandButtonWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lPara
 }
 
 ToggleWindow::ToggleWindow(Desktop& desktop, Toggle& toggle, bool option, ControlPeer& container)
-    : Peer(desktop, toggle,
-           {WC_BUTTONW, DWORD(option ? BS_RADIOBUTTON : BS_CHECKBOX) | BS_NOTIFY | WS_TABSTOP},
+    : Peer(desktop, toggle, {WC_BUTTONW, DWORD(option ? BS_RADIOBUTTON : BS_CHECKBOX) | WS_TABSTOP},
            &container),
       toggle_(toggle) {}
 
