@@ -103,7 +103,7 @@ def test_a_whole_session_changes_nothing(folder, registry):
     assert own["Common"]["TCInstallDir"] == folder.windows("totalcmd")
     assert own["Ordalyn"]["RecentFiles1"].startswith("%Commander_Path%\\")
 
-    # Nor was any of its keys written to, not even with what it held.
+    # Nor was anything there written and put back, which only the times of the keys tell.
     app = folder.start(env={"COMMANDER_PATH": folder.windows("totalcmd")})
     app.wait_for_rows()
     for key in KEYS:
