@@ -177,6 +177,8 @@ def test_reading_all_files_can_be_cancelled_between_files(folder):
     assert not app.find_window("  Reading")
     assert files.chosen == "x.log"
     assert app.main.source.focused
+    # Answering while nothing else of the program can be used leaves the program in front.
+    assert app.agent.ask("focus")["foreground"] == app.main.handle
     assert app.main.enabled
     assert app.pointer == "arrow"
     # The live log is shown, and yet it cannot be refreshed; that is meant to stay.
