@@ -15,7 +15,7 @@
 namespace {
 
 constexpr DWORD kBetweenLooks = 20;  // milliseconds
-constexpr DWORD kBetweenLogs = 60;
+constexpr DWORD kBetweenLogs = 150;
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 enum Outcome {
