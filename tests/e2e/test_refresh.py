@@ -194,7 +194,8 @@ def test_logs_that_take_each_other_s_place_are_read(folder, wine):
         # What is shown are rows of one log; of a log that is just being written the last line may
         # not be whole.
         count = app.main.source.row_count
-        words = {app.main.source.rows(row, 1)[0][1] for row in range(0, count - 1, max(1, count // 20))}
+        words = {app.main.source.rows(row, 1)[0][1]
+                 for row in range(0, count - 1, max(1, count // 20))}
         assert len(words) == 1, (words, count)
         seen |= words
         app.agent.ask("keys", keys=[0x74, 1, 0x74, 0])
