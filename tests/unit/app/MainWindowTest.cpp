@@ -241,8 +241,7 @@ TEST_F(MainWindow, AFileWithoutAnyLogIsReportedAndTheOldRowsStay) {
 }
 
 TEST_F(MainWindow, OldRowsThatHaveLostTheirEntriesCanBeWalkedThroughInPeace) {
-    SetLog("D:\\long.log",
-           std::vector<std::string>(2500, "07.03.2024 10:00:00: Copy x -> y"));
+    SetLog("D:\\long.log", std::vector<std::string>(2500, "07.03.2024 10:00:00: Copy x -> y"));
     system.files.Set("D:\\empty.log", "");
     Start();
     Main().FilesDropped.Raise({"D:\\long.log"});
