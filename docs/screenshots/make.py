@@ -2,7 +2,7 @@
 """Makes the pictures of the main window and of each dialog in docs/screenshots, with the sample
 installation and the program folder that build.sh made (dist/x64).
 
-    tools/screenshots.py [LANGUAGE ...] [--folder FOLDER] [--dpi N]
+    docs/screenshots/make.py [LANGUAGE ...] [--folder FOLDER] [--dpi N]
 
 A LANGUAGE is the name of a file in languages/ without its ending, or "English".
 """
@@ -14,7 +14,7 @@ import struct
 import sys
 import tempfile
 
-PROJECT = pathlib.Path(__file__).resolve().parents[1]
+PROJECT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(PROJECT / "tests" / "e2e"))
 
 from harness.display import Display  # noqa: E402
@@ -121,7 +121,7 @@ class Photographer:
 def main():
     arguments = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     arguments.add_argument("language", nargs="*", default=SHOWN)
-    arguments.add_argument("--folder", type=pathlib.Path, default=PROJECT / "docs/screenshots")
+    arguments.add_argument("--folder", type=pathlib.Path, default=PROJECT / "docs" / "screenshots")
     arguments.add_argument("--dpi", type=int, default=96)
     options = arguments.parse_args()
     options.folder.mkdir(parents=True, exist_ok=True)
