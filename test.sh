@@ -13,7 +13,7 @@
 #   bench     benchmarks; a missed limit is a failure
 #
 # ORDALYN_E2E="-k words" and the like is handed to pytest; ORDALYN_FUZZ_SECONDS (10) is the time of
-# one fuzz target.
+# one fuzz target, ORDALYN_FUZZ_SEED (1) where it begins.
 set -euo pipefail
 cd "$(dirname "$0")"
 tools/setup.sh build run test
