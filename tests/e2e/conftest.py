@@ -63,6 +63,13 @@ def show(folder):
 
 
 @pytest.fixture
+def pointer_inside(display):
+    """The mouse pointer where the main window will be. Elsewhere its shape is not the program's, and
+    the test before may have left it there."""
+    display.xdotool("mousemove", 400, 300)
+
+
+@pytest.fixture
 def dpi144(wine):
     wine.set_dpi(144)
     yield 144

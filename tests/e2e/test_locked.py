@@ -3,9 +3,13 @@
 import contextlib
 import subprocess
 
+import pytest
+
 from harness.folder import tools_folder
 from harness.waiting import wait_until
 from harness.wine import windows_path
+
+pytestmark = pytest.mark.usefixtures("pointer_inside")
 
 READ_ERROR = "There is an error in file\n{}\nLine: 0"
 

@@ -4,6 +4,8 @@ import re
 import subprocess
 import time
 
+import pytest
+
 from harness.folder import tools_folder
 from harness.waiting import wait_until
 from harness.wine import windows_path
@@ -34,6 +36,7 @@ def operations(app):
     return [text.split("\\")[1] for text in app.main.source.column(1)]
 
 
+@pytest.mark.usefixtures("pointer_inside")
 def test_lines_of_another_program_appear(folder, wine):
     app, log, path = start(folder, [line("a"), line("b"), line("c")])
     cmd(wine, f"echo {line('new')}>>{path}")

@@ -3,6 +3,8 @@
 import os
 import re
 
+import pytest
+
 from harness.controls import plain
 from harness.waiting import wait_until
 
@@ -78,6 +80,7 @@ def test_siblings_found_by_pattern(folder):
     assert operations(app) == ["live0.txt", "live1.txt", "live2.txt"]
 
 
+@pytest.mark.usefixtures("pointer_inside")
 def test_numbered_siblings_and_all_files(folder):
     folder.write("logs/x.log", rows_of("live", 2, "03.03.2024"))
     folder.write("logs/x.1.log", rows_of("one", 2, "02.03.2024") + rows_of("own", 1, "04.03.2024"))
@@ -145,6 +148,7 @@ def test_a_live_log_alone_shows_no_list(folder):
     assert app.main.files.items == ["All files", "x.log", "x.2.log"]
 
 
+@pytest.mark.usefixtures("pointer_inside")
 def test_reading_all_files_can_be_cancelled_between_files(folder):
     count = 150
     folder.write("logs/x.log", rows_of("live", 3))

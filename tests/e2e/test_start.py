@@ -2,6 +2,8 @@
 
 import pytest
 
+pytestmark = pytest.mark.usefixtures("pointer_inside")
+
 LOG = [
     r"01.03.2024 10:15:30: Copy C:\a.txt -> D:\a.txt",
     r"01.03.2024 10:16:00: Delete C:\b.txt",

@@ -41,6 +41,7 @@ def test_missing_help_is_told(show, folder):
     message.press("OK")
 
 
+@pytest.mark.usefixtures("pointer_inside")
 def test_a_long_read_shows_its_progress(folder):
     # A log long enough that the window can be met while it is read.
     line = (LOG[0] + "\r\n").encode()
