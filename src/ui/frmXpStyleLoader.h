@@ -1,5 +1,5 @@
-// frmXpStyleLoader: the window that the start shows before anything else, so that the system's
-// visual styles are loaded when the main window makes its controls. It is never seen.
+// frmXpStyleLoader: the window that comes before anything else is shown, and that shows the main
+// window. It is never seen.
 #pragma once
 
 #include "toolkit/Form.h"
