@@ -21,11 +21,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     file.WriteEntry("Configuration", "Another", "value");
     Require(file.Entry("Configuration", "Another") == "value", "what is written can be read");
     Require(file.Entry("Configuration", "LogFile") == before, "other entries stay");
-    const IniFile again(file.Text());
-    Require(again.Entry("Configuration", "Another") == "value", "also from the text");
-    // A NUL ends a value, and what is then at its end may be blanks: they go at the next reading.
-    if (text.find('\0') == std::string_view::npos)
+    // A NUL ends a name or a value, and what is then at its end may be blanks: they go at the next
+    // reading, which can give one section the name of another.
+    if (text.find('\0') == std::string_view::npos) {
+        const IniFile again(file.Text());
+        Require(again.Entry("Configuration", "Another") == "value", "also from the text");
         Require(again.Entry("Configuration", "LogFile") == before, "others also from the text");
+    }
 
     Require(file.DeleteEntry("Configuration", "Another"), "what is there can be deleted");
     file.DeleteSection("Configuration");
