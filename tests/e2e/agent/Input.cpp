@@ -56,13 +56,24 @@ Json TypeText(const Json& request) {
     return nullptr;
 }
 
-LONG Absolute(std::int64_t position, int extent) {
+LONG Absolute(LONG position, int extent) {
     // The system turns 0..65535 into pixels by cutting; rounding up here hits the pixel meant.
-    return static_cast<LONG>((position * 65536 + extent - 1) / extent);
+    return static_cast<LONG>((std::int64_t{position} * 65536 + extent - 1) / extent);
+}
+
+POINT lastMove = {};
+
+// Each input says where it is meant. One that acted where the pointer is could act elsewhere: on a
+// busy machine the display tells late of a place where the pointer was before.
+void At(INPUT& input, POINT point) {
+    input.mi.dx = Absolute(point.x, GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = Absolute(point.y, GetSystemMetrics(SM_CYSCREEN));
+    input.mi.dwFlags |= static_cast<DWORD>(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
 }
 
 // events: triples of "move", "down", "up" or "wheel", x and y (screen). "down" and "up" act where
-// the pointer is; their x is the button (0 left, 1 right, 2 middle). The wheel's x is its delta.
+// the last move went; their x is the button (0 left, 1 right, 2 middle). The wheel's x is its
+// delta.
 Json Mouse(const Json& request) {
     std::vector<INPUT> inputs;
     const Json::Array& events = request.List("events");
@@ -76,10 +87,8 @@ Json Mouse(const Json& request) {
             // one.
             SendInputs(inputs);
             inputs.clear();
-            SetCursorPos(static_cast<int>(x), static_cast<int>(events[i + 2].AsNumber()));
-            input.mi.dx = Absolute(x, GetSystemMetrics(SM_CXSCREEN));
-            input.mi.dy = Absolute(events[i + 2].AsNumber(), GetSystemMetrics(SM_CYSCREEN));
-            input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+            lastMove = {static_cast<LONG>(x), static_cast<LONG>(events[i + 2].AsNumber())};
+            SetCursorPos(lastMove.x, lastMove.y);
         } else if (action == "wheel") {
             input.mi.mouseData = static_cast<DWORD>(static_cast<std::int32_t>(x));
             input.mi.dwFlags = MOUSEEVENTF_WHEEL;
@@ -92,6 +101,7 @@ Json Mouse(const Json& request) {
                 throw std::runtime_error("no such mouse button");
             input.mi.dwFlags = action == "down" ? kDown[x] : kUp[x];
         }
+        At(input, lastMove);
         inputs.push_back(input);
     }
     SendInputs(inputs);

@@ -163,7 +163,8 @@ class App:
     def drag(self, start, end, steps=8):
         """Drags with the left button; the moves are as many as a hand's would be."""
         (x0, y0), (x1, y1) = start, end
-        self.mouse(("move", x0, y0), ("down", "left"))
+        self.point_at(x0, y0)
+        self.mouse(("down", "left"))
         for step in range(1, steps + 1):
             self.mouse(("move", x0 + (x1 - x0) * step // steps, y0 + (y1 - y0) * step // steps))
             self.settle()
