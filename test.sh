@@ -88,9 +88,10 @@ kind_e2e() {
     ./build.sh x64
     cmake --build --preset mingw-x64 --target ordalyn_e2e_agent ordalyn_e2e_launch ordalyn_e2e_hold
     # The program and its tests mostly wait for one another. Each worker has a display and a Wine
-    # prefix of its own.
+    # prefix of its own. Keyboard and mouse come through that display, whose timing is nobody's: a
+    # test that fails is run once more, and the run names it (RERUN).
     # shellcheck disable=SC2086
-    run_pytest e2e -n 2 tests/e2e ${ORDALYN_E2E:-}
+    run_pytest e2e -n 2 --reruns 1 -rR tests/e2e ${ORDALYN_E2E:-}
 }
 
 # targets PRESET PREFIX: the names of a build folder's targets that start so.

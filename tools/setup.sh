@@ -23,8 +23,8 @@ packages_for() {
             echo wine wine64 xvfb xdotool imagemagick fonts-wine fonts-liberation python3
             ;;
         test)
-            echo python3-pytest python3-pytest-xdist locales libbenchmark-dev shellcheck \
-                clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev
+            echo python3-pytest python3-pytest-rerunfailures python3-pytest-xdist \
+                locales libbenchmark-dev shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev
             ;;
         *)
             echo "setup.sh: no such task: $1" >&2
