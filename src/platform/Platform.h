@@ -123,7 +123,8 @@ class Clipboard {
   public:
     virtual ~Clipboard() = default;
     // Empties the clipboard, or puts the text on it as plain text. When another program holds the
-    // clipboard both try again for a short while and then give up silently (false).
+    // clipboard both try again for a short while and then give up silently (false). Programs take
+    // U+0000 for the text's end, so that it becomes a blank.
     virtual bool Clear() = 0;
     virtual bool SetText(std::string_view text) = 0;
 };

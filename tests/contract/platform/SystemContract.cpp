@@ -84,6 +84,11 @@ TEST_P(SystemContract, TextGoesToTheClipboardAndIsCleared) {
     EXPECT_EQ(System().ClipboardText(), std::nullopt);
 }
 
+TEST_P(SystemContract, ANulDoesNotEndATextOnTheClipboard) {
+    EXPECT_TRUE(Clipboard().SetText(std::string_view("Copy a\0b -> c", 13)));
+    EXPECT_EQ(System().ClipboardText(), "Copy a b -> c");
+}
+
 TEST_P(SystemContract, AClipboardThatAnotherHoldsIsLeftAlone) {
     EXPECT_TRUE(Clipboard().SetText("before"));
     {

@@ -1,5 +1,6 @@
 #include "support/platform/MemoryUserServices.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/Text.h"
@@ -137,6 +138,7 @@ bool MemoryClipboard::SetText(std::string_view newText) {
     if (heldByAnother)
         return false;
     text = std::string(newText);
+    std::replace(text->begin(), text->end(), '\0', ' ');
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstring>
 
 #include "platform/win32/services/Handles.h"
@@ -65,7 +66,9 @@ bool Win32Clipboard::SetText(std::string_view text) {
     const OpenedClipboard clipboard;
     if (!clipboard || !EmptyClipboard())
         return false;
-    const HGLOBAL block = TextBlock(ToWide(text));
+    std::wstring wide = ToWide(text);
+    std::replace(wide.begin(), wide.end(), L'\0', L' ');
+    const HGLOBAL block = TextBlock(wide);
     if (block == nullptr)
         return false;
     if (SetClipboardData(CF_UNICODETEXT, block) != nullptr)
