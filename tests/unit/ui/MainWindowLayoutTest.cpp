@@ -133,6 +133,17 @@ TEST_F(Layout, FillsTheWindowBelowTheCombos) {
     EXPECT_EQ(container.Width(), form.Width() - 10 * 15);  // from the outer width, deliberately
 }
 
+TEST_F(Layout, CountsTheCombosInWholeTwips) {
+    toolkit::Font font = cboDate.Font();
+    font.size += 0.01;
+    cboDate.SetFont(font);
+    ASSERT_GT(cboDate.Height(), 315);
+    ASSERT_LT(cboDate.Height(), 315.5F);
+    layout.ArrangeFirstTime();
+    EXPECT_EQ(container.Top(), 315 + 4 * 12);
+    EXPECT_EQ(container.Height(), Inside());
+}
+
 TEST_F(Layout, FollowsTheWindowsSize) {
     layout.ArrangeFirstTime();
     tools.ResizeByUser(form, {0, 0, 6000, 5000});

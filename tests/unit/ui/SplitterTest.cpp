@@ -289,6 +289,16 @@ TEST_F(Splitter, SetSplitPositionDoesNotMoveTheBar) {
     EXPECT_EQ(one.Width(), 2500);
 }
 
+TEST_F(Splitter, SetSplitPositionFitsBothPanesAlsoWhileOneIsHidden) {
+    Create(1, 2000);
+    splitter.SetLeftPanelVisible(false);
+    EXPECT_EQ(two.Left(), 0);
+    splitter.SetSplitPosition(3000);
+    EXPECT_EQ(one.Width(), 2000);
+    EXPECT_EQ(two.Left(), 2045);
+    EXPECT_EQ(two.Width(), 6000 - 2045);
+}
+
 TEST_F(Splitter, SwapPutsTheRightPaneOnTheLeft) {
     Create(1, 2000);
     splitter.SwapPanels();
