@@ -146,7 +146,7 @@ LogFileSet::Surroundings frmMain::FileSetSurroundings() {
                 [this] {
                     const auto read = [this](std::string_view key) {
                         return shared_.profile
-                            ->ReadValue("Configuration", key, shared_.common.NoValueMarker(),
+                            ->ReadValue(kConfigurationSection, key, shared_.common.NoValueMarker(),
                                         shared_.common.CommanderIni())
                             .value_or("");
                     };

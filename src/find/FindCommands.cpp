@@ -2,12 +2,6 @@
 
 namespace ordalyn {
 
-namespace {
-
-constexpr int kFilterPanel = 3;
-
-}  // namespace
-
 FindCommands::FindCommands(const Surroundings& around)
     : around_(around),
       history_(around.profile, around.common, around.strings),
@@ -70,7 +64,7 @@ void FindCommands::ShowFilterDialog() {
 }
 
 void FindCommands::StatusBarPanelClicked(int panel) {
-    if (panel == kFilterPanel)
+    if (panel == PanelFilter::kStatusPanel)
         ShowFilterDialog();
 }
 

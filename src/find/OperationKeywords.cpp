@@ -97,11 +97,11 @@ std::string OperationKeywords::ReadLoggingID() {
 void OperationKeywords::LoadOperationKeywords() {
     loggingID_ = ReadLoggingID();
     const mAppCommon& common = around_.common;
-    const std::string languageIni =
-        common.ExpandPath(around_.profile
-                              .ReadValue("Configuration", "LanguageIni", common.NoValueMarker(),
-                                         common.CommanderIni(), cProfile::kBufferSize)
-                              .value_or(std::string()));
+    const std::string languageIni = common.ExpandPath(
+        around_.profile
+            .ReadValue(kConfigurationSection, "LanguageIni", common.NoValueMarker(),
+                       common.CommanderIni(), cProfile::kBufferSize)
+            .value_or(std::string()));
     if (common.IsNoValue(languageIni)) {
         LoadDefaultKeywords();  // the file manager speaks its built-in English
         return;

@@ -12,7 +12,6 @@ namespace ordalyn {
 namespace {
 
 constexpr std::int32_t kFilterText = 4032;
-constexpr int kFilterPanel = 3;
 // Every text of the status bar ends in two blanks.
 constexpr std::string_view kStatusEnd = "  ";
 
@@ -73,7 +72,7 @@ std::vector<std::int32_t> EntriesThatPass(const EntryLists& entries,
 void PanelFilter::ShowFilterInStatusBar() {
     std::string text = around_.strings(kFilterText) + around_.choice().text;
     text += kStatusEnd;
-    around_.StatusBar1.SetPanelText(kFilterPanel, text);
+    around_.StatusBar1.SetPanelText(kStatusPanel, text);
 }
 
 void PanelFilter::ApplyFilter(bool blnPreShow) {

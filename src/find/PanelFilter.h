@@ -41,6 +41,9 @@ class PanelFilter {
         std::function<FilterChoice()> choice;
     };
 
+    // The status bar's panel that the filter is written into.
+    static constexpr int kStatusPanel = 3;
+
     explicit PanelFilter(Surroundings around) : around_(std::move(around)) {}
 
     // Removes the rows that FilterText does not let pass, from both panels. With blnPreShow the

@@ -16,8 +16,6 @@ constexpr std::string_view kRegistryPlaces[] = {
     "HKEY_CURRENT_USER\\Software\\Ghisler\\Total Commander",
     "HKEY_LOCAL_MACHINE\\Software\\Ghisler\\Total Commander",
 };
-constexpr std::string_view kConfigurationSection = "Configuration";
-constexpr std::string_view kCommonSection = "Common";
 constexpr std::string_view kFolderKey = "TCInstallDir";
 constexpr std::string_view kIniKey = "UserDefinedWincmd";
 constexpr std::int32_t kNoSettingsFileText = 3046;

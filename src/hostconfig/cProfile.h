@@ -22,6 +22,11 @@ namespace ordalyn {
 
 class mAppCommon;
 
+// The section of the file manager's settings that most entries are in, and the one of the program's
+// own settings that tells where to find it.
+inline constexpr std::string_view kConfigurationSection = "Configuration";
+inline constexpr std::string_view kCommonSection = "Common";
+
 namespace test {
 struct ProfileInternals;
 }

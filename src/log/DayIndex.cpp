@@ -7,12 +7,12 @@ namespace ordalyn {
 
 namespace {
 
-constexpr std::int32_t kGrowthStep = 365;
+constexpr std::int32_t kDaysOfAYear = 365;
 
 }  // namespace
 
 DayIndex::DayIndex() {
-    starts_.InitialCount(kGrowthStep);
+    starts_.InitialCount(kDaysOfAYear);
 }
 
 std::vector<std::string> DayIndex::Build(const cStringArray& dates) {

@@ -4,13 +4,13 @@ namespace ordalyn {
 
 namespace {
 
-constexpr std::int32_t kGrowthStep = 2000;
+constexpr std::int32_t kEntriesAtFirst = 2000;
 
 }  // namespace
 
 EntryLists::EntryLists() {
     for (cStringArray* list : {&files_, &dates_, &sources_, &targets_})
-        list->InitialCount(kGrowthStep);
+        list->InitialCount(kEntriesAtFirst);
 }
 
 void EntryLists::SetFile(std::string_view name) {

@@ -4,6 +4,7 @@
 
 #include "base/Errors.h"
 #include "base/Text.h"
+#include "hostconfig/cProfile.h"
 
 namespace ordalyn {
 

@@ -12,9 +12,8 @@
 
 namespace ordalyn {
 
-// Where a program-wide file section is meant: window and display settings, or paths and limits.
+// The section of window and display settings; paths and limits are in kCommonSection.
 inline constexpr std::string_view kOrdalynSection = "Ordalyn";
-inline constexpr std::string_view kCommonSection = "Common";
 
 // The values that the program works with. They hold the table's defaults until they are loaded.
 // Flags: 0 is off, any other value is on.

@@ -1,18 +1,10 @@
 #include "platform/win32/services/Win32Dialogs.h"
 
-#include <windows.h>
-
-#include <commdlg.h>
-
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
 #include "platform/win32/services/WindowsText.h"
-
-// The system's header makes macros of these names.
-#undef ChooseColor
-#undef ChooseFont
 
 namespace ordalyn::platform::win32 {
 

@@ -2,6 +2,13 @@
 #pragma once
 
 #include "platform/Platform.h"
+// after the names that it makes macros of
+#include <windows.h>
+
+#include <commdlg.h>
+
+#undef ChooseColor
+#undef ChooseFont
 
 namespace ordalyn::platform::win32 {
 

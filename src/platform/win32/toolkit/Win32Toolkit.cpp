@@ -19,7 +19,7 @@ using namespace toolkit;
 namespace {
 
 constexpr UINT kRunPosted = WM_APP + 1;
-constexpr UINT_PTR kSubclass = 1;
+constexpr UINT_PTR kWorkerSubclass = 1;
 
 }  // namespace
 
@@ -32,11 +32,11 @@ Win32Toolkit::Win32Toolkit(HINSTANCE program, const Scale& scale) : desktop_(pro
     RegisterWindowClasses(program);
     worker_ = CreateWindowExW(0, kPictureClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, program,
                               nullptr);
-    SetWindowSubclass(worker_, RunPosted, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowSubclass(worker_, RunPosted, kWorkerSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
 Win32Toolkit::~Win32Toolkit() {
-    RemoveWindowSubclass(worker_, RunPosted, kSubclass);
+    RemoveWindowSubclass(worker_, RunPosted, kWorkerSubclass);
     DestroyWindow(worker_);
 }
 

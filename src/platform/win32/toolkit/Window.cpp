@@ -12,7 +12,7 @@ using namespace toolkit;
 
 namespace {
 
-constexpr UINT_PTR kSubclass = 1;
+constexpr UINT_PTR kPeerSubclass = 1;
 constexpr const wchar_t* kObject = L"OrdalynWindow";  // the property that names a window's object
 constexpr int kFirstControlId = 100;  // above those that the system gives a meaning to
 
@@ -39,7 +39,7 @@ Window::Window(Desktop& desktop, Control& control, const Look& look, ControlPeer
     if (handle_ == nullptr)
         throw Error("Cannot create the window of " + control.Name() + " (error " +
                     std::to_string(GetLastError()) + ")");
-    SetWindowSubclass(handle_, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowSubclass(handle_, Procedure, kPeerSubclass, reinterpret_cast<DWORD_PTR>(this));
     SetPropW(handle_, kObject, this);
     // Controls that were made later lie above those made before.
     if (child)
@@ -53,7 +53,7 @@ Window::~Window() {
     const HWND window = handle_;
     handle_ = nullptr;
     RemovePropW(window, kObject);
-    RemoveWindowSubclass(window, Procedure, kSubclass);
+    RemoveWindowSubclass(window, Procedure, kPeerSubclass);
     DestroyWindow(window);
 }
 
@@ -101,7 +101,7 @@ LRESULT CALLBACK Window::Procedure(HWND window, UINT message, WPARAM wParam, LPA
     if (message == WM_NCDESTROY) {
         self->handle_ = nullptr;
         RemovePropW(window, kObject);
-        RemoveWindowSubclass(window, Procedure, kSubclass);
+        RemoveWindowSubclass(window, Procedure, kPeerSubclass);
         return DefSubclassProc(window, message, wParam, lParam);
     }
     Desktop& desktop = self->desktop_;
