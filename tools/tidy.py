@@ -39,8 +39,16 @@ def commands(preset):
         for i, word in enumerate(words):
             if word == "-isystem":
                 flags += ["-isystem" + words[i + 1]]
-        found[pathlib.Path(entry["file"])] = [f for f in flags if f != "-isystem"]
+        for file in compiled_with(pathlib.Path(entry["file"])):
+            found[file] = [f for f in flags if f != "-isystem"]
     return found
+
+
+def compiled_with(file):
+    """The file itself, or those that a generated file of the build folder puts together."""
+    if file.is_relative_to(PROJECT / "build") and "Unity" in file.parts:
+        return [pathlib.Path(name.decode()) for name in INCLUDE.findall(file.read_bytes())]
+    return [file]
 
 
 def included(file, seen):
@@ -56,9 +64,20 @@ def included(file, seen):
                 break
 
 
-def fingerprint(file, flags):
+def batches(work):
+    """The files of a folder that are compiled alike, together: most of the time goes into what they
+    all include. Forms stay alone, because their design tables bear the same names."""
+    found = {}
+    for file, flags in work.items():
+        alone = file.name if file.name.startswith("frm") else ""
+        found.setdefault((file.parent, alone, tuple(flags)), []).append(file)
+    return [(files, list(flags)) for (_, _, flags), files in found.items()]
+
+
+def fingerprint(batch, flags):
     files = set()
-    included(file, files)
+    for file in batch:
+        included(file, files)
     digest = hashlib.sha256("\0".join(flags).encode())
     digest.update((PROJECT / ".clang-tidy").read_bytes())
     for one in sorted(files):
@@ -67,12 +86,15 @@ def fingerprint(file, flags):
     return digest.hexdigest()
 
 
-def check(file, flags):
+def check(batch, flags):
     """An empty text: clean."""
-    mark = CLEAN / fingerprint(file, flags)
+    mark = CLEAN / fingerprint(batch, flags)
     if mark.exists():
         return ""
-    done = subprocess.run(["clang-tidy-14", "--quiet", str(file), "--", "-x", "c++", *flags],
+    together = mark.with_suffix(".cpp")
+    together.write_text("".join(f'#include "{file}"\n' for file in batch))
+    done = subprocess.run(["clang-tidy-14", "--quiet", "--checks=-bugprone-suspicious-include",
+                           str(together), "--", "-x", "c++", *flags],
                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, cwd=PROJECT, check=False)
     if done.returncode == 0:
         mark.touch()
@@ -91,11 +113,12 @@ def main():
             and (not only or file in only)}
     clean = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        for file, said in zip(work, pool.map(lambda item: check(*item), work.items())):
+        together = sorted(batches(work), key=lambda one: -len(one[0]))
+        for (files, _), said in zip(together, pool.map(lambda one: check(*one), together)):
+            named = [file for file in files if str(file) in said]
             if said:
-                print(f"{file.relative_to(PROJECT)}:\n{said}", flush=True)
-            else:
-                clean += 1
+                print(f"{files[0].parent.relative_to(PROJECT)}:\n{said}", flush=True)
+            clean += len(files) - (len(named) or (len(files) if said else 0))
     print(f"clang-tidy: {clean} of {len(work)} files are clean")
     with open(counts, "a", encoding="ascii") as out:
         print(clean, len(work) - clean, file=out)

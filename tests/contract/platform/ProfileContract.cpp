@@ -1,11 +1,10 @@
 // Reading and writing single entries with the profile calls.
+#include "contract/platform/IniFiles.h"
 #include "contract/platform/Subject.h"
 
 namespace ordalyn::contract {
 
 namespace {
-
-constexpr std::size_t kSize = 4096;
 
 class ProfileContract : public PlatformContract {
   protected:
@@ -20,13 +19,6 @@ class ProfileContract : public PlatformContract {
     std::optional<std::string> Result() { return System().Bytes("test.ini"); }
     std::string File() { return System().Path("test.ini"); }
 };
-
-std::string Utf16(std::string_view ascii) {
-    std::string bytes = "\xFF\xFE";
-    for (const char c : ascii)
-        bytes.append({c, '\0'});
-    return bytes;
-}
 
 }  // namespace
 

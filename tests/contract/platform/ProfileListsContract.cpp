@@ -1,11 +1,10 @@
 // The three lists of the profile calls.
+#include "contract/platform/IniFiles.h"
 #include "contract/platform/Subject.h"
 
 namespace ordalyn::contract {
 
 namespace {
-
-constexpr std::size_t kSize = 4096;
 
 class ProfileListsContract : public PlatformContract {
   protected:

@@ -1,14 +1,13 @@
 // INI files as text, through whichever calls their beginning asks for.
 #include "platform/ProfileText.h"
 
-#include "base/Text.h"
+#include "contract/platform/IniFiles.h"
 #include "contract/platform/Subject.h"
 
 namespace ordalyn::contract {
 
 namespace {
 
-constexpr std::size_t kSize = 4096;
 const std::string kMark(kUtf8Mark);
 // Hebrew, which none of the code pages under test holds.
 const std::string kForeign = "D:\\\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D";
@@ -45,15 +44,6 @@ class ProfileTextContract : public PlatformContract {
   private:
     platform::ProfileText text_{Services()};
 };
-
-std::string Utf16(std::string_view text) {
-    std::string bytes = "\xFF\xFE";
-    for (const char16_t c : Utf8ToUtf16(text)) {
-        bytes += static_cast<char>(c & 0xFF);
-        bytes += static_cast<char>(c >> 8);
-    }
-    return bytes;
-}
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 #include <array>
 #include <utility>
 
+#include "contract/platform/Registries.h"
 #include "contract/platform/Subject.h"
 #include "hostconfig/cRegistry.h"
 #include "hostconfig/mAppCommon.h"
@@ -9,9 +10,6 @@
 namespace ordalyn::contract {
 
 namespace {
-
-constexpr std::uint32_t kCurrentUser = 0x80000001;
-constexpr std::uint32_t kString = 1, kExpandable = 2, kBinary = 3, kNumber = 4;
 
 class RegistryAccessorContract : public PlatformContract {
   protected:
@@ -31,7 +29,7 @@ class RegistryAccessorContract : public PlatformContract {
         return ReadBack(kNumber, bytes);
     }
     std::optional<platform::Registry::Value> Stored(std::string_view name) {
-        return Services().registry.Query(kCurrentUser, System().RegistryKey(), name, 2048);
+        return Services().registry.Query(kCurrentUser, System().RegistryKey(), name, kLargestValue);
     }
     const cRegistry& Accessor() const { return accessor_; }
     const std::string& Marker() const { return marker_; }
@@ -41,10 +39,6 @@ class RegistryAccessorContract : public PlatformContract {
     cRegistry accessor_{Services(), common_};
     std::string marker_ = common_.NoValueMarker();
 };
-
-std::string WithNul(std::string_view text) {
-    return std::string(text) + '\0';
-}
 
 }  // namespace
 

@@ -1,30 +1,23 @@
 // The registry.
+#include "contract/platform/Registries.h"
 #include "contract/platform/Subject.h"
 
 namespace ordalyn::contract {
 
 namespace {
 
-constexpr std::uint32_t kCurrentUser = 0x80000001;
-constexpr std::uint32_t kString = 1, kExpandable = 2, kBinary = 3, kNumber = 4;
-constexpr std::size_t kSize = 2048;
-
 class RegistryContract : public PlatformContract {
   protected:
     platform::Registry& Registry() { return Services().registry; }
     std::string Key() { return System().RegistryKey(); }
     std::optional<platform::Registry::Value> Query(std::string_view name,
-                                                   std::size_t size = kSize) {
+                                                   std::size_t size = kLargestValue) {
         return Registry().Query(kCurrentUser, Key(), name, size);
     }
     bool Set(std::string_view name, std::uint32_t type, std::string_view data) {
         return Registry().Set(kCurrentUser, Key(), name, {type, std::string(data)});
     }
 };
-
-std::string WithNul(std::string_view text) {
-    return std::string(text) + '\0';
-}
 
 }  // namespace
 
@@ -84,7 +77,7 @@ TEST_P(RegistryContract, NamesMatchIgnoringCase) {
     for (char& c : key)
         if (c >= 'a' && c <= 'z')
             c = static_cast<char>(c - 'a' + 'A');
-    EXPECT_TRUE(Registry().Query(kCurrentUser, key, "installdir", kSize).has_value());
+    EXPECT_TRUE(Registry().Query(kCurrentUser, key, "installdir", kLargestValue).has_value());
 }
 
 TEST_P(RegistryContract, AValueLongerThanTheBufferGivesNothing) {
@@ -111,7 +104,7 @@ TEST_P(RegistryContract, TheNamelessValueIsAValueLikeOthers) {
 
 TEST_P(RegistryContract, AnUnknownRootFails) {
     for (const std::uint32_t root : {0U, 0x12345678U}) {
-        EXPECT_FALSE(Registry().Query(root, Key(), "k", kSize).has_value());
+        EXPECT_FALSE(Registry().Query(root, Key(), "k", kLargestValue).has_value());
         EXPECT_FALSE(Registry().Set(root, Key(), "k", {kString, WithNul("x")}));
         EXPECT_FALSE(Registry().DeleteKey(root, Key()));
     }
