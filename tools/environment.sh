@@ -3,7 +3,7 @@
 
 # A compiler cache, when there is one, also serves other checkouts of the project.
 if command -v ccache >/dev/null; then
-    export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_NOHASHDIR=1
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_NOHASHDIR=1 CCACHE_BASEDIR=$PWD
     # Without this it does not serve sources that use precompiled headers.
     export CCACHE_SLOPPINESS=pch_defines,time_macros
 fi
