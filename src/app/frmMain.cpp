@@ -285,6 +285,8 @@ void frmMain::FirstActivation() {
     // Both can show dialogs, which handle messages; a later activation does nothing by now.
     Attempt([this] { locator_.FindCommanderFolder(); });
     Attempt([this] { locator_.FindCommanderIni(); });
+    if (Unloaded())
+        return;
     std::string logFile;
     Attempt([&] { logFile = locator_.FindLogFile(); });
     if (!shared_.common.FileExists(logFile)) {

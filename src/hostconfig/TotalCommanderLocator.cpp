@@ -118,14 +118,18 @@ std::string TotalCommanderLocator::SearchIni() {
 }
 
 std::string TotalCommanderLocator::AskForIni() {
+    // A program that is ended behind the question has not been answered.
+    const auto ended = [this] { return around_.owner != nullptr && around_.owner->Unloaded(); };
     around_.toolkit.ShowMessage(around_.owner, around_.text(kNoSettingsFileText),
                                 mAppCommon::kProgramTitle, toolkit::MessageIcon::Exclamation,
                                 toolkit::MessageButtons::Ok);
+    if (ended())
+        return around_.common.NoValueMarker();
     const platform::WindowHandle owner = around_.owner != nullptr ? around_.owner->Handle() : 0;
     around_.dialog.ShowOpenDialog(owner, around_.common.CommanderFolder(), "Wincmd.ini",
                                   cCommonDialog::kSettingsFiles, "", true);
     if (!around_.dialog.Confirmed)
-        return MakeFreshIni();
+        return ended() ? around_.common.NoValueMarker() : MakeFreshIni();
     const std::string& chosen = around_.dialog.FileName;
     WriteCommonEntry(kIniKey, around_.common.UnExpandPath(chosen));
     return around_.common.ExpandPath(chosen);

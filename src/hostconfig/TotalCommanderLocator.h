@@ -43,7 +43,8 @@ class TotalCommanderLocator {
 
     // The path of the settings file. When it is nowhere to be found the user is told and asked for
     // it; a user who cancels gets a fresh one in the Windows folder. Shows a message box and a
-    // dialog in that case: whatever events can change may have changed on return.
+    // dialog in that case: whatever events can change may have changed on return. The marker of
+    // absent values when the owner was unloaded meanwhile.
     std::string FindCommanderIni();
 
     // The log of the command line, else the one that the settings file names; as it is, or in the

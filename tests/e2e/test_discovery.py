@@ -9,6 +9,7 @@ from harness.wine import PROJECT, windows_path
 
 USER = r"HKEY_CURRENT_USER\Software\Ghisler\Total Commander"
 MACHINE = r"HKEY_LOCAL_MACHINE\Software\Ghisler\Total Commander"
+WM_CLOSE = 0x10
 NO_INI = "Cannot find Total Commander settings file [Wincmd.ini]"
 NO_LOG = "Cannot find Total Commander log file."
 
@@ -252,6 +253,21 @@ def test_whoever_declines_gets_a_fresh_settings_file_once(folder, windows_ini):
     assert not app.find_dialog()
     app.close()
     assert windows_ini.read_bytes() == written
+
+
+@pytest.mark.parametrize("question", ["message", "dialog"])
+def test_ending_the_program_behind_the_first_question_declines_nothing(folder, windows_ini,
+                                                                       question):
+    app = folder.start()
+    message = app.message(30)
+    if question == "dialog":
+        message.press("OK")
+        FileDialog.of(app)
+    app.main.ask("post", message=WM_CLOSE)
+    app.wait_for_end()
+    assert app.exit_code == 0
+    assert not windows_ini.exists()
+    assert "UserDefinedWincmd" not in common(folder)
 
 
 def test_a_redirected_section_names_the_log(folder):
