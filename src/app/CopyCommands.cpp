@@ -1,5 +1,6 @@
 #include "app/CopyCommands.h"
 
+#include "base/Attempt.h"
 #include "log/EntryRows.h"
 
 namespace ordalyn {
@@ -20,7 +21,11 @@ void CopyCommands::CopySource() {
 
 bool CopyCommands::HasTarget() const {
     const int row = source_.SelectedRow();
-    return row >= 0 && !entries_.EntryTargets().List(source_.Tag(row)).empty();
+    bool found = false;
+    // A failed read leaves rows whose entries are gone.
+    if (row >= 0)
+        Attempt([&] { found = !entries_.EntryTargets().List(source_.Tag(row)).empty(); });
+    return found;
 }
 
 void CopyCommands::CopyTarget() {
