@@ -48,7 +48,9 @@ void PanelColumns::Add(ListView& list, EntryRows::Field field,
     const std::string standard = Split(kDefaultWidths, ',')[place];
     const std::string& width = place < widths.size() ? widths[place] : standard;
     const auto twips = [](const std::string& text) {
-        return static_cast<toolkit::Twips>(LeadingNumber(text));
+        const double number = LeadingNumber(text);
+        static_cast<void>(RoundToLong(number));
+        return static_cast<toolkit::Twips>(number);
     };
     if (!Attempt([&] { list.AddColumn(Caption(field), twips(width), field); }))
         list.AddColumn(Caption(field), twips(standard), field);
@@ -72,7 +74,7 @@ void PanelColumns::LoadOrder() {
     for (int column = 0; column < source_.ColumnCount(); ++column) {
         Attempt([&] {
             const double place = LeadingNumber(order[static_cast<std::size_t>(column)]);
-            source_.SetColumnPosition(column, RoundToLong(place) - 1);
+            source_.SetColumnPosition(column, CheckedAdd(RoundToLong(place), -1));
         });
     }
 }
