@@ -35,8 +35,8 @@ class EntrySearch {
     //
     // With lngSelectedDate 1 the search ends with the selected day. It begins with that day's first
     // entry only after a search that has failed (or before any); otherwise with lngStartItem, even
-    // when another day has been chosen meanwhile. Throws SubscriptOutOfRange and TypeMismatch when
-    // the log has no days.
+    // when another day has been chosen meanwhile. A day that the log does not have (any more) holds
+    // nothing: kNotFound.
     std::int32_t FindString(std::string_view strString, std::int32_t lngStartItem,
                             std::int32_t lngColumnNo, std::int32_t lngWholeWord,
                             std::int32_t lngSelectedDate);
