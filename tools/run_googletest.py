@@ -14,6 +14,7 @@ import sys
 
 PROJECT = pathlib.Path(__file__).resolve().parents[1]
 SECONDS_FOR_ONE_PROGRAM = 300
+DESKTOPS = 2
 
 PASSED = re.compile(r"^\[       OK \] (\S+)", re.M)
 FAILED = re.compile(r"^\[  FAILED  \] (\S+?),? .*\(\d+ ms\)\r?$", re.M)
@@ -30,9 +31,19 @@ class Result:
         # failed in the test that it was in, or before its first.
         if code != 0 and self.failed == 0:
             self.failed = 1
-        # So has one that claims success without having run anything.
-        if code == 0 and self.passed == 0:
+
+    @classmethod
+    def together(cls, parts):
+        """The result of a program whose tests were run in parts."""
+        whole = cls(parts[0].program, "\n".join(part.output for part in parts), 0)
+        whole.failed = sum(part.failed for part in parts)
+        return whole.checked()
+
+    def checked(self):
+        # A program that claims success without having run anything has failed.
+        if self.passed == 0 and self.failed == 0:
             self.failed = 1
+        return self
 
     def show(self):
         print(f"{self.program}: {self.passed} passed, {self.failed} failed", flush=True)
@@ -58,11 +69,20 @@ def run(program, command, **options):
 def run_native(programs):
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         for result in pool.map(lambda p: run(p, [p, "--gtest_color=no"]), programs):
-            yield result
+            yield result.checked()
 
 
 def run_under_wine(programs):
+    """Each of two desktops runs every second test of a program: the tests mostly wait. On one
+    desktop they share the keyboard focus, the clipboard, the registry."""
     sys.path.insert(0, str(PROJECT / "tests" / "e2e"))
+    with concurrent.futures.ThreadPoolExecutor(DESKTOPS) as pool:
+        shares = [pool.submit(run_share, programs, number) for number in range(DESKTOPS)]
+        for parts in zip(*(share.result() for share in shares)):
+            yield Result.together(parts)
+
+
+def run_share(programs, number):
     from harness.display import Display
     from harness.wine import Wine
     display = Display()
@@ -70,10 +90,9 @@ def run_under_wine(programs):
         wine = Wine(display)
         try:
             wine.show_desktop()
-            for program in programs:
-                # One after the other: they share the keyboard focus, the clipboard, the registry.
-                yield run(program, ["wine", program, "--gtest_color=no"],
-                          env=wine.environment())
+            share = {"GTEST_TOTAL_SHARDS": str(DESKTOPS), "GTEST_SHARD_INDEX": str(number)}
+            return [run(program, ["wine", program, "--gtest_color=no"],
+                        env={**wine.environment(), **share}) for program in programs]
         finally:
             wine.close()
     finally:
