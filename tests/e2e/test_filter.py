@@ -351,6 +351,7 @@ def test_a_click_on_the_third_panel_of_the_status_bar_opens_the_dialog(app):
     app.click(*center(parts[2]))
     dialog = filter_dialog(app)
     assert dialog.focus_is_in(dialog.filter)
+    assert dialog.info["owner"] == app.main.handle
     # The main window stays usable beside it, and a second click gives the focus back.
     assert app.main.enabled
     app.main.source.click_row(1)

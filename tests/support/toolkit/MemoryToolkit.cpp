@@ -251,6 +251,7 @@ class MemoryListView : public Peer<ListViewPeer> {
         shown.rowCount = count;
         shown.selectedRow = -1;
         shown.visibleRow = -1;
+        shown.updatesInSight += shown.visible ? 1 : 0;
         ++shown.fills;
     }
     void UpdateRows(int count) override {

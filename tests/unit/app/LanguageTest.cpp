@@ -58,6 +58,23 @@ TEST_F(Language, IsAppliedToEverythingAtOnce) {
     EXPECT_EQ(Files().ListIndex(), 1);
 }
 
+TEST_F(Language, ReachesTheRecentFiles) {
+    Start();
+    Main().FilesDropped.Raise({"C:\\logs\\tc.log"});
+    SetLanguage("108=Keine Dateien\r\n109=Leeren\r\n3009=Wirklich?");
+    ChooseLanguage();
+    EXPECT_EQ(Main().Menu("mnuFileRecentFiles").Caption(), "&1 C:\\logs\\tc.log");
+    const auto& items = Main().Menu("mnuFileRecentGroup").Items();
+    EXPECT_EQ(items.back()->Caption(), "Leeren");
+    tools.onMessage = [](const test::ShownMessage& message) {
+        EXPECT_EQ(message.text, "Wirklich?");
+        return toolkit::Answer::Yes;
+    };
+    items.back()->Choose();
+    EXPECT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(Main().Menu("mnuFileRecentFiles").Caption(), "Keine Dateien");
+}
+
 TEST_F(Language, ASinglePanelsThirdColumnFollowsToo) {
     SetSettings("TwoPanels=0");
     Start();

@@ -176,6 +176,38 @@ TEST_F(MainWindow, AllFilesStandInTheTitleOnlyUntilTheFirstRowIsClicked) {
     EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
 }
 
+TEST_F(MainWindow, OpeningALogLeavesTheListOfFilesAsItIs) {
+    SetSettings("RecentFiles1=D:\\x.log");
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    SetLog("D:\\x.log", {"07.03.2024 10:00:00: Copy x -> y"});
+    Start();
+    SetLog("C:\\logs\\tc.2.log", {"01.01.2024 09:00:00: Copy m -> n"});
+    Main().Menu("mnuFileRecentFiles").Choose();
+    EXPECT_EQ(Files().ListCount(), 3);
+    system.dialogs.onOpenFile = [](const auto&) -> std::optional<std::string> {
+        return "D:\\x.log";
+    };
+    Choose("mnuFileOpen");
+    EXPECT_EQ(Files().ListCount(), 3);
+    Choose("mnuViewRefresh");
+    EXPECT_EQ(Files().ListCount(), 4);
+}
+
+TEST_F(MainWindow, DateAndTitleFollowTheRowsOfASinglePanel) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    SetSettings("TwoPanels=0\r\nLongDate=0");
+    Start();
+    Files().UserSelected(0);
+    Source().UserSelected(1);
+    EXPECT_EQ(Status().PanelText(2), "Friday, March 1, 2024  ");
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
+    Source().UserSelected(0);
+    EXPECT_EQ(Status().PanelText(2), "Monday, January 1, 2024  ");
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.1.log"));
+}
+
 TEST_F(MainWindow, ACancelledOpenChangesNothingButTheFileSelection) {
     SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
     SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
@@ -195,6 +227,17 @@ TEST_F(MainWindow, ARecentFileIsOpenedAgain) {
     EXPECT_EQ(Source().Text(0, 1), "Copy y ");
     EXPECT_EQ(Stored("RecentFiles1"), "D:\\y.log");
     EXPECT_EQ(Stored("RecentFiles2"), "D:\\x.log");
+}
+
+TEST_F(MainWindow, ARecentFilesPathIsExpandedWhenItIsChosen) {
+    system.environment.SetVariable("Dir", "odd");
+    SetLog("D:\\%Dir%\\x.log", {"07.03.2024 10:00:00: Copy literal -> y"});
+    SetLog("D:\\odd\\x.log", {"07.03.2024 10:00:00: Copy expanded -> y"});
+    Start();
+    Main().FilesDropped.Raise({"D:\\%Dir%\\x.log"});
+    ASSERT_EQ(Source().Text(0, 1), "Copy literal ");
+    Main().Menu("mnuFileRecentFiles").Choose();
+    EXPECT_EQ(Source().Text(0, 1), "Copy expanded ");
 }
 
 TEST_F(MainWindow, AMissingRecentFileIsReportedAndDropped) {
@@ -249,6 +292,9 @@ TEST_F(MainWindow, OldRowsThatHaveLostTheirEntriesCanBeWalkedThroughInPeace) {
     ASSERT_EQ(tools.messages.size(), 1U);
     Source().UserSelected(2400);
     EXPECT_EQ(tools.messages.size(), 1U);
+    tools.Press(Main(), 'C', kCtrlAlt);
+    EXPECT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(Clipboard(), "(empty)");
 }
 
 TEST_F(MainWindow, ShortcutsDoNothingWhileADialogIsModal) {
@@ -270,6 +316,22 @@ TEST_F(MainWindow, F1LooksForTheHelpFile) {
     system.files.Set("C:\\Ordalyn\\Readme.chm", "x");
     tools.Press(Main(), key::F1);
     EXPECT_EQ(system.shell.opened.size(), 1U);
+}
+
+TEST_F(MainWindow, F1OpensTheHelpInTheChosenLanguage) {
+    system.files.Set("C:\\Ordalyn\\Ordalyn.ini",
+                     "[Ordalyn]\r\nUseDefaultLanguage=0\r\n"
+                     "[Common]\r\nLanguageFile=D:\\x\\Deutsch.old.lng\r\n");
+    system.files.Set("D:\\x\\Deutsch.old.lng", "[UserLanguage]\r\n");
+    system.files.Set("C:\\Ordalyn\\Readme.chm", "x");
+    system.files.Set("C:\\Ordalyn\\Readme Deutsch.old.chm", "x");
+    Start();
+    tools.Press(Main(), key::F1);
+    program->Shared().settings->UseDefaultLanguage = 1;
+    tools.Press(Main(), key::F1);
+    ASSERT_EQ(system.shell.opened.size(), 2U);
+    EXPECT_EQ(system.shell.opened[0].second, "C:\\Ordalyn\\Readme Deutsch.old.chm");
+    EXPECT_EQ(system.shell.opened[1].second, "C:\\Ordalyn\\Readme.chm");
 }
 
 TEST_F(MainWindow, EveryMenuHasItsText) {

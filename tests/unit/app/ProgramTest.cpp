@@ -106,10 +106,11 @@ TEST_F(ProgramStart, RestoresPlacementColumnsAndPanels) {
     EXPECT_EQ(Source().Text(0, 2), "D:\\Ordner \xC3\xBC");
 }
 
-TEST_F(ProgramStart, AThirdColumnWithoutAPlaceStaysTheThird) {
-    SetSettings("ColumnHeadersPosition=2,1\r\nTwoPanels=0");
+TEST_F(ProgramStart, AThirdColumnWithoutAPlaceIsPutLast) {
+    SetSettings("ColumnHeadersPosition=3,1\r\nTwoPanels=0");
     Start();
     EXPECT_EQ(Source().ColumnPosition(0), 1);
+    EXPECT_EQ(Source().ColumnPosition(1), 0);
     EXPECT_EQ(Source().ColumnPosition(2), 2);
 }
 
@@ -120,6 +121,42 @@ TEST_F(ProgramStart, BadColumnSettingsStillGiveEveryColumn) {
     EXPECT_EQ(Source().ColumnWidth(1), 0);
     EXPECT_EQ(Target().ColumnWidth(0), 10890);
     EXPECT_EQ(Source().ColumnPosition(0), 0);
+}
+
+TEST_F(ProgramStart, ColumnSettingsThatNoColumnCanHaveAreNotTaken) {
+    SetSettings("ColumnsWidth=3e9,1e39,5\r\nColumnHeadersPosition=-2147483648,1,3");
+    Start();
+    EXPECT_EQ(Source().ColumnWidth(0), 884);
+    EXPECT_EQ(Source().ColumnWidth(1), 10019);
+    EXPECT_EQ(Target().ColumnWidth(0), 5);
+    EXPECT_THAT(SettingsAfterClose(), HasSubstr("ColumnsWidth=884,10019,5"));
+}
+
+// A user who ends the program from outside has not declined to name the file manager's settings.
+TEST_F(ProgramStart, EndingTheProgramBehindTheFirstQuestionMakesNoSettings) {
+    system.environment.RemoveVariable("Commander_INI");
+    tools.onMessage = [&](const test::ShownMessage&) {
+        Main().UserClosed();
+        return toolkit::Answer::Ok;
+    };
+    Start();
+    EXPECT_EQ(tools.messages.size(), 1U);
+    EXPECT_THAT(system.dialogs.openRequests, IsEmpty());
+    EXPECT_FALSE(system.files.Get("C:\\Windows\\wincmd.ini").has_value());
+    EXPECT_EQ(Stored("UserDefinedWincmd", "Common"), "(absent)");
+}
+
+TEST_F(ProgramStart, EndingTheProgramBehindTheFirstDialogMakesNoSettings) {
+    system.environment.RemoveVariable("Commander_INI");
+    system.dialogs.onOpenFile = [&](const auto&) -> std::optional<std::string> {
+        Main().UserClosed();
+        return std::nullopt;
+    };
+    Start();
+    EXPECT_EQ(tools.messages.size(), 1U);  // that the settings were not found
+    EXPECT_EQ(system.dialogs.openRequests.size(), 1U);
+    EXPECT_FALSE(system.files.Get("C:\\Windows\\wincmd.ini").has_value());
+    EXPECT_EQ(Stored("UserDefinedWincmd", "Common"), "(absent)");
 }
 
 TEST_F(ProgramStart, NeverStartsMinimised) {

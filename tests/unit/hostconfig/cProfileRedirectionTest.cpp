@@ -27,6 +27,14 @@ TEST_F(ProfileRedirection, WithoutEntriesEverythingStays) {
     EXPECT_THAT(Text(kWincmd), testing::HasSubstr("Back=new"));
 }
 
+TEST_F(ProfileRedirection, TheListOfExemptSectionsIsReadAndWrittenWithoutIt) {
+    system.files.Set(kOwnFile, "[Common]\r\nRedirectSection=other.ini\r\n");
+    Profile();
+    EXPECT_THAT(Text(kOwnFile),
+                testing::HasSubstr("TCSectionsNotRedirectedByDefault=Configuration;"));
+    EXPECT_EQ(Text("C:\\Ordalyn\\other.ini"), "(no file)");
+}
+
 TEST_F(ProfileRedirection, AnAlternateFileTakesTheSectionsThatAreNotExempt) {
     Wincmd("[Configuration]\r\nAlternateUserIni=D:\\users\\anna.ini\r\n[Colors]\r\nBack=main\r\n");
     system.files.Set(kAlternate, "[Colors]\r\nBack=alternate\r\n");

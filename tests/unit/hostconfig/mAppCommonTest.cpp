@@ -221,6 +221,27 @@ TEST_F(PathHelpers, AFailureToLookIsAnswerNo) {
     EXPECT_FALSE(mAppCommon(services).FileExists("C:\\Logs\\tc.log"));
 }
 
+// An environment that cannot expand anything.
+class BrokenEnvironment : public test::MemoryEnvironment {
+  public:
+    std::string Expand(std::string_view text) override { throw FileError(std::string(text), 8); }
+};
+
+TEST_F(PathHelpers, WhatCannotBeExpandedStaysAsWritten) {
+    BrokenEnvironment broken;
+    platform::Services services = {system.ansiProfile,
+                                   system.unicodeProfile,
+                                   system.codePages,
+                                   system.files,
+                                   broken,
+                                   system.locale,
+                                   system.shell,
+                                   system.clipboard,
+                                   system.registry,
+                                   system.dialogs};
+    EXPECT_EQ(mAppCommon(services).ExpandPath("%TEMP%\\x.log"), "%TEMP%\\x.log");
+}
+
 TEST(AddBackslash, AnEmptyTextBecomesABackslash) {
     EXPECT_EQ(mAppCommon::AddBackslash(""), "\\");
 }

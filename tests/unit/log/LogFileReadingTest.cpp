@@ -18,6 +18,7 @@ TEST_F(LogFileReadingTest, ReadsShowsAndFinishesInOrder) {
     Load({kLine, "", "02.03.2024 10:00:00: Delete x"});
     EXPECT_THAT(titles, ElementsAre(kLog));
     EXPECT_THAT(progress.steps, ElementsAre("compact", "show Reading... Please wait. 4", "hide"));
+    EXPECT_EQ(progress.lastValue, 4);  // it starts at 1 and grows with each line
     EXPECT_EQ(reader.CurrentLogFile(), kLog);
     EXPECT_EQ(entries.EntrySources().List(0), "10:15:30: Copy C:\\a.txt ");
     EXPECT_THAT(Dates(), ElementsAre("All dates", "01.03.2024", "02.03.2024"));
@@ -92,7 +93,8 @@ TEST_F(LogFileReadingTest, TheProgressWindowIsGoneBeforeTheMessageShows) {
 
 TEST_F(LogFileReadingTest, AnEmptyFileIsAnErrorAtLine0) {
     system.files.Set(kLog, "");
-    reading.ReadLogFile(false, kLog, false, true);
+    reading.ReadLogFile(false, kLog, true, true);
+    EXPECT_THAT(remembered, ElementsAre(kLog));  // it was read; only its lists cannot be trimmed
     ASSERT_EQ(tools.messages.size(), 1U);
     EXPECT_EQ(tools.messages[0].text, "There is an error in file\r\nC:\\logs\\x.log\r\nLine: 0");
     EXPECT_EQ(reader.LineCount(), 1);
@@ -195,9 +197,15 @@ TEST_F(LogFileReadingTest, RefreshHasNoCommentRule) {
 TEST_F(LogFileReadingTest, ARefreshThatFailsNamesTheOldLineCount) {
     Load({kLine, kLine});
     system.files.Append(kLog, std::string(kLine) + "\r\ngarbage\r\n");
+    toolkit::Pointer during = toolkit::Pointer::Hourglass;
+    tools.onMessage = [&](const test::ShownMessage&) {
+        during = tools.pointer;
+        return toolkit::Answer::Ok;
+    };
     reading.ReadAppendedLines(kLog);
     ASSERT_EQ(tools.messages.size(), 1U);
     EXPECT_EQ(tools.messages[0].text, "There is an error in file\r\nC:\\logs\\x.log\r\nLine: 3");
+    EXPECT_EQ(during, toolkit::Pointer::Default);
     EXPECT_EQ(tools.pointer, toolkit::Pointer::Default);
 }
 

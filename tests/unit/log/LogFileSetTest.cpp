@@ -117,6 +117,10 @@ TEST_F(LogFileSetTest, AllFilesReadsTheSiblingsInOrderAndTheLiveLogLast) {
     EXPECT_EQ(reader.CurrentLogFile(), kLog);
     EXPECT_EQ(reader.LineCount(), 2);
     EXPECT_TRUE(form.Enabled());
+    for (const cStringArray* list :
+         {&entries.EntryDates(), &entries.EntrySources(), &entries.EntryTargets()})
+        EXPECT_THROW(list->List(4), SubscriptOutOfRange);  // trimmed, unlike the files
+    EXPECT_EQ(entries.EntryFiles().List(4), "");
 }
 
 TEST_F(LogFileSetTest, NothingOfTheMainWindowCanBeUsedWhileAllFilesAreRead) {
@@ -175,6 +179,23 @@ TEST_F(LogFileSetTest, AStoppedReadShowsTheLiveLogAloneAndLeavesRefreshDisabled)
     progress.steps.clear();
     cboFiles.UserSelected(1);
     EXPECT_THAT(progress.steps, IsEmpty());
+    // The next read of all files is not asked about before somebody stops that one, too.
+    tools.onDoEvents = nullptr;
+    tools.messages.clear();
+    cboFiles.UserSelected(0);
+    EXPECT_THAT(tools.messages, IsEmpty());
+    EXPECT_FALSE(reading.CancelReading);
+    EXPECT_EQ(entries.EntryDates().ListCount(), 3);
+}
+
+TEST_F(LogFileSetTest, NothingButEmptyFilesIsNoError) {
+    for (const char* name : {"x", "x_old", "xa"})
+        system.files.Set("C:\\logs\\" + std::string(name) + ".log", "");
+    files.BuildLogFileList();
+    cboFiles.UserSelected(0);
+    EXPECT_THAT(tools.messages, IsEmpty());
+    EXPECT_FALSE(progress.visible);
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
 }
 
 TEST_F(LogFileSetTest, ABadSiblingIsReportedAndTheOthersAreStillRead) {

@@ -320,6 +320,17 @@ TEST_F(RecentFiles, AnEmptyValueIsAnEntryWithAnEmptyPath) {
     EXPECT_THAT(VisibleFiles(), testing::ElementsAre("&1 ", "&2 b"));
     EXPECT_EQ(recent.ListItems(1), "");
     EXPECT_TRUE(Item(1).Enabled());
+    Save();
+    EXPECT_THAT(system.files.Get(kOwnFile).value_or(""), testing::HasSubstr("RecentFiles1=\r\n"));
+}
+
+TEST_F(RecentFiles, AnAbsentEntryLeavesAGap) {
+    Put("Ordalyn", "RecentFiles2", "b");
+    Read();
+    EXPECT_EQ(recent.ListItems(1), common.NoValueMarker());
+    EXPECT_EQ(recent.ListItems(2), "b");
+    EXPECT_THAT(VisibleFiles(), testing::ElementsAre("No Recent Files", "&2 b"));
+    EXPECT_FALSE(ClearItem().Enabled());
 }
 
 TEST_F(RecentFiles, EntriesAreNotCheckedWhenRead) {

@@ -181,6 +181,7 @@ TEST_F(Layout, HidingTheStatusBarEnlargesThePanelsAtOnce) {
     EXPECT_EQ(settings.StatusBarVisible, 0);
     EXPECT_EQ(container.Height(), before + StatusBar1.Height());
     layout.ToggleStatusBar();
+    EXPECT_TRUE(mnuViewStatusBar.Checked());
     EXPECT_EQ(settings.StatusBarVisible, 1);
     EXPECT_EQ(container.Height(), before);
 }
@@ -239,6 +240,8 @@ TEST_F(Layout, GoingToOnePanelAndBackKeepsOrientationBarAndWidth) {
 
     MemoryToolkit::DragColumn(source, 2, 2222);
     layout.ToggleTwoPanels();
+    EXPECT_TRUE(mnuViewTwoPanels.Checked());
+    EXPECT_TRUE(mnuViewVerticalPanels.Enabled());
     EXPECT_EQ(settings.TwoPanels, 1);
     EXPECT_EQ(settings.VerticalPanels, 0);
     EXPECT_EQ(source.ColumnCount(), 2);

@@ -269,9 +269,13 @@ TEST_F(Splitter, VisibleHidesTheContainerOnly) {
 TEST_F(Splitter, AnotherCreateShowsEverythingAgain) {
     Create(1, 2000);
     splitter.SetLeftPanelVisible(false);
+    splitter.SetRightPanelVisible(false);
     Create(2, 2000);
     EXPECT_TRUE(splitter.LeftPanelVisible());
+    EXPECT_TRUE(splitter.RightPanelVisible());
     EXPECT_TRUE(one.Visible());
+    EXPECT_TRUE(two.Visible());
+    EXPECT_EQ(two.Top(), 2045);
     EXPECT_TRUE(bar.Visible());
     // Still one reaction per resize.
     int raised = 0;
