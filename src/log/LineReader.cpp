@@ -23,49 +23,11 @@ LineReader::LineReader(std::unique_ptr<platform::ReadableFile> file, platform::C
                        TextStore* store)
     : bytes_(std::move(file)), codePages_(codePages), store_(store) {}
 
-std::optional<std::string_view> LineReader::Next() {
-    const char* begin = nullptr;
-    const char* end = nullptr;
-    bool ascii = true;
-    if (!NextRaw(begin, end, ascii))
-        return std::nullopt;
-    const std::string_view line(begin, static_cast<std::size_t>(end - begin));
-    return ascii ? line : Decode(line);
-}
-
 bool LineReader::Skip() {
     const char* begin = nullptr;
     const char* end = nullptr;
     bool ascii = true;
     return NextRaw(begin, end, ascii);
-}
-
-// The bytes of the next line, and whether they are all below 128.
-inline bool LineReader::NextRaw(const char*& begin, const char*& end, bool& ascii) {
-    std::size_t looked = 0;  // bytes of this line that hold no end
-    for (;;) {
-        const char* stop = buffer_ + end_;
-        const bytescan::LineEnd found = bytescan::FindLineEnd(buffer_ + begin_ + looked, stop);
-        ascii = ascii && found.ascii;
-        if (found.at != stop) {
-            begin = buffer_ + begin_;
-            end = found.at;
-            begin_ = static_cast<std::size_t>(found.at - buffer_) + 1;
-            if (*found.at == '\r') {
-                if (begin_ == end_)
-                    ignoreLineFeed_ = true;
-                else if (buffer_[begin_] == '\n')
-                    ++begin_;
-            }
-            return true;
-        }
-        looked = end_ - begin_;
-        if (!Fill()) {
-            begin = buffer_ + std::exchange(begin_, end_);
-            end = buffer_ + end_;
-            return looked > 0;
-        }
-    }
 }
 
 // Reads more behind what is left of the buffer. Answers false at the end of the file.

@@ -13,8 +13,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "app/lists/TextStore.h"
+#include "log/ByteScan.h"
 #include "log/LogBytes.h"
 #include "platform/Platform.h"
 
@@ -50,6 +52,46 @@ class LineReader {
     bool ignoreLineFeed_ = false;  // the last line ended with a CR that was the last byte read
     std::string decoded_;
 };
+
+// The two that every line goes through are here, so that a loop over a log calls nothing else.
+
+// The bytes of the next line, and whether they are all below 128.
+inline bool LineReader::NextRaw(const char*& begin, const char*& end, bool& ascii) {
+    std::size_t looked = 0;  // bytes of this line that hold no end
+    for (;;) {
+        const char* stop = buffer_ + end_;
+        const bytescan::LineEnd found = bytescan::FindLineEnd(buffer_ + begin_ + looked, stop);
+        ascii = ascii && found.ascii;
+        if (found.at != stop) {
+            begin = buffer_ + begin_;
+            end = found.at;
+            begin_ = static_cast<std::size_t>(found.at - buffer_) + 1;
+            if (*found.at == '\r') {
+                if (begin_ == end_)
+                    ignoreLineFeed_ = true;
+                else if (buffer_[begin_] == '\n')
+                    ++begin_;
+            }
+            return true;
+        }
+        looked = end_ - begin_;
+        if (!Fill()) {
+            begin = buffer_ + std::exchange(begin_, end_);
+            end = buffer_ + end_;
+            return looked > 0;
+        }
+    }
+}
+
+inline std::optional<std::string_view> LineReader::Next() {
+    const char* begin = nullptr;
+    const char* end = nullptr;
+    bool ascii = true;
+    if (!NextRaw(begin, end, ascii))
+        return std::nullopt;
+    const std::string_view line(begin, static_cast<std::size_t>(end - begin));
+    return ascii ? line : Decode(line);
+}
 
 // Reads a file to its end and answers the number of its lines PLUS ONE, for a progress bar whose
 // value starts at 1 and grows by one with each line. Throws FileError, and Overflow for more lines
