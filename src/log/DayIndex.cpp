@@ -7,12 +7,12 @@ namespace ordalyn {
 
 namespace {
 
-constexpr std::int32_t kDaysOfAYear = 365;
+constexpr std::int32_t kDayGrowthStep = 365;
 
 }  // namespace
 
 DayIndex::DayIndex() {
-    starts_.InitialCount(kDaysOfAYear);
+    starts_.InitialCount(kDayGrowthStep);
 }
 
 std::vector<std::string> DayIndex::Build(const cStringArray& dates) {

@@ -4,13 +4,13 @@ namespace ordalyn {
 
 namespace {
 
-constexpr std::int32_t kEntriesAtFirst = 2000;
+constexpr std::int32_t kEntryGrowthStep = 2000;
 
 }  // namespace
 
 EntryLists::EntryLists() {
     for (cStringArray* list : {&files_, &dates_, &sources_, &targets_})
-        list->InitialCount(kEntriesAtFirst);
+        list->InitialCount(kEntryGrowthStep);
 }
 
 void EntryLists::SetFile(std::string_view name) {
