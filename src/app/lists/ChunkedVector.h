@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace ordalyn {
@@ -16,11 +17,10 @@ class ChunkedVector {
     std::size_t Size() const { return size_; }
 
     void Append(const Value& value) {
-        const std::size_t place = size_ & kMask;
-        if (place != 0 && open_ != nullptr)
-            open_[place] = value;
-        else
-            AppendToEqual(value, place);
+        if (next_ != blockEnd_)
+            *next_++ = value;
+        else if ((size_ & kMask) == 0 || !(value == equal_))
+            AppendUnequal(value);
         ++size_;
     }
 
@@ -39,20 +39,28 @@ class ChunkedVector {
         Value all;
     };
 
-    void AppendToEqual(const Value& value, std::size_t place) {
+    // Begins a block, or gives a block of equal values memory for each of them.
+    void AppendUnequal(const Value& value) {
+        const std::size_t place = size_ & kMask;
         if (place == 0) {
             blocks_.push_back({nullptr, value});
-            open_ = nullptr;
-        } else if (Block& block = blocks_.back(); !(block.all == value)) {
-            block.values = std::make_unique_for_overwrite<Value[]>(kBlockSize);
-            open_ = block.values.get();
-            std::fill_n(open_, place, block.all);
-            open_[place] = value;
+            equal_ = value;
+            return;
         }
+        std::unique_ptr<Value[]> values = std::make_unique_for_overwrite<Value[]>(kBlockSize);
+        std::fill_n(values.get(), place, equal_);
+        values[place] = value;
+        next_ = values.get() + place + 1;
+        blockEnd_ = values.get() + kBlockSize;
+        blocks_.back().values = std::move(values);
     }
 
     std::vector<Block> blocks_;
-    Value* open_ = nullptr;  // the last block's values, when they differ
+    // In the last block: where the next of its values goes, unless they are all equal or it is
+    // full.
+    Value* next_ = nullptr;
+    Value* blockEnd_ = nullptr;
+    Value equal_{};  // the first of the last block's values
     std::size_t size_ = 0;
 };
 

@@ -2,10 +2,12 @@
 
 namespace ordalyn {
 
-void ListBounds::GrowStorage() {
+std::int32_t ListBounds::GrowStorage() {
+    last_ = CheckedAdd(last_, 1);
     upper_ = CheckedAdd(upper_, step_);
     if (last_ > upper_)
         throw SubscriptOutOfRange();
+    return last_;
 }
 
 void ListBounds::Trim() {

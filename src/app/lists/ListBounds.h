@@ -21,12 +21,7 @@ class ListBounds {
     // the upper index cannot grow. The storage grows by one step only: after such a failure the
     // last index stays ahead of the storage and SubscriptOutOfRange follows as long as a step does
     // not reach it.
-    std::int32_t Grow() {
-        last_ = CheckedAdd(last_, 1);
-        if (last_ > upper_)
-            GrowStorage();
-        return last_;
-    }
+    std::int32_t Grow() { return last_ < upper_ ? ++last_ : GrowStorage(); }
     // Cuts the storage to the items. Throws SubscriptOutOfRange when there are none: a list is
     // never without any slot.
     void Trim();
@@ -40,7 +35,7 @@ class ListBounds {
     }
 
   private:
-    void GrowStorage();
+    std::int32_t GrowStorage();
     std::int32_t step_ = 1;
     std::int32_t upper_ = 1;
     std::int32_t last_ = -1;

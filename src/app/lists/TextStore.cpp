@@ -5,8 +5,6 @@
 namespace ordalyn {
 
 TextPosition TextStore::AddSlowly(std::string_view text) {
-    if (text.empty())
-        return {};
     if (text.size() > kOwnBlockLength)
         return AddOwnBlock(text);
     const std::uint64_t number = blocks_.size();

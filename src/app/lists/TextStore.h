@@ -30,11 +30,13 @@ class TextStore {
     // Copies the text into the store, unless it lies in the memory that was lent last: then it is
     // stored already.
     TextPosition Add(std::string_view text) {
+        if (text.empty())
+            return {};
         // One comparison for both ends: an address before the loan becomes a huge number.
         const auto place = reinterpret_cast<std::uintptr_t>(text.data()) - loan_;
-        if (place < loanSize_ && !text.empty() && text.size() < kLengthMask)
+        if (place < loanSize_ && text.size() < kLengthMask)
             return {((loanAddress_ + place) << kLengthBits) | text.size()};
-        if (text.size() > free_ || text.empty())
+        if (text.size() > free_)
             return AddSlowly(text);
         std::memcpy(next_, text.data(), text.size());
         const TextPosition position{(address_ << kLengthBits) | text.size()};
