@@ -16,28 +16,54 @@ namespace {
 constexpr std::size_t kBlock = TextStore::kLeastLoan;
 // A buffer with less room than this is not worth another call.
 constexpr std::size_t kLeastRoom = 4096;
+// Line ends are looked for in that many bytes at once. More would be gone from the processor's
+// nearest caches when their lines are taken apart.
+constexpr std::size_t kSearchedAtOnce = std::size_t{32} * 1024;
 
 }  // namespace
 
 LineReader::LineReader(std::unique_ptr<platform::ReadableFile> file, platform::CodePages& codePages,
                        TextStore* store)
-    : bytes_(std::move(file)), codePages_(codePages), store_(store) {}
+    : bytes_(std::move(file)),
+      codePages_(codePages),
+      store_(store),
+      ends_(std::make_unique_for_overwrite<std::uint32_t[]>(kSearchedAtOnce)) {}
 
 bool LineReader::Skip() {
     const char* begin = nullptr;
     const char* end = nullptr;
-    bool ascii = true;
-    return NextRaw(begin, end, ascii);
+    return NextRaw(begin, end);
+}
+
+// Finds the ends of the next lines, and whether these are UTF-8. Answers false when the file holds
+// no further end.
+bool LineReader::FindEnds() {
+    nextEnd_ = 0;
+    endCount_ = 0;
+    while (endCount_ == 0) {
+        endsFrom_ = std::max(searched_, begin_);
+        if (endsFrom_ == end_) {
+            if (!Fill())
+                return false;
+            continue;
+        }
+        searched_ = std::min(end_, endsFrom_ + kSearchedAtOnce);
+        endCount_ = bytescan::FindLineEnds(buffer_ + endsFrom_, buffer_ + searched_, ends_.get());
+    }
+    utf8_ = bytescan::IsUtf8(buffer_ + begin_, buffer_ + endsFrom_ + ends_[endCount_ - 1]);
+    return true;
 }
 
 // Reads more behind what is left of the buffer. Answers false at the end of the file.
 bool LineReader::Fill() {
+    const bool afterCr = end_ != 0 && buffer_[end_ - 1] == '\r';
     if (capacity_ - end_ < kLeastRoom)
         MakeRoom();
     const std::size_t count = bytes_.Read(buffer_ + end_, capacity_ - end_);
     if (count == 0)
         return false;
-    if (std::exchange(ignoreLineFeed_, false) && buffer_[end_] == '\n')
+    // The other half of a line end that was the last of the bytes before.
+    if (afterCr && buffer_[end_] == '\n')
         ++begin_;
     end_ += count;
     return true;
@@ -61,6 +87,7 @@ void LineReader::MakeRoom() {
         ownBuffer_ = std::move(own);
     }
     begin_ = 0;
+    searched_ = left;
     end_ = left;
 }
 
@@ -69,9 +96,10 @@ std::string_view LineReader::Decode(std::string_view line) {
         line.remove_prefix(kUtf8Mark.size());
     if (bytescan::IsUtf8(line.data(), line.data() + line.size()))
         return line;
-    decoded_ =
+    const std::string text =
         bytes_.Marked() ? ToValidUtf8(line) : codePages_.ToUtf8(line, platform::CodePages::kSystem);
-    return decoded_;
+    decoded_.assign(text).append(bytescan::kSlack, '\0');
+    return std::string_view(decoded_).substr(0, text.size());
 }
 
 std::int32_t CountFileLines(platform::Files& files, std::string_view path) {

@@ -13,10 +13,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "app/lists/TextStore.h"
-#include "log/ByteScan.h"
+#include "base/Text.h"
 #include "log/LogBytes.h"
 #include "platform/Platform.h"
 
@@ -29,14 +28,15 @@ class LineReader {
     LineReader(std::unique_ptr<platform::ReadableFile> file, platform::CodePages& codePages,
                TextStore* store = nullptr);
 
-    // The next line without its end; nothing at the end of the file. Valid until the next call.
-    // Throws FileError.
+    // The next line without its end; nothing at the end of the file. Valid until the next call, and
+    // so are bytescan::kSlack bytes behind it. Throws FileError.
     std::optional<std::string_view> Next();
     // Passes over a line; false at the end of the file.
     bool Skip();
 
   private:
-    bool NextRaw(const char*& begin, const char*& end, bool& ascii);
+    bool NextRaw(const char*& begin, const char*& end);
+    bool FindEnds();
     bool Fill();
     void MakeRoom();
     std::string_view Decode(std::string_view line);
@@ -46,51 +46,52 @@ class LineReader {
     TextStore* store_;
     std::unique_ptr<char[]> ownBuffer_;
     char* buffer_ = nullptr;
-    std::size_t capacity_ = 0;     // less the slack that searching may look at
-    std::size_t begin_ = 0;        // of the next line
-    std::size_t end_ = 0;          // of what has been read
-    bool ignoreLineFeed_ = false;  // the last line ended with a CR that was the last byte read
+    std::size_t capacity_ = 0;  // less the slack behind a line
+    std::size_t begin_ = 0;     // of the next line
+    std::size_t searched_ = 0;  // where the search for line ends has come to
+    std::size_t end_ = 0;       // of what has been read
+    // The CRs and LFs found by one search, as distances from `endsFrom_`; those from `nextEnd_` on
+    // are ahead.
+    std::unique_ptr<std::uint32_t[]> ends_;
+    std::size_t endsFrom_ = 0;
+    std::size_t nextEnd_ = 0;
+    std::size_t endCount_ = 0;
+    bool utf8_ = false;  // whether the lines up to the last of these are all UTF-8
     std::string decoded_;
 };
 
 // The two that every line goes through are here, so that a loop over a log calls nothing else.
 
-// The bytes of the next line, and whether they are all below 128.
-inline bool LineReader::NextRaw(const char*& begin, const char*& end, bool& ascii) {
-    std::size_t looked = 0;  // bytes of this line that hold no end
-    for (;;) {
-        const char* stop = buffer_ + end_;
-        const bytescan::LineEnd found = bytescan::FindLineEnd(buffer_ + begin_ + looked, stop);
-        ascii = ascii && found.ascii;
-        if (found.at != stop) {
-            begin = buffer_ + begin_;
-            end = found.at;
-            begin_ = static_cast<std::size_t>(found.at - buffer_) + 1;
-            if (*found.at == '\r') {
-                if (begin_ == end_)
-                    ignoreLineFeed_ = true;
-                else if (buffer_[begin_] == '\n')
-                    ++begin_;
-            }
-            return true;
-        }
-        looked = end_ - begin_;
-        if (!Fill()) {
-            begin = buffer_ + std::exchange(begin_, end_);
-            end = buffer_ + end_;
-            return looked > 0;
-        }
+// The bytes of the next line.
+inline bool LineReader::NextRaw(const char*& begin, const char*& end) {
+    if (nextEnd_ == endCount_ && !FindEnds()) {
+        // What is left is a line without an end.
+        begin = buffer_ + begin_;
+        end = buffer_ + end_;
+        begin_ = end_;
+        utf8_ = false;
+        return begin != end;
     }
+    const std::size_t at = endsFrom_ + ends_[nextEnd_++];
+    begin = buffer_ + begin_;
+    end = buffer_ + at;
+    begin_ = at + 1;
+    if (*end == '\r' && begin_ != end_ && buffer_[begin_] == '\n') {
+        ++begin_;
+        if (nextEnd_ != endCount_)  // the search has come as far as the LF
+            ++nextEnd_;
+    }
+    return true;
 }
 
 inline std::optional<std::string_view> LineReader::Next() {
     const char* begin = nullptr;
     const char* end = nullptr;
-    bool ascii = true;
-    if (!NextRaw(begin, end, ascii))
+    if (!NextRaw(begin, end))
         return std::nullopt;
     const std::string_view line(begin, static_cast<std::size_t>(end - begin));
-    return ascii ? line : Decode(line);
+    const bool maybeMarked = begin != end && *begin == kUtf8Mark.front();
+    return utf8_ && !maybeMarked ? line : Decode(line);
 }
 
 // Reads a file to its end and answers the number of its lines PLUS ONE, for a progress bar whose

@@ -30,7 +30,8 @@ std::string CommentSource(std::string_view line);
 // Splits an operation line, trimmed of blanks: the date is what stands before the first blank, and
 // the rest is cut at its first "->" into source and target. The character behind the arrow is
 // dropped, whatever it is; the blank before the arrow stays with the source. Throws MalformedText
-// when the line has no blank.
+// when the line has no blank. bytescan::kSlack bytes behind the line must be there to be looked at,
+// as they are behind what LineReader answers.
 inline LogLine SplitOperationLine(std::string_view line) {
     const char* end = line.data() + line.size();
     const auto between = [](const char* from, const char* to) {

@@ -21,15 +21,6 @@ std::string_view Trim(std::string_view line) {
     return blanks ? TrimBlanks(line) : line;
 }
 
-void AddLine(EntryLists& entries, std::string_view line) {
-    if (IsCommentLine(line)) {
-        const std::string source = CommentSource(line);
-        entries.Add({{}, source, {}});
-    } else {
-        entries.Add(SplitOperationLine(line));
-    }
-}
-
 }  // namespace
 
 void LogReader::BeginFile(std::string_view path) {
@@ -42,20 +33,29 @@ void LogReader::ReadEntries(const Progress& progress) {
     lineNumber_ = 0;
     entries_.SetFile(GetFileName(currentLogFile_));
     const std::int32_t step = std::max(lineCount_ / kProgressSteps, 1);
-    std::int32_t nextProgress = 1 + step;
+    // The line at which there is more to do than to read it: the bar moves, or has come to its end.
+    std::int32_t nextStop = step;
     LineReader lines(files_.OpenForReading(currentLogFile_), codePages_, &entries_.Texts());
+    std::string comment;
     while (const std::optional<std::string_view> line = lines.Next()) {
-        lineNumber_ = CheckedAdd(lineNumber_, 1);
-        const std::int32_t value = CheckedAdd(lineNumber_, 1);
-        if (value > lineCount_)
-            throw InvalidPropertyValue("progress " + std::to_string(value));
-        if (progress && value >= nextProgress) {
-            nextProgress = CheckedAdd(value, step);
-            progress(value);
+        if (++lineNumber_ >= nextStop) [[unlikely]] {
+            if (lineNumber_ >= lineCount_)
+                throw InvalidPropertyValue("progress beyond " + std::to_string(lineCount_));
+            nextStop = lineNumber_ + std::min(step, lineCount_ - lineNumber_);
+            if (progress)
+                progress(lineNumber_ + 1);
         }
         const std::string_view trimmed = Trim(*line);
-        if (!trimmed.empty())
-            AddLine(entries_, trimmed);
+        if (trimmed.empty())
+            continue;
+        LogLine fields;
+        if (IsCommentLine(trimmed)) {
+            comment = CommentSource(trimmed);
+            fields = {{}, comment, {}};
+        } else {
+            fields = SplitOperationLine(trimmed);
+        }
+        entries_.Add(fields);
     }
 }
 

@@ -241,7 +241,7 @@ TEST_F(Search, OfAnEmptyLogFindsNothing) {
 TEST_F(Search, WithinADateOfAReadThatFailedFindsNothing) {
     ShowDay(2);
     entries.Clear();
-    entries.Add(SplitOperationLine("01.03.2024 10:15:30: Copy C:\\a.txt -> D:\\a.txt"));
+    AddLine(entries, "01.03.2024 10:15:30: Copy C:\\a.txt -> D:\\a.txt");
     EXPECT_EQ(Find("copy", 0, 0, 0, 1), -1);
     entries.Clear();
     EXPECT_EQ(Find("copy", 0, 0, 0, 1), -1);
@@ -270,7 +270,7 @@ TEST_F(Search, ARowStaysFoundWhenItsReactionFails) {
 
 TEST_F(Search, AnEntryBehindTheLastDayHasNoRow) {
     ShowDay(3);
-    entries.Add(SplitOperationLine("04.03.2024 12:00:01: Pack C:\\f.txt"));  // not in the index yet
+    AddLine(entries, "04.03.2024 12:00:01: Pack C:\\f.txt");  // not in the index yet
     EXPECT_EQ(Find("Pack"), -1);
 }
 
@@ -284,8 +284,8 @@ TEST_F(Search, AnEntryThatTheFillHasNotGotToCountsAsFound) {
 TEST_F(Search, CommentsBeforeTheFirstDateBelongToTheFirstDay) {
     entries.Clear();
     entries.Add({"", "; copied by hand", ""});
-    entries.Add(SplitOperationLine("01.03.2024 10:00:00: Move a -> b"));
-    entries.Add(SplitOperationLine("02.03.2024 10:00:00: Move a -> b"));
+    AddLine(entries, "01.03.2024 10:00:00: Move a -> b");
+    AddLine(entries, "02.03.2024 10:00:00: Move a -> b");
     panels.BuildDateList(true);
     EXPECT_EQ(Find("by hand"), 1);
     EXPECT_EQ(cboDate.ListIndex(), 1);

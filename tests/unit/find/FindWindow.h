@@ -18,6 +18,7 @@
 #include "settings/InterfaceStrings.h"
 #include "settings/cDefaultStrings.h"
 #include "settings/mAppSpecific.h"
+#include "support/log/PaddedLine.h"
 #include "support/platform/MemoryPlatform.h"
 #include "support/toolkit/MemoryToolkit.h"
 
@@ -33,6 +34,11 @@ struct InstalledPlatform : MemoryPlatform {
         files.Set(kCommanderIni, "[Configuration]\r\n");
     }
 };
+
+// Adds the entry of an operation line.
+inline void AddLine(EntryLists& entries, std::string_view line) {
+    entries.Add(SplitOperationLine(PaddedLine(line)));
+}
 
 // The settings of a program over a system in memory.
 class FindFixture : public testing::Test {
@@ -117,7 +123,7 @@ class FindWindow : public FindFixture {
     void Load(const std::vector<std::string>& lines) {
         entries.Clear();
         for (const std::string& line : lines)
-            entries.Add(SplitOperationLine(line));
+            AddLine(entries, line);
         panels.BuildDateList(true);
     }
     void ShowDay(int item) { cboDate.UserSelected(item); }

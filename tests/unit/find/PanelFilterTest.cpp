@@ -232,7 +232,7 @@ TEST_F(Filtering, AnErrorLeavesThePanelsVisible) {
 TEST_F(Filtering, CommentsAreEntriesLikeOthers) {
     entries.Clear();
     entries.Add({"", "; copied by hand", ""});
-    entries.Add(SplitOperationLine("01.03.2024 10:00:00: Move a -> b"));
+    AddLine(entries, "01.03.2024 10:00:00: Move a -> b");
     panels.BuildDateList(true);
     Filter("COPIED");
     EXPECT_THAT(Rows(), ElementsAre(0));

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "base/Text.h"
+#include "log/ByteScan.h"
 #include "support/log/SimpleLines.h"
 #include "unit/log/ScriptedFiles.h"
 
@@ -179,6 +180,40 @@ TEST(LineReader, LinesAtTheEndsOfBlocksAreWhole) {
             ASSERT_EQ(lines[1], "\xC3\xA4");
             ASSERT_EQ(lines[2], "z");
         }
+    }
+}
+
+TEST(LineReader, LineEndsAtTheEndOfASearchAreWhole) {
+    // One line end moves over every place at which the search for line ends may pause.
+    for (std::size_t pause = 1024; pause <= 65536; pause *= 2) {
+        for (std::size_t before = pause - 3; before <= pause + 1; ++before) {
+            const std::string first(before, 'x');
+            const std::vector<std::string> lines =
+                ReadAll(Join({first, "", "\xC3\xA4", "z"}, "\r\n"), 1'000'000'000);
+            ASSERT_EQ(lines.size(), 4U);
+            ASSERT_TRUE(lines[0] == first);
+            ASSERT_EQ(lines[1], "");
+            ASSERT_EQ(lines[2], "\xC3\xA4");
+            ASSERT_EQ(lines[3], "z");
+        }
+    }
+}
+
+TEST(LineReader, ManyLineEndsInARowAreAllSeen) {
+    const std::vector<std::string> lines = ReadAll(std::string(100'000, '\n'), 1'000'000'000);
+    EXPECT_EQ(lines.size(), 100'000U);
+}
+
+TEST(LineReader, TheSlackBehindADecodedLineIsThere) {
+    const std::string text(100, '\xE4');
+    for (const std::string& bytes : {text + "\n", text, kMark + text}) {
+        ScriptedFiles files;
+        Latin1CodePages codePages;
+        files.Put("x.log", bytes);
+        LineReader reader(files.OpenForReading("x.log"), codePages);
+        const std::string_view line = *reader.Next();
+        const std::string slack(line.data() + line.size(), bytescan::kSlack);
+        EXPECT_EQ(slack.size(), bytescan::kSlack);
     }
 }
 

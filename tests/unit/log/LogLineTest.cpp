@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Errors.h"
+#include "support/log/PaddedLine.h"
 
 namespace ordalyn {
 namespace {
@@ -10,7 +11,8 @@ namespace {
 void ExpectSplit(std::string_view line, std::string_view date, std::string_view source,
                  std::string_view target) {
     SCOPED_TRACE(line);
-    const LogLine parts = SplitOperationLine(line);
+    const test::PaddedLine padded(line);
+    const LogLine parts = SplitOperationLine(padded);
     EXPECT_EQ(parts.date, date);
     EXPECT_EQ(parts.source, source);
     EXPECT_EQ(parts.target, target);
@@ -53,9 +55,9 @@ TEST(LogLine, AnArrowRightBehindTheDateGivesAnEmptySource) {
 }
 
 TEST(LogLine, OnlyABlankSeparates) {
-    EXPECT_THROW(SplitOperationLine("garbage"), MalformedText);
-    EXPECT_THROW(SplitOperationLine("d\tt:\tCopy"), MalformedText);
-    EXPECT_THROW(SplitOperationLine(""), MalformedText);
+    EXPECT_THROW(SplitOperationLine(test::PaddedLine("garbage")), MalformedText);
+    EXPECT_THROW(SplitOperationLine(test::PaddedLine("d\tt:\tCopy")), MalformedText);
+    EXPECT_THROW(SplitOperationLine(test::PaddedLine("")), MalformedText);
     ExpectSplit("d\te t: x", "d\te", "t: x", "");
     ExpectSplit("d  t: x", "d", " t: x", "");
 }

@@ -120,6 +120,21 @@ TEST_F(LogReaderTest, AFileThatGrowsBetweenThePassesFailsAtTheFirstLineThatWasNo
     EXPECT_EQ(files.openNow, 0);
 }
 
+TEST_F(LogReaderTest, TheFirstLineThatWasNotCountedFailsAlsoBetweenTwoStepsOfTheProgress) {
+    std::string lines;
+    for (int line = 0; line < 404; ++line)
+        lines += "d t: a\n";
+    files.Put(kPath, lines);
+    files.PutNext(kPath, lines + "d t: b\nd t: c\nd t: d\n");
+    reader.BeginFile(kPath);
+    std::int32_t shown = 0;
+    EXPECT_THROW(reader.ReadEntries([&](std::int32_t value) { shown = value; }),
+                 InvalidPropertyValue);
+    EXPECT_EQ(reader.LineNumber(), 405);
+    EXPECT_EQ(shown, 405);
+    EXPECT_EQ(entries.EntrySources().ListCount(), 403);
+}
+
 TEST_F(LogReaderTest, AFileThatShrinksBetweenThePassesIsRead) {
     files.Put(kPath, "d t: a\nd t: b\n");
     files.PutNext(kPath, "d t: a\n");
