@@ -84,7 +84,9 @@ def run_under_wine(programs):
 
 def run_share(programs, number):
     from harness.display import Display
+    from harness.processor import stay_on_processor
     from harness.wine import Wine
+    stay_on_processor(number)
     display = Display()
     try:
         wine = Wine(display)

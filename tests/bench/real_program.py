@@ -17,6 +17,7 @@ sys.path.insert(0, str(PROJECT / "tests" / "e2e"))
 
 from harness.display import Display  # noqa: E402
 from harness.folder import Folder  # noqa: E402
+from harness.processor import stay_on_processor  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
 from harness.wine import WORK, Wine  # noqa: E402
 
@@ -64,6 +65,7 @@ def main():
     million = pathlib.Path(sys.argv[1]).resolve()
     if not million.is_file():
         sys.exit(f"there is no log {million}; make_log writes one")
+    stay_on_processor(0)
     display = Display()
     try:
         wine = Wine(display)

@@ -12,13 +12,17 @@ sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
 from harness.display import Display  # noqa: E402
 from harness.folder import Folder  # noqa: E402
+from harness.processor import stay_on_processor  # noqa: E402
 from harness.wine import PROJECT, WORK, Wine  # noqa: E402
 
 ARTIFACTS = PROJECT / "build" / "e2e-artifacts"
 
 
 @pytest.fixture(scope="session")
-def display():
+def display(request):
+    # Tests that run at the same time each have a desktop, and a processor, of their own.
+    worker = getattr(request.config, "workerinput", {}).get("workerid", "gw0")
+    stay_on_processor(int(worker.removeprefix("gw")))
     server = Display()
     yield server
     server.close()
