@@ -1,6 +1,5 @@
 #include "log/ByteScan.h"
 
-#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -190,15 +189,14 @@ bool IsUtf8(const char* at, const char* end) {
     if (end - at < kMany)
         return AreCharacters(at, end);
     ShortCharacters characters;
-    const auto first = std::min<std::size_t>(16, static_cast<std::size_t>(end - at));
-    characters.LookAtEdge('\0', at, first);
-    const char* next = at + first;
+    characters.LookAtEdge('\0', at, 16);
+    const char* next = at + 16;
     for (; end - next >= 64; next += 64)
         for (int place = 0; place < 64; place += 16)
             characters.Look(Load(next + place - 1), Load(next + place));
     for (; end - next >= 16; next += 16)
         characters.Look(Load(next - 1), Load(next));
-    characters.LookAtEdge(next == at ? '\0' : next[-1], next, static_cast<std::size_t>(end - next));
+    characters.LookAtEdge(next[-1], next, static_cast<std::size_t>(end - next));
     return characters.LongerOnes() ? AreCharacters(at, end) : characters.Valid();
 }
 

@@ -1,5 +1,7 @@
 #include "app/lists/ListBounds.h"
 
+#include "base/CheckedMath.h"
+
 namespace ordalyn {
 
 std::int32_t ListBounds::GrowStorage() {

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 
-#include "base/CheckedMath.h"
 #include "base/Errors.h"
 
 namespace ordalyn {
