@@ -1,9 +1,8 @@
 #include "log/ByteScan.h"
 
 #include <cstring>
-#include <string_view>
 
-#include "base/Utf8.h"
+#include "base/Text.h"
 
 namespace ordalyn::bytescan {
 
@@ -28,14 +27,7 @@ std::size_t CountLineEnds(const char* at, const char* end, bool afterCr) {
 }
 
 bool IsUtf8(const char* at, const char* end) {
-    const std::string_view bytes(at, static_cast<std::size_t>(end - at));
-    for (std::size_t i = 0; i < bytes.size();) {
-        const DecodedCharacter c = DecodeUtf8(bytes, i);
-        if (!c.valid)
-            return false;
-        i += c.length;
-    }
-    return true;
+    return IsValidUtf8({at, static_cast<std::size_t>(end - at)});
 }
 
 }  // namespace portable
