@@ -49,7 +49,7 @@ void PanelColumns::Add(ListView& list, EntryRows::Field field,
     const std::string& width = place < widths.size() ? widths[place] : standard;
     const auto twips = [](const std::string& text) {
         const double number = LeadingNumber(text);
-        static_cast<void>(RoundToLong(number));
+        static_cast<void>(RoundToLong(number));  // throws for a width beyond 32 bits
         return static_cast<toolkit::Twips>(number);
     };
     if (!Attempt([&] { list.AddColumn(Caption(field), twips(width), field); }))
