@@ -1,5 +1,6 @@
 #include "ui/cSplitter.h"
 
+#include <cstdint>
 #include <utility>
 
 #include "base/Attempt.h"
@@ -26,6 +27,13 @@ void PlaceAsFarAsPossible(Control& pane, const Rect& wanted) {
     if (!(bounds.height >= 0))
         bounds.height = pane.Height();
     Attempt([&] { pane.Move(bounds); });
+}
+
+// What two margins leave of an extent; nothing that a pane could take when their sum overflows.
+float Between(std::int32_t margin, std::int32_t otherMargin, float extent) {
+    float inside = -1;
+    Attempt([&] { inside = extent - static_cast<float>(CheckedAdd(margin, otherMargin)); });
+    return inside;
 }
 
 }  // namespace
@@ -101,40 +109,33 @@ void cSplitter::CreateSplitter(Control& container, Control& splitter, Control& p
 }
 
 void cSplitter::FillWith(Control& pane) {
-    PlaceAsFarAsPossible(pane, {static_cast<float>(leftMargin_), static_cast<float>(topMargin_),
-                                mobjContainerControl->Width() -
-                                    static_cast<float>(CheckedAdd(leftMargin_, rightMargin_)),
-                                mobjContainerControl->Height() -
-                                    static_cast<float>(CheckedAdd(topMargin_, bottomMargin_))});
+    PlaceAsFarAsPossible(pane,
+                         {static_cast<float>(leftMargin_), static_cast<float>(topMargin_),
+                          Between(leftMargin_, rightMargin_, mobjContainerControl->Width()),
+                          Between(topMargin_, bottomMargin_, mobjContainerControl->Height())});
 }
 
 void cSplitter::LayOut() {
     if (mobjContainerControl == nullptr)
         return;
-    Attempt([this] {
-        if (!rightPanelVisible_) {
-            FillWith(*pane1_);
-            return;
-        }
-        if (!leftPanelVisible_) {
-            FillWith(*pane2_);
-            return;
-        }
-        const Control& container = *mobjContainerControl;
-        Control& bar = *mobjSplitterControl;
-        if (SideBySide()) {
-            PlaceAsFarAsPossible(
-                bar,
-                {bar.Left(), static_cast<float>(topMargin_), static_cast<float>(splitterSize_),
-                 container.Height() - static_cast<float>(CheckedAdd(topMargin_, bottomMargin_))});
-        } else {
-            PlaceAsFarAsPossible(
-                bar, {static_cast<float>(leftMargin_), bar.Top(),
-                      container.Width() - static_cast<float>(CheckedAdd(leftMargin_, rightMargin_)),
-                      static_cast<float>(splitterSize_)});
-        }
-        FitPanes();
-    });
+    if (!rightPanelVisible_) {
+        FillWith(*pane1_);
+        return;
+    }
+    if (!leftPanelVisible_) {
+        FillWith(*pane2_);
+        return;
+    }
+    const Control& container = *mobjContainerControl;
+    Control& bar = *mobjSplitterControl;
+    const auto size = static_cast<float>(splitterSize_);
+    if (SideBySide())
+        PlaceAsFarAsPossible(bar, {bar.Left(), static_cast<float>(topMargin_), size,
+                                   Between(topMargin_, bottomMargin_, container.Height())});
+    else
+        PlaceAsFarAsPossible(bar, {static_cast<float>(leftMargin_), bar.Top(),
+                                   Between(leftMargin_, rightMargin_, container.Width()), size});
+    FitPanes();
 }
 
 void cSplitter::FitPanes() {

@@ -262,6 +262,20 @@ TEST_F(Layout, AChangeOfPanelsDoesNotTakeTheBarsPlace) {
     layout.ToggleTwoPanels();
     layout.ToggleTwoPanels();
     EXPECT_EQ(settings.HSplitPosition, 2000);
+    EXPECT_EQ(settings.VSplitPosition, 4000);
+}
+
+TEST_F(Layout, GoingToOnePanelAndBackKeepsPanelsSideBySide) {
+    settings.VerticalPanels = 1;
+    layout.ArrangeFirstTime();
+    FillBoth();
+    layout.ToggleTwoPanels();
+    layout.ToggleTwoPanels();
+    EXPECT_EQ(settings.VerticalPanels, 1);
+    EXPECT_EQ(bar.Left(), 4000);
+    EXPECT_EQ(bar.Top(), 0);
+    EXPECT_EQ(settings.HSplitPosition, 2000);
+    EXPECT_EQ(settings.VSplitPosition, 4000);
 }
 
 TEST_F(Layout, StoresOrientationAndBothPositions) {

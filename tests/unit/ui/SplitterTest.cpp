@@ -176,10 +176,20 @@ TEST_F(Splitter, AnOverflowingDragBoundIsAnError) {
     EXPECT_THROW(Drag(1, 100, 0), Overflow);
 }
 
-TEST_F(Splitter, OverflowingMarginsLeaveTheLayoutAlone) {
+TEST_F(Splitter, OverflowingMarginsSkipOnlyTheSizeBetweenThem) {
     splitter.CreateSplitter(container, bar, one, two, 1, 2000, 45, 2.1e9F, 0, 2.1e9F, 0);
+    one.Move({1, 2, 33, 44});
     splitter.SetRightPanelVisible(false);
-    EXPECT_EQ(one.Height(), 4000);
+    EXPECT_EQ(one.Bounds(), (Rect{2.1e9F, 0, 33, 4000}));
+    splitter.SetRightPanelVisible(true);
+    EXPECT_EQ(two.Left(), bar.Left() + bar.Width()) << "the panes follow the bar all the same";
+}
+
+TEST_F(Splitter, ABarBetweenOverflowingMarginsKeepsItsLength) {
+    bar.SetHeight(77);
+    splitter.CreateSplitter(container, bar, one, two, 1, 2000, 45, 0, 2.1e9F, 0, 2.1e9F);
+    EXPECT_EQ(bar.Bounds(), (Rect{2000, 2.1e9F, 45, 77}));
+    EXPECT_EQ(two.Left(), 2045);
 }
 
 TEST_F(Splitter, ReleasingCommitsThePosition) {
