@@ -75,7 +75,7 @@ def run_native(programs):
 def run_under_wine(programs):
     """Each of two desktops runs every second test of a program: the tests mostly wait. On one
     desktop they share the keyboard focus, the clipboard, the registry."""
-    sys.path.insert(0, str(PROJECT / "tests" / "e2e"))
+    sys.path.insert(0, str(PROJECT / "tools"))
     with concurrent.futures.ThreadPoolExecutor(DESKTOPS) as pool:
         shares = [pool.submit(run_share, programs, number) for number in range(DESKTOPS)]
         for parts in zip(*(share.result() for share in shares)):

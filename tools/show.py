@@ -11,7 +11,7 @@ import shutil
 import sys
 
 PROJECT = pathlib.Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(PROJECT / "tests" / "e2e"))
+sys.path.insert(0, str(PROJECT / "tools"))
 
 from harness.display import Display  # noqa: E402
 from harness.folder import Folder  # noqa: E402

@@ -3,9 +3,9 @@
 
 #include <memory>
 
-#include "app/SharedObjects.h"
-#include "app/frmMain.h"
-#include "ui/frmXpStyleLoader.h"
+#include "windows/main/SharedObjects.h"
+#include "windows/main/frmMain.h"
+#include "windows/main/frmXpStyleLoader.h"
 
 namespace ordalyn {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "app/lists/cLongArray.h"
-#include "app/lists/cStringArray.h"
+#include "lists/cLongArray.h"
+#include "lists/cStringArray.h"
 
 namespace ordalyn {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "app/lists/cLongArray.h"
+#include "lists/cLongArray.h"
 #include "log/EntryLists.h"
 
 namespace ordalyn {

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/lists/cStringArray.h"
+#include "lists/cStringArray.h"
 #include "log/LogLine.h"
 
 namespace ordalyn {

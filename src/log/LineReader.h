@@ -14,8 +14,8 @@
 #include <string>
 #include <string_view>
 
-#include "app/lists/TextStore.h"
 #include "base/Text.h"
+#include "lists/TextStore.h"
 #include "log/LogBytes.h"
 #include "platform/Platform.h"
 

@@ -5,8 +5,8 @@
 
 #include "base/CheckedMath.h"
 #include "base/Errors.h"
+#include "base/FileNames.h"
 #include "base/Text.h"
-#include "log/FileNames.h"
 #include "log/LineReader.h"
 #include "log/LogLine.h"
 

@@ -6,8 +6,8 @@
 
 #include "base/Attempt.h"
 #include "base/CheckedMath.h"
+#include "base/FileNames.h"
 #include "base/Text.h"
-#include "log/FileNames.h"
 
 namespace ordalyn {
 

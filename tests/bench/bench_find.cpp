@@ -14,9 +14,9 @@
 
 #include "bench/LogGenerator.h"
 #include "bench/NativeFiles.h"
-#include "find/FieldScan.h"
-#include "find/PanelFilter.h"
 #include "log/LogReader.h"
+#include "search/FieldScan.h"
+#include "windows/filter/PanelFilter.h"
 
 namespace ordalyn::bench {
 namespace {

@@ -16,11 +16,11 @@
 #include "bench/NativeFiles.h"
 #include "log/DayIndex.h"
 #include "log/DayRows.h"
-#include "log/EntryRows.h"
 #include "log/LineReader.h"
 #include "log/LogReader.h"
 #include "support/toolkit/MemoryToolkit.h"
 #include "toolkit/ListView.h"
+#include "windows/panels/EntryRows.h"
 
 namespace ordalyn::bench {
 namespace {

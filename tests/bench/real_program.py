@@ -13,7 +13,7 @@ import sys
 import time
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(PROJECT / "tests" / "e2e"))
+sys.path.insert(0, str(PROJECT / "tools"))
 
 from harness.display import Display  # noqa: E402
 from harness.folder import Folder  # noqa: E402

@@ -8,7 +8,7 @@ import sys
 
 import pytest
 
-sys.path.insert(0, str(pathlib.Path(__file__).parent))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
 
 from harness.display import Display  # noqa: E402
 from harness.folder import Folder  # noqa: E402

@@ -8,9 +8,9 @@
 #include "Require.h"
 #include "base/Text.h"
 #include "base/Utf8.h"
-#include "find/FieldScan.h"
-#include "find/TextSearcher.h"
-#include "support/find/FoldAndCompare.h"
+#include "search/FieldScan.h"
+#include "search/TextSearcher.h"
+#include "support/search/FoldAndCompare.h"
 
 using namespace ordalyn;
 using fuzz::Require;

@@ -113,9 +113,9 @@ def test_the_groups_are_those_of_the_forms():
     grouped = set().union(*TOGETHER.values())
     titles = {1001, 1501, 4031}
     own_text = {108}  # the placeholder of the recent files, the only entry of its menu
-    for file in ("src/app/frmMainDesign.cpp", "src/ui/frmOptions.cpp", "src/ui/frmAbout.cpp",
-                 "src/ui/frmProgress.cpp", "src/find/frmSearchFor.cpp", "src/find/frmFilters.cpp"):
-        source = (PROJECT / file).read_text(encoding="utf-8")
+    for file in ("main/frmMainDesign", "options/frmOptions", "about/frmAbout",
+                 "progress/frmProgress", "find/frmSearchFor", "filter/frmFilters"):
+        source = (PROJECT / f"src/windows/{file}.cpp").read_text(encoding="utf-8")
         used = re.findall(r'\.tag = "(\d+)"|\{\d, "mnu\w+", "(\d+)"|AddTab\("(\d+)"\)', source)
         numbers = {int("".join(found)) for found in used}
         assert numbers, file

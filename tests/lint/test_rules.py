@@ -4,13 +4,17 @@ import pathlib
 import re
 import shutil
 import subprocess
+import sys
 
 import pytest
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(PROJECT / "tools"))
+import check_includes  # noqa: E402
+
 LONGEST_FILE = 450
 
-# Headers of the system that only src/platform/win32 may know.
+# Headers of the system that only src/win32 may know.
 SYSTEM_HEADERS = re.compile(
     r"^\s*#\s*include\s*<((?:windows|winsock2?|ws2tcpip|commctrl|commdlg|shellapi|shlobj|shlwapi|"
     r"ole2|oleauto|objbase|oaidl|uxtheme|winver|winreg|winuser|winbase|wingdi|windowsx|vssym32|"
@@ -51,16 +55,33 @@ def test_there_is_code_to_check():
 
 def test_only_the_windows_room_includes_system_headers():
     found = [f"{name(file)}: {header}" for file in code("src")
-             if not name(file).startswith("src/platform/win32/")
+             if not name(file).startswith("src/win32/")
              for header in SYSTEM_HEADERS.findall(text(file))]
     assert found == []
 
 
-def test_nothing_below_the_forms_knows_what_a_log_is():
-    above = re.compile(r'#include "(app|find|hostconfig|log|settings|ui)/')
-    found = [f"{name(file)}: {match}" for file in code("src/base", "src/toolkit", "src/platform")
-             for match in above.findall(text(file))]
-    assert found == []
+def test_every_include_is_in_the_table_of_rooms():
+    assert check_includes.wrong_includes(PROJECT / "src") == []
+
+
+def test_an_include_that_the_table_does_not_allow_is_named(tmp_path):
+    (tmp_path / "src" / "below").mkdir(parents=True)
+    (tmp_path / "src" / "above").mkdir()
+    (tmp_path / "src" / "rooms.txt").write_text("# bottom first\nbelow:\nabove: below\n")
+    (tmp_path / "src" / "below" / "Low.h").write_text('#include <string>\n#include "above/High.h"\n')
+    (tmp_path / "src" / "above" / "High.h").write_text('#include "below/Low.h"\n'
+                                                       '#include "below/Lost.h"\n')
+    (tmp_path / "src" / "Loose.h").write_text("")
+    assert check_includes.wrong_includes(tmp_path / "src") == [
+        "src/Loose.h: . is not in the table of rooms",
+        "src/above/High.h:2: there is no header below/Lost.h in src/",
+        "src/below/Low.h:2: below may not include above/High.h"]
+
+
+def test_the_table_of_rooms_has_no_arrow_upwards(tmp_path):
+    (tmp_path / "rooms.txt").write_text("below: above\nabove:\n")
+    assert check_includes.wrong_includes(tmp_path) == [
+        "rooms.txt: below is to use above, which does not stand above it in the table"]
 
 
 def test_no_handler_swallows_an_exception_without_a_word():

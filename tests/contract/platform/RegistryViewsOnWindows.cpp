@@ -2,7 +2,7 @@
 #include "contract/platform/Subject.h"
 #include "hostconfig/cRegistry.h"
 #include "hostconfig/mAppCommon.h"
-#include "platform/win32/services/WindowsText.h"
+#include "win32/common/WindowsText.h"
 
 // Behind the interfaces: the system's header makes macros of some of their names.
 #include <windows.h>

@@ -1,8 +1,8 @@
 #include <thread>
 
 #include "contract/platform/Subject.h"
-#include "platform/win32/services/Win32Services.h"
-#include "platform/win32/services/WindowsText.h"
+#include "win32/common/WindowsText.h"
+#include "win32/services/Win32Services.h"
 
 // Behind the interfaces: the system's header makes macros of some of their names.
 #include <windows.h>

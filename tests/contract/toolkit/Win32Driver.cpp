@@ -6,7 +6,7 @@
 #include "contract/toolkit/Win32Sight.h"
 #include "contract/toolkit/Win32Watch.h"
 #include "contract/toolkit/Win32Windows.h"
-#include "platform/win32/toolkit/Wide.h"
+#include "win32/common/Wide.h"
 // after windows.h
 #include <shellapi.h>
 #include <shlobj.h>

@@ -1,7 +1,7 @@
 #include "contract/toolkit/Win32Sight.h"
 
 #include "contract/toolkit/Win32Windows.h"
-#include "platform/win32/toolkit/Wide.h"
+#include "win32/common/Wide.h"
 
 namespace ordalyn::contract {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "contract/toolkit/ToolkitDriver.h"
-#include "platform/win32/toolkit/Win32Toolkit.h"
+#include "win32/forms/Win32Toolkit.h"
 
 namespace ordalyn::contract {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "contract/toolkit/Win32Windows.h"
-#include "platform/win32/toolkit/Wide.h"
+#include "win32/common/Wide.h"
 
 namespace ordalyn::contract {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "contract/toolkit/ToolkitDriver.h"
-#include "platform/win32/toolkit/Win32.h"
+#include "win32/common/Win32.h"
 
 namespace ordalyn::contract {
 

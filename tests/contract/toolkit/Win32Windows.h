@@ -1,8 +1,8 @@
 // What both halves of a user on Windows need to know of the windows.
 #pragma once
 
-#include "platform/win32/toolkit/Win32.h"
-#include "platform/win32/toolkit/Window.h"
+#include "win32/common/Win32.h"
+#include "win32/controls/Window.h"
 
 namespace ordalyn::contract {
 

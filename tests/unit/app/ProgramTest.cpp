@@ -2,7 +2,7 @@
 #include "app/Program.h"
 
 #include "support/settings/DesignIds.h"
-#include "unit/app/ProgramWindow.h"
+#include "support/windows/ProgramWindow.h"
 
 namespace ordalyn {
 namespace {

@@ -1,4 +1,4 @@
-#include "app/lists/TextStore.h"
+#include "lists/TextStore.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/lists/ChunkedVector.h"
+#include "lists/ChunkedVector.h"
 
 namespace ordalyn {
 namespace {

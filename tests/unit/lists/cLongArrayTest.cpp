@@ -1,4 +1,4 @@
-#include "app/lists/cLongArray.h"
+#include "lists/cLongArray.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "app/lists/cStringArray.h"
+#include "lists/cStringArray.h"
 
 #include <gtest/gtest.h>
 

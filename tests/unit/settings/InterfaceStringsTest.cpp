@@ -1,6 +1,6 @@
 #include "base/Errors.h"
 #include "base/Text.h"
-#include "unit/settings/SettingsFixture.h"
+#include "support/settings/SettingsFixture.h"
 
 namespace ordalyn::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <array>
 
 #include "base/Errors.h"
-#include "unit/settings/SettingsFixture.h"
+#include "support/settings/SettingsFixture.h"
 
 namespace ordalyn::test {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "base/Errors.h"
 #include "base/Text.h"
-#include "unit/settings/SettingsFixture.h"
+#include "support/settings/SettingsFixture.h"
 
 namespace ordalyn::test {
 namespace {

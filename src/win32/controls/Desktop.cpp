@@ -1,0 +1,94 @@
+#include "win32/controls/Desktop.h"
+
+namespace ordalyn::win32 {
+
+using toolkit::Pointer;
+
+namespace {
+
+// The visible frame is only known for a window that is shown; this one is shown where, and so that,
+// nobody sees it.
+FrameMargins MeasureMargins(HINSTANCE program, bool resizable) {
+    constexpr DWORD kExtendedFrameBounds = 9;
+    using GetAttribute = HRESULT(WINAPI*)(HWND, DWORD, void*, DWORD);
+    const HMODULE library = LoadLibraryW(L"dwmapi.dll");
+    if (library == nullptr)
+        return {};
+    const auto getAttribute =
+        reinterpret_cast<GetAttribute>(GetProcAddress(library, "DwmGetWindowAttribute"));
+    FrameMargins margins;
+    if (getAttribute != nullptr) {
+        const DWORD frame = resizable ? DWORD{WS_THICKFRAME} : 0;
+        const HWND probe =
+            CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_LAYERED | WS_EX_TRANSPARENT,
+                            L"STATIC", L"", WS_POPUP | WS_CAPTION | WS_SYSMENU | frame, -20000,
+                            -20000, 400, 300, nullptr, nullptr, program, nullptr);
+        SetLayeredWindowAttributes(probe, 0, 0, LWA_ALPHA);
+        ShowWindow(probe, SW_SHOWNA);
+        RECT whole = {};
+        RECT visible = {};
+        GetWindowRect(probe, &whole);
+        const HRESULT result = getAttribute(probe, kExtendedFrameBounds, &visible, sizeof visible);
+        DestroyWindow(probe);
+        if (SUCCEEDED(result))
+            margins = {visible.left - whole.left, visible.top - whole.top,
+                       whole.right - visible.right, whole.bottom - visible.bottom};
+    }
+    FreeLibrary(library);
+    const auto plausible = [](int margin) { return margin >= 0 && margin <= 64; };
+    const bool good = plausible(margins.left) && plausible(margins.top) &&
+                      plausible(margins.right) && plausible(margins.bottom);
+    return good ? margins : FrameMargins{};
+}
+
+}  // namespace
+
+Desktop::Desktop(HINSTANCE handle, const Scale& screen)
+    : program(handle), scale(screen), fonts(screen.DpiY()) {}
+
+const FrameMargins& Desktop::Margins(bool resizable) {
+    const std::size_t which = resizable ? 1 : 0;
+    if (!measured_[which]) {
+        margins_[which] = MeasureMargins(program, resizable);
+        measured_[which] = true;
+    }
+    return margins_[which];
+}
+
+void Desktop::SetCommonPointer(Pointer pointer) {
+    pointer_ = pointer;
+    RefreshPointer();
+}
+
+HCURSOR CursorFor(Pointer pointer) {
+    const auto load = [](LPCWSTR name) { return LoadCursorW(nullptr, name); };
+    switch (pointer) {
+        case Pointer::Hourglass:
+            return load(reinterpret_cast<LPCWSTR>(IDC_WAIT));
+        case Pointer::SizeEastWest:
+            return load(reinterpret_cast<LPCWSTR>(IDC_SIZEWE));
+        case Pointer::SizeNorthSouth:
+            return load(reinterpret_cast<LPCWSTR>(IDC_SIZENS));
+        case Pointer::Hand:
+            return load(reinterpret_cast<LPCWSTR>(IDC_HAND));
+        case Pointer::Default:
+            break;
+    }
+    return load(reinterpret_cast<LPCWSTR>(IDC_ARROW));
+}
+
+void RefreshPointer() {
+    POINT at = {};
+    if (!GetCursorPos(&at))
+        return;
+    HWND window = GetCapture();
+    if (window == nullptr)
+        window = WindowFromPoint(at);
+    if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId())
+        return;
+    const LRESULT place = SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(at.x, at.y));
+    SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
+                 MAKELPARAM(place, WM_MOUSEMOVE));
+}
+
+}  // namespace ordalyn::win32

@@ -1,0 +1,50 @@
+// What all windows of one toolkit share.
+#pragma once
+
+#include <vector>
+
+#include "toolkit/Basics.h"
+#include "win32/common/Scale.h"
+#include "win32/common/Win32.h"
+#include "win32/controls/LastHandler.h"
+#include "win32/drawing/Fonts.h"
+
+namespace ordalyn::win32 {
+
+class FormWindow;
+
+// How far the system's window rectangle reaches beyond the frame that can be seen, in pixels.
+struct FrameMargins {
+    int left = 0, top = 0, right = 0, bottom = 0;
+};
+
+class Desktop {
+  public:
+    Desktop(HINSTANCE program, const Scale& scale);
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    const HINSTANCE program;
+    const Scale scale;
+    Fonts fonts;
+    LastHandler lastHandler;
+    std::vector<FormWindow*> forms;  // all that exist, oldest first
+
+    // The pointer over all windows of the program; Default leaves it to each of them.
+    toolkit::Pointer CommonPointer() const { return pointer_; }
+    void SetCommonPointer(toolkit::Pointer pointer);
+
+    // For windows whose frame can be dragged and for those whose frame cannot.
+    const FrameMargins& Margins(bool resizable);
+
+  private:
+    toolkit::Pointer pointer_ = toolkit::Pointer::Default;
+    bool measured_[2] = {false, false};
+    FrameMargins margins_[2];
+};
+
+HCURSOR CursorFor(toolkit::Pointer pointer);
+// Lets the window below the mouse choose the pointer anew.
+void RefreshPointer();
+
+}  // namespace ordalyn::win32

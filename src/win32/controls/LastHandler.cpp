@@ -1,0 +1,39 @@
+#include "win32/controls/LastHandler.h"
+
+#include <exception>
+#include <string>
+
+#include "toolkit/Basics.h"
+#include "win32/common/Wide.h"
+
+namespace ordalyn::win32 {
+
+namespace {
+
+std::string Describe() {
+    try {
+        throw;
+    } catch (const std::exception& error) {
+        return error.what();
+    } catch (...) {
+        return "Unknown error";
+    }
+}
+
+}  // namespace
+
+void LastHandler::Tell() noexcept {
+    if (telling_)
+        return;
+    const toolkit::ScopedFlag telling(telling_);
+    ReleaseCapture();
+    constexpr UINT kLook = MB_OK | MB_ICONERROR | MB_TASKMODAL;
+    try {
+        MessageBoxW(GetActiveWindow(), Wide(Describe()).c_str(), L"Ordalyn", kLook);
+    } catch (...) {
+        // There is no memory for the error's own words.
+        MessageBoxW(nullptr, L"Out of memory", L"Ordalyn", kLook);
+    }
+}
+
+}  // namespace ordalyn::win32

@@ -1,0 +1,344 @@
+#include "win32/controls/ListViewWindow.h"
+
+#include <algorithm>
+#include <string>
+
+#include "base/Text.h"
+#include "win32/common/Wide.h"
+
+namespace ordalyn::win32 {
+
+using namespace toolkit;
+
+namespace {
+
+constexpr UINT kHideNow = WM_APP + 1;
+constexpr UINT kSelection = LVIS_SELECTED | LVIS_FOCUSED;
+constexpr DWORD kBehaviour =
+    LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+// Typing looks this far for a row, so that a key press stays quick in the longest list.
+constexpr int kRowsSearched = 100'000;
+
+// The first characters of a text, as many as fit into `capacity` units including the terminator.
+void CopyForDisplay(std::string_view text, wchar_t* to, int capacity) {
+    if (to == nullptr || capacity <= 0)
+        return;
+    // A unit takes one byte at least and three at most, so this is enough text for any capacity.
+    const auto units = static_cast<std::size_t>(capacity - 1);
+    std::string_view head = text.substr(0, units * 3 + 4);
+    if (head.size() < text.size())
+        head = FirstCharacters(head, units);
+    std::wstring shown = WideForDisplay(head);
+    if (shown.size() > units) {
+        shown.resize(units);
+        if (!shown.empty() && IS_HIGH_SURROGATE(shown.back()))
+            shown.pop_back();
+    }
+    std::copy(shown.begin(), shown.end(), to);
+    to[shown.size()] = L'\0';
+}
+
+}  // namespace
+
+ListViewWindow::ListViewWindow(Desktop& desktop, ListView& list, ControlPeer& container)
+    : Peer(desktop, list,
+           {WC_LISTVIEWW,
+            LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS |
+                WS_TABSTOP,
+            WS_EX_CLIENTEDGE},
+           &container),
+      list_(list) {
+    Send(LVM_SETUNICODEFORMAT, TRUE);
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kBehaviour, kBehaviour);
+}
+
+void ListViewWindow::SetVisible(bool visible) {
+    if (handle() == nullptr)
+        return;
+    if (visible) {
+        hiding_ = false;
+        ShowWindowIf(true);
+    } else if (IsWindowVisible(GetParent(handle()))) {
+        hiding_ = true;
+        PostMessageW(handle(), kHideNow, 0, 0);
+    } else {
+        ShowWindowIf(false);
+    }
+}
+
+void ListViewWindow::SetColors(Color foreground, Color background) {
+    Send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(Resolve(foreground)));
+    Send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(Resolve(background)));
+    Send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(Resolve(background)));
+    if (handle() != nullptr)
+        InvalidateRect(handle(), nullptr, TRUE);
+}
+
+// Columns.
+
+void ListViewWindow::InsertColumn(int index, std::string_view caption, Twips width) {
+    std::wstring text = WideForDisplay(caption);
+    const int pixels = desktop().scale.PixelsX(width);
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
+    column.fmt = LVCFMT_LEFT;
+    column.pszText = text.data();
+    column.cx = pixels;
+    Send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&column));
+    widths_.insert(widths_.begin() + index, {width, pixels});
+    positions_ = ColumnOrder();
+}
+
+void ListViewWindow::RemoveColumn(int index) {
+    Send(LVM_DELETECOLUMN, static_cast<WPARAM>(index));
+    widths_.erase(widths_.begin() + index);
+    positions_ = ColumnOrder();
+}
+
+void ListViewWindow::SetColumnCaption(int index, std::string_view caption) {
+    std::wstring text = WideForDisplay(caption);
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT;
+    column.pszText = text.data();
+    Send(LVM_SETCOLUMNW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&column));
+}
+
+void ListViewWindow::SetColumnWidth(int index, Twips width) {
+    const int pixels = desktop().scale.PixelsX(width);
+    widths_.at(static_cast<std::size_t>(index)) = {width, pixels};
+    Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(index), pixels);
+}
+
+Twips ListViewWindow::ColumnWidth(int index) {
+    const Width& set = widths_.at(static_cast<std::size_t>(index));
+    if (handle() == nullptr)
+        return set.twips;
+    const auto pixels = static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(index)));
+    return pixels == set.pixels ? set.twips : desktop().scale.TwipsX(pixels);
+}
+
+// Column indices from left to right.
+std::vector<int> ListViewWindow::ColumnOrder() const {
+    std::vector<int> order(widths_.size());
+    if (handle() == nullptr || order.empty() ||
+        !Send(LVM_GETCOLUMNORDERARRAY, order.size(), reinterpret_cast<LPARAM>(order.data())))
+        return positions_;
+    return order;
+}
+
+void ListViewWindow::SetColumnPosition(int index, int position) {
+    std::vector<int> order = ColumnOrder();
+    std::erase(order, index);
+    order.insert(order.begin() + std::min(position, static_cast<int>(order.size())), index);
+    Send(LVM_SETCOLUMNORDERARRAY, order.size(), reinterpret_cast<LPARAM>(order.data()));
+    positions_ = order;
+    if (handle() != nullptr)
+        InvalidateRect(handle(), nullptr, TRUE);
+}
+
+int ListViewWindow::ColumnPosition(int index) {
+    positions_ = ColumnOrder();
+    const auto found = std::find(positions_.begin(), positions_.end(), index);
+    return found == positions_.end() ? index : static_cast<int>(found - positions_.begin());
+}
+
+void ListViewWindow::FlattenColumnHeaders() {
+    const auto header = reinterpret_cast<HWND>(Send(LVM_GETHEADER));
+    if (header == nullptr)
+        return;
+    const LONG style = GetWindowLongW(header, GWL_STYLE);
+    SetWindowLongW(header, GWL_STYLE, style ^ HDS_BUTTONS);
+    SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+// Rows.
+
+void ListViewWindow::ChangeState(int row, UINT mask, UINT state) {
+    LVITEMW item = {};
+    item.state = state;
+    item.stateMask = mask;
+    Send(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+// Only the row that is selected is touched: asking the control for it, or addressing all rows, can
+// take a look at each of a million.
+void ListViewWindow::ClearSelection(UINT states) {
+    lifted_ = -1;
+    if (selected_ >= 0)
+        ChangeState(selected_, states, 0);
+    selected_ = -1;
+}
+
+void ListViewWindow::ResetRows(int count) {
+    if (handle() == nullptr)
+        return;
+    const ScopedFlag setting(setting_);
+    // Nobody is to see the steps.
+    const bool visible = IsWindowVisible(handle()) != 0;
+    if (visible)
+        Send(WM_SETREDRAW, FALSE);
+    ClearSelection(kSelection);
+    Send(LVM_SETITEMCOUNT, 0);
+    Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count));
+    if (count > 0)
+        Send(LVM_ENSUREVISIBLE, 0, FALSE);
+    if (visible)
+        Send(WM_SETREDRAW, TRUE);
+    InvalidateRect(handle(), nullptr, TRUE);
+}
+
+void ListViewWindow::UpdateRows(int count) {
+    if (handle() == nullptr)
+        return;
+    const ScopedFlag setting(setting_);
+    if (selected_ >= count)
+        ClearSelection(kSelection);
+    Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LVSICF_NOSCROLL);
+    InvalidateRect(handle(), nullptr, TRUE);
+}
+
+void ListViewWindow::SelectRow(int row) {
+    const ScopedFlag setting(setting_);
+    ClearSelection(kSelection);
+    if (row < 0)
+        return;
+    ChangeState(row, kSelection, kSelection);
+    selected_ = row;
+}
+
+void ListViewWindow::EnsureVisible(int row) {
+    Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+}
+
+void ListViewWindow::SetGridLines(bool shown) {
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, shown ? LVS_EX_GRIDLINES : 0);
+}
+
+// What the control asks and tells.
+
+void ListViewWindow::GiveText(LVITEMW& item) const {
+    if ((item.mask & LVIF_TEXT) == 0)
+        return;
+    const bool known = item.iItem >= 0 && item.iItem < list_.RowCount() && item.iSubItem >= 0 &&
+                       item.iSubItem < list_.ColumnCount();
+    CopyForDisplay(known ? list_.Text(item.iItem, item.iSubItem) : std::string_view(), item.pszText,
+                   item.cchTextMax);
+}
+
+int ListViewWindow::FindRow(const NMLVFINDITEMW& request) const {
+    const int count = list_.RowCount();
+    if ((request.lvfi.flags & LVFI_STRING) == 0 || request.lvfi.psz == nullptr || count == 0 ||
+        list_.ColumnCount() == 0)
+        return -1;
+    const std::string wanted = Narrow(request.lvfi.psz);
+    const int start = std::clamp(request.iStart, 0, count - 1);
+    for (int step = 0; step < std::min(count, kRowsSearched); ++step) {
+        const int row = static_cast<int>((std::int64_t{start} + step) % count);
+        if (row < start && (request.lvfi.flags & LVFI_WRAP) == 0)
+            break;
+        if (StartsWithIgnoreCase(list_.Text(row, 0), wanted))
+            return row;
+    }
+    return -1;
+}
+
+void ListViewWindow::ItemChanged(const NMLISTVIEW& change) {
+    if ((change.uChanged & LVIF_STATE) == 0)
+        return;
+    const bool was = (change.uOldState & LVIS_SELECTED) != 0;
+    const bool is = (change.uNewState & LVIS_SELECTED) != 0;
+    if (is && !was && change.iItem >= 0) {
+        selected_ = change.iItem;
+        lifted_ = -1;
+        if (!setting_)
+            list_.UserSelected(change.iItem);
+    } else if (was && !is && (change.iItem < 0 || change.iItem == selected_)) {
+        selected_ = -1;
+        if (!setting_)
+            list_.UserSelected(-1);  // until the next one is told, or for good beside the rows
+    }
+}
+
+// Before it selects a row, the control may go through all rows to find the one to deselect. It
+// finds none when that is done for it; what is selected then is told, also when it is the same row
+// again. When nothing gets selected after all, the row comes back.
+LRESULT ListViewWindow::SelectingMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const std::weak_ptr<const void> alive = Lifetime();
+    const int before = selected_;
+    {
+        const ScopedFlag setting(setting_);
+        ClearSelection(LVIS_SELECTED);
+    }
+    lifted_ = before;
+    const LRESULT answer = Window::OnMessage(message, wParam, lParam);
+    if (!alive.expired() && handle() != nullptr && lifted_ >= 0 && lifted_ < list_.RowCount()) {
+        const ScopedFlag setting(setting_);
+        ChangeState(lifted_, LVIS_SELECTED, LVIS_SELECTED);
+        lifted_ = -1;
+    }
+    return answer;
+}
+
+bool ListViewWindow::MaySelect(UINT message, WPARAM wParam, LPARAM lParam) const {
+    if (selected_ < 0)
+        return false;
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN: {
+            LVHITTESTINFO hit = {};
+            hit.pt = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+            return Send(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)) >= 0;
+        }
+        case WM_KEYDOWN:
+            return (wParam >= VK_PRIOR && wParam <= VK_HOME) || wParam == VK_UP ||
+                   wParam == VK_DOWN;
+        case WM_CHAR:
+            return true;
+        default:
+            return false;
+    }
+}
+
+std::optional<LRESULT> ListViewWindow::OnNotify(NMHDR& header) {
+    switch (header.code) {
+        case static_cast<UINT>(LVN_GETDISPINFOW):
+            GiveText(reinterpret_cast<NMLVDISPINFOW&>(header).item);
+            return 0;
+        case static_cast<UINT>(LVN_ODFINDITEMW):
+            return FindRow(reinterpret_cast<const NMLVFINDITEMW&>(header));
+        case static_cast<UINT>(LVN_ITEMCHANGED):
+            ItemChanged(reinterpret_cast<const NMLISTVIEW&>(header));
+            return 0;
+        default:
+            return std::nullopt;
+    }
+}
+
+LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case kHideNow:
+            if (hiding_) {
+                hiding_ = false;
+                ShowWindowIf(false);
+            }
+            return 0;
+        case WM_CHAR:
+            // Ctrl with a letter is a command, nothing to look for in the list.
+            if (wParam < L' ')
+                return 0;
+            break;
+        case WM_SYSCOLORCHANGE: {
+            const LRESULT answer = Window::OnMessage(message, wParam, lParam);
+            SetColors(list_.ForeColor(), list_.BackColor());
+            return answer;
+        }
+        default:
+            break;
+    }
+    if (MaySelect(message, wParam, lParam))
+        return SelectingMessage(message, wParam, lParam);
+    return Window::OnMessage(message, wParam, lParam);
+}
+
+}  // namespace ordalyn::win32

@@ -1,0 +1,424 @@
+#include "win32/controls/Window.h"
+
+#include <string>
+
+#include "base/Errors.h"
+#include "win32/common/Wide.h"
+
+namespace ordalyn::win32 {
+
+using namespace toolkit;
+
+namespace {
+
+constexpr UINT_PTR kPeerSubclass = 1;
+constexpr const wchar_t* kObject = L"OrdalynWindow";  // the property that names a window's object
+constexpr int kFirstControlId = 100;  // above those that the system gives a meaning to
+
+HWND HandleOf(ControlPeer& container) {
+    return dynamic_cast<Window&>(container).handle();
+}
+
+// Each child window has an id of its own, for programs that operate this one from outside.
+HMENU NextControlId() {
+    static int last = kFirstControlId;
+    last = last < 0x7FFF ? last + 1 : kFirstControlId;
+    return reinterpret_cast<HMENU>(static_cast<INT_PTR>(last));
+}
+
+}  // namespace
+
+Window::Window(Desktop& desktop, Control& control, const Look& look, ControlPeer* container)
+    : desktop_(desktop), control_(control) {
+    const bool child = container != nullptr;
+    const DWORD style = child ? look.style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS : look.style;
+    handle_ = CreateWindowExW(look.extendedStyle, look.className, L"", style, 0, 0, 0, 0,
+                              child ? HandleOf(*container) : nullptr,
+                              child ? NextControlId() : nullptr, desktop.program, nullptr);
+    if (handle_ == nullptr)
+        throw Error("Cannot create the window of " + control.Name() + " (error " +
+                    std::to_string(GetLastError()) + ")");
+    SetWindowSubclass(handle_, Procedure, kPeerSubclass, reinterpret_cast<DWORD_PTR>(this));
+    SetPropW(handle_, kObject, this);
+    // Controls that were made later lie above those made before.
+    if (child)
+        RaiseToTop();
+}
+
+// The control may be half destroyed: it hears nothing of the end of its window.
+Window::~Window() {
+    if (handle_ == nullptr)
+        return;
+    const HWND window = handle_;
+    handle_ = nullptr;
+    RemovePropW(window, kObject);
+    RemoveWindowSubclass(window, Procedure, kPeerSubclass);
+    DestroyWindow(window);
+}
+
+Window* Window::Of(HWND handle) {
+    return handle == nullptr ? nullptr : static_cast<Window*>(GetPropW(handle, kObject));
+}
+
+Window* Window::Containing(HWND handle) {
+    while (handle != nullptr) {
+        if (Window* const found = Of(handle))
+            return found;
+        // Of a top-level window this would be its owner, which does not contain it.
+        if ((GetWindowLongPtrW(handle, GWL_STYLE) & WS_CHILD) == 0)
+            return nullptr;
+        handle = GetParent(handle);
+    }
+    return nullptr;
+}
+
+FormHost* Window::form() const {
+    if (handle_ == nullptr)
+        return nullptr;
+    return dynamic_cast<FormHost*>(Of(GetAncestor(handle_, GA_ROOT)));
+}
+
+bool Window::CanTakeInput() const {
+    return handle_ != nullptr && IsWindowVisible(handle_) && [this] {
+        for (HWND h = handle_; h != nullptr && h != GetDesktopWindow();
+             h = GetAncestor(h, GA_PARENT)) {
+            if (!IsWindowEnabled(h))
+                return false;
+        }
+        return true;
+    }();
+}
+
+bool Window::HasFocus() const {
+    const HWND focus = GetFocus();
+    return handle_ != nullptr && focus != nullptr && (focus == handle_ || IsChild(handle_, focus));
+}
+
+LRESULT CALLBACK Window::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                   UINT_PTR, DWORD_PTR object) {
+    auto* const self = reinterpret_cast<Window*>(object);
+    if (message == WM_NCDESTROY) {
+        self->handle_ = nullptr;
+        RemovePropW(window, kObject);
+        RemoveWindowSubclass(window, Procedure, kPeerSubclass);
+        return DefSubclassProc(window, message, wParam, lParam);
+    }
+    Desktop& desktop = self->desktop_;
+    return desktop.lastHandler.Run<LRESULT>(
+        0, [&] { return self->OnMessage(message, wParam, lParam); });
+}
+
+LRESULT Window::Default(UINT message, WPARAM wParam, LPARAM lParam) {
+    return DefSubclassProc(handle_, message, wParam, lParam);
+}
+
+LRESULT Window::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (const std::optional<LRESULT> answer = Reflect(message, wParam, lParam))
+        return *answer;
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            return MousePressed(kLeftButton, message, wParam, lParam);
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:
+            return MousePressed(kRightButton, message, wParam, lParam);
+        case WM_MBUTTONDOWN:
+        case WM_MBUTTONDBLCLK:
+            return MousePressed(kMiddleButton, message, wParam, lParam);
+        case WM_LBUTTONUP:
+            return MouseReleased(kLeftButton, message, wParam, lParam);
+        case WM_RBUTTONUP:
+            return MouseReleased(kRightButton, message, wParam, lParam);
+        case WM_MBUTTONUP:
+            return MouseReleased(kMiddleButton, message, wParam, lParam);
+        case WM_MOUSEMOVE:
+            return MouseMoved(message, wParam, lParam);
+        case WM_CAPTURECHANGED:
+            // Somebody else took the mouse during a drag: it ends here.
+            if (handlesMouse_ && pressed_ != 0) {
+                POINT at = {};
+                GetCursorPos(&at);
+                ScreenToClient(handle_, &at);
+                RaiseRelease(pressed_, at);
+                return 0;
+            }
+            break;
+        case WM_SETCURSOR:
+            if (ChoosePointer(lParam))
+                return TRUE;
+            break;
+        case WM_SETFOCUS: {
+            const std::weak_ptr<const void> alive = Lifetime();
+            const LRESULT answer = Default(message, wParam, lParam);
+            if (!alive.expired() && !focusByNotification_)
+                control_.GotFocus.Raise();
+            return answer;
+        }
+        default:
+            break;
+    }
+    return Default(message, wParam, lParam);
+}
+
+// What a child window tells its container is the child's own matter.
+std::optional<LRESULT> Window::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_COMMAND:
+            if (Window* const child = Of(reinterpret_cast<HWND>(lParam))) {
+                child->OnCommand(HIWORD(wParam), LOWORD(wParam));
+                return 0;
+            }
+            break;
+        case WM_NOTIFY: {
+            NMHDR& header = *reinterpret_cast<NMHDR*>(lParam);
+            if (Window* const child = Of(header.hwndFrom))
+                return child->OnNotify(header);
+            break;
+        }
+        case WM_DRAWITEM: {
+            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+            if (Window* const child = Of(item.hwndItem)) {
+                child->OnDrawItem(item);
+                return TRUE;
+            }
+            break;
+        }
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORBTN:
+        case WM_CTLCOLORSTATIC:
+            if (Window* const child = Of(reinterpret_cast<HWND>(lParam)))
+                return reinterpret_cast<LRESULT>(child->OnColor(reinterpret_cast<HDC>(wParam)));
+            break;
+        default:
+            break;
+    }
+    return std::nullopt;
+}
+
+HBRUSH Window::OnColor(HDC dc) {
+    SetTextColor(dc, Resolve(control_.ForeColor()));
+    SetBkColor(dc, Resolve(control_.BackColor()));
+    // Not every system's controls draw in their own reading order.
+    if (control_.RightToLeft())
+        SetTextAlign(dc, GetTextAlign(dc) | TA_RTLREADING);
+    return BackBrush();
+}
+
+void Window::EraseBackground(HDC dc) {
+    RECT area = {};
+    GetClientRect(handle_, &area);
+    FillRect(dc, &area, BackBrush());
+}
+
+// Mouse.
+
+Modifiers CurrentModifiers() {
+    const auto down = [](int key) { return GetKeyState(key) < 0; };
+    return {down(VK_SHIFT), down(VK_CONTROL), down(VK_MENU)};
+}
+
+namespace {
+
+POINT PointOf(LPARAM lParam) {
+    return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+bool IsDown(int button) {
+    int key = VK_MBUTTON;
+    if (button == kLeftButton)
+        key = VK_LBUTTON;
+    else if (button == kRightButton)
+        key = VK_RBUTTON;
+    return GetKeyState(key) < 0;
+}
+
+}  // namespace
+
+LRESULT Window::MousePressed(int button, UINT message, WPARAM wParam, LPARAM lParam) {
+    const std::weak_ptr<const void> alive = Lifetime();
+    const POINT at = PointOf(lParam);
+    pressed_ |= button;
+    if (handlesMouse_ && GetCapture() != handle_)
+        SetCapture(handle_);
+    control_.MouseDown.Raise(button, CurrentModifiers(), desktop_.scale.TwipsX(at.x),
+                             desktop_.scale.TwipsY(at.y));
+    if (alive.expired() || handle_ == nullptr)
+        return 0;
+    if (handlesMouse_)
+        return 0;
+    const LRESULT answer = Default(message, wParam, lParam);
+    // Some classes wait for the release inside this message and never show it to anybody.
+    if (!alive.expired() && handle_ != nullptr && (pressed_ & button) != 0 && !IsDown(button)) {
+        POINT now = {GET_X_LPARAM(GetMessagePos()), GET_Y_LPARAM(GetMessagePos())};
+        ScreenToClient(handle_, &now);
+        RaiseRelease(button, now);
+    }
+    return answer;
+}
+
+LRESULT Window::MouseReleased(int button, UINT message, WPARAM wParam, LPARAM lParam) {
+    const std::weak_ptr<const void> alive = Lifetime();
+    const LRESULT answer = handlesMouse_ ? 0 : Default(message, wParam, lParam);
+    if (alive.expired() || handle_ == nullptr || (pressed_ & button) == 0)
+        return answer;
+    const POINT at = PointOf(lParam);
+    RECT inside = {};
+    GetClientRect(handle_, &inside);
+    const bool click = handlesMouse_ && button == kLeftButton && PtInRect(&inside, at);
+    RaiseRelease(button, at);
+    if (click && !alive.expired())
+        control_.UserClicked();
+    return answer;
+}
+
+void Window::RaiseRelease(int button, POINT at) {
+    pressed_ &= ~button;
+    if (handlesMouse_ && pressed_ == 0 && GetCapture() == handle_)
+        ReleaseCapture();
+    control_.MouseUp.Raise(button, CurrentModifiers(), desktop_.scale.TwipsX(at.x),
+                           desktop_.scale.TwipsY(at.y));
+}
+
+LRESULT Window::MouseMoved(UINT message, WPARAM wParam, LPARAM lParam) {
+    const std::weak_ptr<const void> alive = Lifetime();
+    const LRESULT answer = Default(message, wParam, lParam);
+    if (alive.expired() || handle_ == nullptr)
+        return answer;
+    const int buttons = ((wParam & MK_LBUTTON) != 0 ? kLeftButton : 0) |
+                        ((wParam & MK_RBUTTON) != 0 ? kRightButton : 0) |
+                        ((wParam & MK_MBUTTON) != 0 ? kMiddleButton : 0);
+    const POINT at = PointOf(lParam);
+    control_.MouseMove.Raise(buttons, CurrentModifiers(), desktop_.scale.TwipsX(at.x),
+                             desktop_.scale.TwipsY(at.y));
+    return answer;
+}
+
+bool Window::ChoosePointer(LPARAM lParam) const {
+    if (desktop_.CommonPointer() != Pointer::Default) {
+        SetCursor(CursorFor(desktop_.CommonPointer()));
+        return true;
+    }
+    if (LOWORD(lParam) != HTCLIENT || control_.MousePointer() == Pointer::Default)
+        return false;
+    SetCursor(CursorFor(control_.MousePointer()));
+    return true;
+}
+
+// What the peers of all kinds do. Nothing happens once the system has taken the window away; some
+// of these calls would otherwise mean another window.
+
+Rect Window::PlaceWindow(const Rect& wanted) {
+    wanted_ = wanted;
+    const RECT pixels = desktop_.scale.Pixels(wanted);
+    SetWindowPos(handle_, nullptr, pixels.left, pixels.top, pixels.right - pixels.left,
+                 pixels.bottom - pixels.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    return wanted;
+}
+
+Rect Window::ShowFont(const toolkit::Font& font) {
+    // The old font must outlive the message.
+    const std::shared_ptr<FontHandle> before = std::exchange(font_, desktop_.fonts.Get(font));
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(font_->get()), TRUE);
+    return wanted_;
+}
+
+void Window::MoveInto(ControlPeer& container) {
+    if (handle_ == nullptr)
+        return;
+    const HWND parent = HandleOf(container);
+    if (parent == nullptr || GetAncestor(handle_, GA_PARENT) == parent)
+        return;
+    SetParent(handle_, parent);
+    PlaceWindow(wanted_);
+    RaiseToTop();
+}
+
+void Window::ShowWindowIf(bool visible) {
+    if (handle_ == nullptr)
+        return;
+    FormHost* const around = form();
+    const bool focused = HasFocus();
+    ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE);
+    if (!visible && focused && around != nullptr)
+        around->FocusWasLost();
+}
+
+void Window::EnableWindowIf(bool enabled) {
+    if (handle_ == nullptr)
+        return;
+    FormHost* const around = form();
+    const bool focused = HasFocus();
+    EnableWindow(handle_, enabled ? TRUE : FALSE);
+    if (!enabled && focused && around != nullptr)
+        around->FocusWasLost();
+}
+
+void Window::ShowCaption(std::string_view caption) {
+    const std::wstring text = WideForDisplay(caption);
+    if (handle_ != nullptr)
+        SetWindowTextW(handle_, text.c_str());
+}
+
+void Window::ShowBorder(BorderStyle border, Appearance appearance) {
+    const bool any = border != BorderStyle::None;
+    const bool deep = any && appearance == Appearance::ThreeDimensional;
+    ChangeStyle(GWL_STYLE, WS_BORDER, any && !deep ? WS_BORDER : 0);
+    ChangeStyle(GWL_EXSTYLE, WS_EX_CLIENTEDGE, deep ? WS_EX_CLIENTEDGE : 0);
+    SetWindowPos(handle_, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+void Window::ShowReadingOrder(bool rightToLeft) {
+    ChangeStyle(GWL_EXSTYLE, WS_EX_RTLREADING, rightToLeft ? WS_EX_RTLREADING : 0);
+    if (handle_ != nullptr)
+        InvalidateRect(handle_, nullptr, TRUE);
+}
+
+void Window::ShowPointer() {
+    POINT at = {};
+    if (handle_ == nullptr || !GetCursorPos(&at))
+        return;
+    if (GetCapture() == handle_ || WindowFromPoint(at) == handle_)
+        RefreshPointer();
+}
+
+void Window::ShowToolTip(std::string_view text) {
+    if (FormHost* const around = form())
+        around->SetToolTipOf(handle_, text);
+}
+
+void Window::ShowTabStop(bool tabStop) {
+    ChangeStyle(GWL_STYLE, WS_TABSTOP, tabStop ? WS_TABSTOP : 0);
+}
+
+void Window::RaiseToTop() {
+    SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void Window::Focus() {
+    FormHost* const around = form();
+    if (around == nullptr)
+        return;
+    // A form that is not shown, or waits for a modal one, gives the focus when its turn comes.
+    if (IsWindowVisible(around->FormHandle()) && IsWindowEnabled(around->FormHandle()) &&
+        CanTakeInput())
+        SetFocus(handle_);
+    else
+        around->RememberFocus(handle_);
+}
+
+void Window::RepaintNow() {
+    if (handle_ != nullptr)
+        RedrawWindow(handle_, nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+void Window::ChangeStyle(int which, DWORD clear, DWORD set) {
+    const auto before = static_cast<DWORD>(GetWindowLongPtrW(handle_, which));
+    const DWORD after = (before & ~clear) | set;
+    if (after != before)
+        SetWindowLongPtrW(handle_, which, static_cast<LONG_PTR>(after));
+}
+
+}  // namespace ordalyn::win32

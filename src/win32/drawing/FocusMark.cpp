@@ -1,0 +1,28 @@
+#include "win32/drawing/FocusMark.h"
+
+namespace ordalyn::win32 {
+
+namespace {
+
+bool IsDark(COLORREF color) {
+    return GetRValue(color) * 299 + GetGValue(color) * 587 + GetBValue(color) * 114 < 128 * 1000;
+}
+
+}  // namespace
+
+// The system's own focus rectangle inverts what lies below it, which cannot be seen on medium gray.
+void DrawFocusMark(HDC dc, const RECT& frame, COLORREF background) {
+    LOGBRUSH brush = {};
+    brush.lbStyle = BS_SOLID;
+    brush.lbColor = IsDark(background) ? RGB(255, 255, 255) : RGB(0, 0, 0);
+    const HPEN pen = ExtCreatePen(PS_COSMETIC | PS_ALTERNATE, 1, &brush, 0, nullptr);
+    const int before = SaveDC(dc);
+    SetBkMode(dc, TRANSPARENT);
+    SelectObject(dc, pen);
+    SelectObject(dc, GetStockObject(NULL_BRUSH));
+    Rectangle(dc, frame.left, frame.top, frame.right, frame.bottom);
+    RestoreDC(dc, before);
+    DeleteObject(pen);
+}
+
+}  // namespace ordalyn::win32

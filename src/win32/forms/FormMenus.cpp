@@ -1,0 +1,230 @@
+#include "win32/forms/FormMenus.h"
+
+#include <algorithm>
+
+#include "win32/common/Wide.h"
+
+namespace ordalyn::win32 {
+
+using toolkit::MenuItem;
+using toolkit::Shortcut;
+
+namespace {
+
+// Ids go up from menu to menu, so that a choice that waits in the message queue while its menu is
+// built anew does not become another one.
+constexpr int kFirstId = 0x8000;
+constexpr int kLastId = 0xEFFF;  // above are the system's own
+
+std::string KeyText(int key) {
+    if ((key >= '0' && key <= '9') || (key >= 'A' && key <= 'Z'))
+        return {static_cast<char>(key)};
+    if (key >= VK_F1 && key <= VK_F24)
+        return "F" + std::to_string(key - VK_F1 + 1);
+    struct Name {
+        int key;
+        const char* text;
+    };
+    static constexpr Name kNames[] = {
+        {VK_RETURN, "Enter"},   {VK_ESCAPE, "Esc"}, {VK_TAB, "Tab"},     {VK_SPACE, "Space"},
+        {VK_BACK, "Backspace"}, {VK_INSERT, "Ins"}, {VK_DELETE, "Del"},  {VK_HOME, "Home"},
+        {VK_END, "End"},        {VK_PRIOR, "PgUp"}, {VK_NEXT, "PgDn"},   {VK_UP, "Up"},
+        {VK_DOWN, "Down"},      {VK_LEFT, "Left"},  {VK_RIGHT, "Right"},
+    };
+    for (const Name& name : kNames) {
+        if (name.key == key)
+            return name.text;
+    }
+    return "";
+}
+
+std::wstring TextOfItem(const MenuItem& item) {
+    std::string text = item.Caption();
+    const std::string hint =
+        item.KeyHint().empty() ? ShortcutText(item.Accelerator()) : item.KeyHint();
+    if (!hint.empty())
+        text += "\t" + hint;
+    return WideForDisplay(text);
+}
+
+UINT StateOf(const MenuItem& item) {
+    return (item.Checked() ? MFS_CHECKED : MFS_UNCHECKED) |
+           (item.Enabled() ? MFS_ENABLED : MFS_DISABLED);
+}
+
+bool IsSeparator(const MenuItem& item) {
+    return item.Caption() == "-";
+}
+
+// Whether both bars show the same at their top level.
+bool LookTheSame(HMENU a, HMENU b) {
+    const int count = GetMenuItemCount(a);
+    if (count != GetMenuItemCount(b))
+        return false;
+    for (int i = 0; i < count; ++i) {
+        const auto describe = [i](HMENU menu) {
+            wchar_t text[256] = {};
+            MENUITEMINFOW info = {};
+            info.cbSize = sizeof info;
+            info.fMask = MIIM_STRING | MIIM_STATE | MIIM_FTYPE | MIIM_SUBMENU;
+            info.dwTypeData = text;
+            info.cch = static_cast<UINT>(std::size(text));
+            GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &info);
+            return std::tuple(std::wstring(text), info.fState & (MFS_DISABLED | MFS_CHECKED),
+                              info.fType, info.hSubMenu != nullptr);
+        };
+        if (describe(a) != describe(b))
+            return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::string ShortcutText(const Shortcut& shortcut) {
+    const std::string key = KeyText(shortcut.key);
+    if (key.empty())
+        return "";
+    std::string text;
+    if (shortcut.modifiers.control)
+        text += "Ctrl+";
+    if (shortcut.modifiers.alt)
+        text += "Alt+";
+    if (shortcut.modifiers.shift)
+        text += "Shift+";
+    return text + key;
+}
+
+// A bar that belongs to a window goes with it.
+FormMenus::~FormMenus() {
+    if (bar_ != nullptr && IsMenu(bar_))
+        DestroyMenu(bar_);
+}
+
+int FormMenus::NextId() const {
+    lastId_ = lastId_ < kFirstId || lastId_ >= kLastId ? kFirstId : lastId_ + 1;
+    return lastId_;
+}
+
+void FormMenus::Insert(HMENU menu, MenuItem& item, Places& places) const {
+    std::wstring text = TextOfItem(item);
+    MENUITEMINFOW info = {};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STATE;
+    info.wID = static_cast<UINT>(NextId());
+    info.fState = StateOf(item);
+    if (RightToLeft()) {
+        // The first item takes the rest of the bar to the right with it; the order of the items,
+        // and the side on which their menus open, are a matter of each of them.
+        info.fType |= MFT_RIGHTORDER;
+        if (item.Parent() == nullptr && GetMenuItemCount(menu) == 0)
+            info.fType |= MFT_RIGHTJUSTIFY;
+    }
+    if (IsSeparator(item)) {
+        info.fType |= MFT_SEPARATOR;
+    } else {
+        info.fMask |= MIIM_STRING;
+        info.dwTypeData = text.data();
+    }
+    if (!item.Items().empty()) {
+        info.fMask |= MIIM_SUBMENU;
+        info.hSubMenu = CreatePopupMenu();
+        Fill(info.hSubMenu, item, places);
+    }
+    InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
+    places[static_cast<int>(info.wID)] = {&item, menu};
+}
+
+void FormMenus::Fill(HMENU menu, const MenuItem& parent, Places& places) const {
+    for (const auto& item : parent.Items()) {
+        if (item->Visible())
+            Insert(menu, *item, places);
+    }
+}
+
+void FormMenus::Flush(HWND window) {
+    if (!changed_ || window == nullptr)
+        return;
+    changed_ = false;
+    Places places;
+    const HMENU bar = CreateMenu();
+    for (const auto& item : form_.Menus()) {
+        if (item->Visible())
+            Insert(bar, *item, places);
+    }
+    const HMENU before = GetMenu(window);
+    places_ = std::move(places);
+    if (before == nullptr || !LookTheSame(before, bar)) {
+        const bool any = GetMenuItemCount(bar) > 0;
+        SetMenu(window, any ? bar : nullptr);
+        if (before != nullptr)
+            DestroyMenu(before);
+        bar_ = any ? bar : nullptr;
+        if (!any)
+            DestroyMenu(bar);
+        return;
+    }
+    // Only what lies below the bar has changed: the bar stays as it is, without flicker.
+    const int count = GetMenuItemCount(bar);
+    for (int i = count - 1; i >= 0; --i) {
+        const auto position = static_cast<UINT>(i);
+        MENUITEMINFOW info = {};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_SUBMENU | MIIM_ID;
+        GetMenuItemInfoW(bar, position, TRUE, &info);
+        RemoveMenu(bar, position, MF_BYPOSITION);
+        const HMENU old = GetSubMenu(before, i);
+        SetMenuItemInfoW(before, position, TRUE, &info);
+        // The system frees the sub-menu that is replaced, or leaves that to us.
+        if (old != nullptr && IsMenu(old))
+            DestroyMenu(old);
+        const auto found = places_.find(static_cast<int>(info.wID));
+        if (found != places_.end())
+            found->second.menu = before;
+    }
+    DestroyMenu(bar);
+}
+
+void FormMenus::Update(HWND window, MenuItem& item) {
+    if (changed_ || window == nullptr)
+        return;  // it will be read anew anyway
+    const auto found = std::find_if(places_.begin(), places_.end(),
+                                    [&](const auto& entry) { return entry.second.item == &item; });
+    if (found == places_.end())
+        return;
+    const auto id = static_cast<UINT>(found->first);
+    if (IsSeparator(item)) {
+        Rebuild();
+        return;
+    }
+    std::wstring text = TextOfItem(item);
+    MENUITEMINFOW info = {};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_STATE | MIIM_STRING;
+    info.fState = StateOf(item);
+    info.dwTypeData = text.data();
+    SetMenuItemInfoW(found->second.menu, id, FALSE, &info);
+    if (item.Parent() == nullptr)
+        DrawMenuBar(window);
+}
+
+MenuItem* FormMenus::Find(int id) const {
+    const auto found = places_.find(id);
+    return found == places_.end() ? nullptr : found->second.item;
+}
+
+MenuItem* FormMenus::PopUp(HWND window, MenuItem& item) const {
+    Places places;
+    const HMENU menu = CreatePopupMenu();
+    Fill(menu, item, places);
+    POINT at = {};
+    GetCursorPos(&at);
+    const UINT side = RightToLeft() ? TPM_RIGHTALIGN : TPM_LEFTALIGN;
+    const int id =
+        TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON | side, at.x, at.y, window, nullptr);
+    DestroyMenu(menu);
+    const auto found = places.find(id);
+    return found == places.end() ? nullptr : found->second.item;
+}
+
+}  // namespace ordalyn::win32

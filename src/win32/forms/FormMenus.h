@@ -1,0 +1,51 @@
+// A form's menu bar and context menus, made from its menu items. Changes of the tree are collected
+// and come into force when Flush is called: before the next message, and before anything measures
+// the form.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "toolkit/Form.h"
+#include "win32/common/Win32.h"
+
+namespace ordalyn::win32 {
+
+class FormMenus {
+  public:
+    explicit FormMenus(toolkit::Form& form) : form_(form) {}
+    ~FormMenus();
+    FormMenus(const FormMenus&) = delete;
+    FormMenus& operator=(const FormMenus&) = delete;
+
+    void Rebuild() { changed_ = true; }
+    void Flush(HWND window);
+    void Update(HWND window, toolkit::MenuItem& item);
+    // The item that the menu bar knows by this id; null for an id of a menu that is no more.
+    toolkit::MenuItem* Find(int id) const;
+    // Shows the sub-items at the mouse and answers the chosen one, or null.
+    toolkit::MenuItem* PopUp(HWND window, toolkit::MenuItem& item) const;
+
+  private:
+    struct Place {
+        toolkit::MenuItem* item;
+        HMENU menu;
+    };
+    using Places = std::map<int, Place>;
+    int NextId() const;
+    void Insert(HMENU menu, toolkit::MenuItem& item, Places& places) const;
+    void Fill(HMENU menu, const toolkit::MenuItem& parent, Places& places) const;
+    bool RightToLeft() const { return form_.RightToLeft(); }
+
+    toolkit::Form& form_;
+    HMENU bar_ = nullptr;
+    Places places_;
+    bool changed_ = false;
+    mutable int lastId_ = 0;
+};
+
+// "Ctrl+O", "F5", ... as menus show it; empty for a key without a name.
+std::string ShortcutText(const toolkit::Shortcut& shortcut);
+
+}  // namespace ordalyn::win32

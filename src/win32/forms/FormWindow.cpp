@@ -1,0 +1,388 @@
+#include "win32/forms/FormWindow.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "win32/common/Wide.h"
+#include "win32/controls/Buttons.h"
+#include "win32/controls/WindowClasses.h"
+#include "win32/forms/FormKeys.h"
+#include "win32/forms/FormsBlocked.h"
+#include "win32/forms/MessageLoop.h"
+
+namespace ordalyn::win32 {
+
+using namespace toolkit;
+
+namespace {
+
+constexpr UINT kActivated = WM_APP + 1;
+constexpr UINT kMenusChanged = WM_APP + 2;
+constexpr int kIconResource = 1;
+
+BOOL CALLBACK TellChild(HWND child, LPARAM parameter) {
+    const MSG& told = *reinterpret_cast<const MSG*>(parameter);
+    SendMessageW(child, told.message, told.wParam, told.lParam);
+    return TRUE;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Desktop& desktop, toolkit::Form& form, const FormStyle& style)
+    : Peer(desktop, form, LookOf(style), nullptr), form_(form), style_(style), menus_(form) {
+    desktop.forms.push_back(this);
+    if (style.minimiseBox || style.maximiseBox)
+        SetIcons();  // dialogs and tool windows have none
+    if (style.takesDroppedFiles)
+        DragAcceptFiles(handle(), TRUE);
+}
+
+FormWindow::~FormWindow() {
+    EndModal();
+    std::erase(desktop().forms, this);
+}
+
+Window::Look FormWindow::LookOf(const FormStyle& style) {
+    DWORD look = WS_POPUP | WS_CAPTION | WS_CLIPCHILDREN;
+    DWORD extended = WS_EX_CONTROLPARENT;
+    if (style.closeBox)
+        look |= WS_SYSMENU;
+    if (style.resizable)
+        look |= WS_THICKFRAME;
+    if (style.minimiseBox)
+        look |= WS_MINIMIZEBOX | WS_SYSMENU;
+    if (style.maximiseBox)
+        look |= WS_MAXIMIZEBOX | WS_SYSMENU;
+    if (style.toolWindow)
+        extended |= WS_EX_TOOLWINDOW;
+    else if (!style.resizable && !style.minimiseBox && !style.maximiseBox)
+        extended |= WS_EX_DLGMODALFRAME;  // a dialog, without an icon in its caption
+    return {kFormClass, look, extended};
+}
+
+void FormWindow::SetIcons() {
+    const auto load = [&](int widthMetric, int heightMetric) {
+        return reinterpret_cast<LPARAM>(
+            LoadImageW(desktop().program, MAKEINTRESOURCEW(kIconResource), IMAGE_ICON,
+                       GetSystemMetrics(widthMetric), GetSystemMetrics(heightMetric), LR_SHARED));
+    };
+    Send(WM_SETICON, ICON_BIG, load(SM_CXICON, SM_CYICON));
+    Send(WM_SETICON, ICON_SMALL, load(SM_CXSMICON, SM_CYSMICON));
+}
+
+// Looks.
+
+Rect FormWindow::SetFont(const toolkit::Font& font) {
+    ShowFont(font);
+    return CurrentBounds();
+}
+
+void FormWindow::SetReadingOrder(bool rightToLeft, Alignment) {
+    ShowReadingOrder(rightToLeft);
+    RebuildMenus();
+    SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+void FormWindow::SetToolTipOf(HWND window, std::string_view text) {
+    if (toolTips_ == nullptr)
+        toolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                                    WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0, handle(),
+                                    nullptr, desktop().program, nullptr);
+    std::wstring shown = WideForDisplay(text);
+    TTTOOLINFOW tool = {};
+    tool.cbSize = sizeof tool;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = handle();
+    tool.uId = reinterpret_cast<UINT_PTR>(window);
+    SendMessageW(toolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    if (shown.empty())
+        return;
+    tool.lpszText = shown.data();
+    SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+// Only top-level windows hear of new system colours; the controls of the system want to know too.
+void FormWindow::SystemColorsChanged(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SYSCOLORCHANGE) {
+        const MSG told = {handle(), message, wParam, lParam, 0, {}};
+        EnumChildWindows(handle(), TellChild, reinterpret_cast<LPARAM>(&told));
+    }
+    RedrawWindow(handle(), nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+// Menus.
+
+void FormWindow::RebuildMenus() {
+    menus_.Rebuild();
+    // For message loops that are not the toolkit's own (message boxes, menus).
+    if (handle() != nullptr)
+        PostMessageW(handle(), kMenusChanged, 0, 0);
+}
+
+void FormWindow::PopUp(MenuItem& item) {
+    if (handle() == nullptr)
+        return;
+    const std::weak_ptr<const void> alive = Lifetime();
+    MenuItem* const chosen = menus_.PopUp(handle(), item);
+    if (chosen == nullptr || alive.expired())
+        return;
+    // Messages were handled meanwhile: the item may have gone.
+    const std::vector<MenuItem*> items = form_.AllMenuItems();
+    if (std::find(items.begin(), items.end(), chosen) != items.end())
+        chosen->Choose();
+}
+
+LRESULT FormWindow::CommandChosen(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (lParam != 0 || HIWORD(wParam) != 0)
+        return Window::OnMessage(message, wParam, lParam);
+    FlushMenus();
+    if (MenuItem* const item = menus_.Find(LOWORD(wParam)))
+        item->Choose();
+    return 0;
+}
+
+// Showing.
+
+void FormWindow::SetVisible(bool visible) {
+    if (visible)
+        Show(nullptr);
+    else if (handle() != nullptr)
+        ShowWindow(handle(), SW_HIDE);
+}
+
+void FormWindow::Show(FormPeer* owner) {
+    if (handle() == nullptr)
+        return;
+    FlushMenus();
+    if (owner != nullptr && owner != this)
+        SetWindowLongPtrW(handle(), GWLP_HWNDPARENT, static_cast<LONG_PTR>(owner->Handle()));
+    if (IsWindowVisible(handle())) {
+        if (IsIconic(handle()))
+            ShowWindow(handle(), SW_RESTORE);
+        SetForegroundWindow(handle());
+        return;
+    }
+    int how = SW_SHOW;
+    if (stateWhenShown_ == WindowState::Maximised)
+        how = SW_SHOWMAXIMIZED;
+    else if (stateWhenShown_ == WindowState::Minimised)
+        how = SW_SHOWMINIMIZED;
+    stateWhenShown_ = WindowState::Normal;
+    // Focus marks and access keys show when the keyboard is used, as the user has set it.
+    Send(WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0));
+    ShowWindow(handle(), how);
+}
+
+void FormWindow::RunModal(FormPeer* owner) {
+    if (handle() == nullptr)
+        return;
+    FormsBlocked blocked(desktop(), this);
+    ModalRun run{&blocked};
+    modal_ = &run;
+    // Without an owner it could get lost behind the forms that wait for it.
+    auto* const active = dynamic_cast<FormWindow*>(Of(GetActiveWindow()));
+    Show(owner != nullptr ? owner : active);
+    MessageLoop(desktop()).RunUntil(run.ended);
+    // The form itself may have gone; when it has not and the program ends, it is still modal.
+    if (!run.ended)
+        EndModal();
+}
+
+// The others come back before this form is hidden, so that its owner becomes the active one.
+void FormWindow::EndModal() {
+    if (modal_ == nullptr)
+        return;
+    modal_->blocked->Release();
+    modal_->ended = true;
+    modal_ = nullptr;
+}
+
+void FormWindow::SetWindowState(WindowState state) {
+    if (handle() == nullptr)
+        return;
+    if (!IsWindowVisible(handle())) {
+        stateWhenShown_ = state;
+        return;
+    }
+    if (state == CurrentWindowState())
+        return;
+    int how = SW_RESTORE;
+    if (state == WindowState::Maximised)
+        how = SW_MAXIMIZE;
+    else if (state == WindowState::Minimised)
+        how = SW_MINIMIZE;
+    ShowWindow(handle(), how);
+    // From minimised, restoring may lead to maximised first.
+    if (state == WindowState::Normal && IsZoomed(handle()))
+        ShowWindow(handle(), SW_RESTORE);
+}
+
+WindowState FormWindow::CurrentWindowState() {
+    if (handle() == nullptr || !IsWindowVisible(handle())) {
+        if (stateWhenShown_ != WindowState::Normal || handle() == nullptr)
+            return stateWhenShown_;
+    }
+    if (IsIconic(handle()))
+        return WindowState::Minimised;
+    return IsZoomed(handle()) ? WindowState::Maximised : WindowState::Normal;
+}
+
+void FormWindow::Close() {
+    EndModal();
+    if (handle() == nullptr)
+        return;
+    stateWhenShown_ = CurrentWindowState();
+    closing_ = true;
+    // The forms that it owns would go with it.
+    for (const FormWindow* other : desktop().forms) {
+        if (other->handle() != nullptr && GetWindow(other->handle(), GW_OWNER) == handle())
+            SetWindowLongPtrW(other->handle(), GWLP_HWNDPARENT, 0);
+    }
+    DestroyWindow(handle());
+}
+
+// Focus.
+
+void FormWindow::TakeFocus() {
+    if (handle() == nullptr || !IsWindowVisible(handle()))
+        return;
+    if (IsIconic(handle()))
+        ShowWindow(handle(), SW_RESTORE);
+    SetForegroundWindow(handle());
+}
+
+void FormWindow::RestoreFocus() {
+    const Window* const control = Window::Containing(focus_);
+    if (control != nullptr && control != this && IsChild(handle(), focus_) &&
+        control->CanTakeInput())
+        SetFocus(focus_);
+    else
+        FocusFirstTabStop();
+}
+
+void FormWindow::FocusFirstTabStop() {
+    if (const Window* const first = FirstTabStop(form_))
+        SetFocus(first->handle());
+}
+
+void FormWindow::FocusWasLost() {
+    if (handle() == nullptr)
+        return;
+    const Window* const first = FirstTabStop(form_);
+    SetFocus(first != nullptr ? first->handle() : handle());
+}
+
+void FormWindow::ActivationChanged(bool active, bool minimised) {
+    if (!active) {
+        const HWND focus = GetFocus();
+        if (focus != nullptr && IsChild(handle(), focus))
+            focus_ = focus;
+        return;
+    }
+    if (minimised || activationPosted_)
+        return;
+    // The event comes when the form is on the screen, and never inside the call that shows it.
+    activationPosted_ = true;
+    PostMessageW(handle(), kActivated, 0, 0);
+}
+
+void FormWindow::SetDialogButtons(ControlPeer* defaultButton, ControlPeer* cancelButton) {
+    defaultButton_ = dynamic_cast<CommandButtonWindow*>(defaultButton);
+    cancelButton_ = dynamic_cast<CommandButtonWindow*>(cancelButton);
+    ShowDefaultButton(nullptr);
+}
+
+void FormWindow::ShowDefaultButton(CommandButtonWindow* button) {
+    for (const auto& control : form_.Controls()) {
+        if (control->ControlKind() != Kind::CommandButton)
+            continue;
+        auto* const other = dynamic_cast<CommandButtonWindow*>(&control->peer());
+        other->ShowAsDefault(other == (button != nullptr ? button : defaultButton_));
+    }
+}
+
+void FormWindow::TakeDroppedFiles(HDROP drop) {
+    std::vector<std::string> files;
+    const UINT count = DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
+    for (UINT i = 0; i < count; ++i) {
+        std::wstring path(DragQueryFileW(drop, i, nullptr, 0) + std::size_t{1}, L'\0');
+        path.resize(DragQueryFileW(drop, i, path.data(), static_cast<UINT>(path.size())));
+        files.push_back(Narrow(path));
+    }
+    DragFinish(drop);
+    // A form that waits for a modal one takes nothing from the user.
+    if (!IsWindowEnabled(handle()))
+        return;
+    form_.FilesDropped.Raise(files);
+}
+
+LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // A form that goes raises nothing more; its controls may not be there to hear it.
+    if (closing_)
+        return Default(message, wParam, lParam);
+    switch (message) {
+        case kActivated:
+            activationPosted_ = false;
+            if (IsWindowVisible(handle()))
+                form_.SystemActivated();
+            return 0;
+        case kMenusChanged:
+            FlushMenus();
+            return 0;
+        case WM_COMMAND:
+            return CommandChosen(message, wParam, lParam);
+        case WM_ERASEBKGND:
+        case WM_PRINTCLIENT:
+            EraseBackground(reinterpret_cast<HDC>(wParam));
+            return TRUE;
+        case WM_ACTIVATE:
+            ActivationChanged(LOWORD(wParam) != WA_INACTIVE, HIWORD(wParam) != 0);
+            break;
+        case WM_SETFOCUS:
+            RestoreFocus();
+            return 0;
+        case WM_SIZE:
+            for (HWND child = GetWindow(handle(), GW_CHILD); child != nullptr;
+                 child = GetWindow(child, GW_HWNDNEXT)) {
+                if (Window* const control = Of(child))
+                    control->OnContainerResized();
+            }
+            break;
+        case WM_WINDOWPOSCHANGED: {
+            const std::weak_ptr<const void> alive = Lifetime();
+            const LRESULT answer = Default(message, wParam, lParam);
+            const UINT flags = reinterpret_cast<const WINDOWPOS*>(lParam)->flags;
+            if (!alive.expired() &&
+                (flags & (SWP_NOSIZE | SWP_NOMOVE)) != (SWP_NOSIZE | SWP_NOMOVE))
+                ReportBounds();
+            return answer;
+        }
+        case WM_GETMINMAXINFO:
+            Default(message, wParam, lParam);
+            LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
+            return 0;
+        case WM_CLOSE:
+            if (style_.closeBox)
+                form_.UserClosed();
+            return 0;
+        case WM_ENDSESSION:
+            if (wParam != FALSE)
+                form_.UserClosed();
+            return 0;
+        case WM_DROPFILES:
+            TakeDroppedFiles(reinterpret_cast<HDROP>(wParam));
+            return 0;
+        case WM_SYSCOLORCHANGE:
+        case WM_THEMECHANGED:
+            SystemColorsChanged(message, wParam, lParam);
+            break;
+        default:
+            break;
+    }
+    return Window::OnMessage(message, wParam, lParam);
+}
+
+}  // namespace ordalyn::win32

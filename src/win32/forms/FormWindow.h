@@ -1,0 +1,98 @@
+// Forms: top-level windows. A form remembers the focus while another window is active, keeps its
+// bounds as they were set as long as the pixels are the same, and reports what the system changes.
+#pragma once
+
+#include <string_view>
+
+#include "toolkit/Form.h"
+#include "win32/controls/Window.h"
+#include "win32/forms/FormMenus.h"
+
+namespace ordalyn::win32 {
+
+class FormsBlocked;
+
+class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
+  public:
+    FormWindow(Desktop& desktop, toolkit::Form& form, const toolkit::FormStyle& style);
+    ~FormWindow() override;
+
+    toolkit::Form& Form() const { return form_; }
+    HWND FormHandle() const override { return handle(); }
+    bool Resizable() const override { return style_.resizable; }
+    void FlushMenus() { menus_.Flush(handle()); }
+
+    // Focus and keys.
+    void RememberFocus(HWND window) override { focus_ = window; }
+    void FocusWasLost() override;
+    void FocusFirstTabStop();
+    CommandButtonWindow* DefaultButton() const { return defaultButton_; }
+    CommandButtonWindow* CancelButton() const { return cancelButton_; }
+    void ShowDefaultButton(CommandButtonWindow* button) override;
+    void SetToolTipOf(HWND window, std::string_view text) override;
+
+    // ControlPeer
+    toolkit::Rect Place(const toolkit::Rect& wanted) override;
+    void SetContainer(toolkit::ControlPeer&) override {}
+    void SetVisible(bool visible) override;
+    toolkit::Rect SetFont(const toolkit::Font& font) override;
+    void SetBorder(toolkit::BorderStyle, toolkit::Appearance) override {}
+    void SetReadingOrder(bool rightToLeft, toolkit::Alignment alignment) override;
+    void TakeFocus() override;
+    // MenuPeer
+    void RebuildMenus() override;
+    void UpdateMenuItem(toolkit::MenuItem& item) override { menus_.Update(handle(), item); }
+    void PopUp(toolkit::MenuItem& item) override;
+    // FormPeer
+    toolkit::Size ClientSize() override;
+    toolkit::Rect OuterFor(const toolkit::Size& client) override;
+    void Show(toolkit::FormPeer* owner) override;
+    void RunModal(toolkit::FormPeer* owner) override;
+    void EndModal() override;
+    void SetWindowState(toolkit::WindowState state) override;
+    toolkit::WindowState CurrentWindowState() override;
+    toolkit::Rect CurrentBounds() override;
+    std::uintptr_t Handle() override { return reinterpret_cast<std::uintptr_t>(handle()); }
+    void SetDialogButtons(toolkit::ControlPeer* defaultButton,
+                          toolkit::ControlPeer* cancelButton) override;
+    void Close() override;
+
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    struct ModalRun {
+        FormsBlocked* blocked;
+        bool ended = false;
+    };
+    static Look LookOf(const toolkit::FormStyle& style);
+    void SetIcons();
+    RECT WindowRectFor(const toolkit::Rect& outer);
+    toolkit::Rect OuterOf(const RECT& window);
+    void PlaceWhenNormal(const RECT& window);
+    void LimitSize(MINMAXINFO& limits) const;
+    void ReportBounds();
+    void ActivationChanged(bool active, bool minimised);
+    void RestoreFocus();
+    void TakeDroppedFiles(HDROP drop);
+    void SystemColorsChanged(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT CommandChosen(UINT message, WPARAM wParam, LPARAM lParam);
+
+    toolkit::Form& form_;
+    toolkit::FormStyle style_;
+    FormMenus menus_;
+    // Where the form was put last, and the window rectangle that this gave.
+    toolkit::Rect placed_;
+    RECT placedWindow_ = {};
+    bool placing_ = false;
+    bool closing_ = false;
+    toolkit::WindowState stateWhenShown_ = toolkit::WindowState::Normal;
+    HWND focus_ = nullptr;  // what had the focus, or is to get it
+    bool activationPosted_ = false;
+    CommandButtonWindow* defaultButton_ = nullptr;
+    CommandButtonWindow* cancelButton_ = nullptr;
+    HWND toolTips_ = nullptr;
+    ModalRun* modal_ = nullptr;
+};
+
+}  // namespace ordalyn::win32

@@ -1,0 +1,138 @@
+// The bounds of a form: outer bounds in twips are those of the frame that can be seen, and they
+// stay as they were set for as long as the pixels are the same.
+#include <algorithm>
+
+#include "win32/forms/FormWindow.h"
+
+namespace ordalyn::win32 {
+
+using namespace toolkit;
+
+namespace {
+
+bool SameRect(const RECT& a, const RECT& b) {
+    return EqualRect(&a, &b) != 0;
+}
+
+}  // namespace
+
+RECT FormWindow::WindowRectFor(const Rect& outer) {
+    const Scale& scale = desktop().scale;
+    const FrameMargins& margins = desktop().Margins(style_.resizable);
+    // The size is rounded by itself: a form keeps it wherever it is moved.
+    const int left = scale.PixelsX(outer.left);
+    const int top = scale.PixelsY(outer.top);
+    return {left - margins.left, top - margins.top,
+            left + scale.PixelsX(outer.width) + margins.right,
+            top + scale.PixelsY(outer.height) + margins.bottom};
+}
+
+Rect FormWindow::OuterOf(const RECT& window) {
+    if (SameRect(window, placedWindow_))
+        return placed_;
+    const FrameMargins& margins = desktop().Margins(style_.resizable);
+    Rect outer =
+        desktop().scale.Twips(RECT{window.left + margins.left, window.top + margins.top,
+                                   window.right - margins.right, window.bottom - margins.bottom});
+    // What has the same pixels keeps the number that it was given.
+    if (window.left == placedWindow_.left)
+        outer.left = placed_.left;
+    if (window.top == placedWindow_.top)
+        outer.top = placed_.top;
+    if (window.right - window.left == placedWindow_.right - placedWindow_.left)
+        outer.width = placed_.width;
+    if (window.bottom - window.top == placedWindow_.bottom - placedWindow_.top)
+        outer.height = placed_.height;
+    return outer;
+}
+
+Rect FormWindow::Place(const Rect& wanted) {
+    placed_ = wanted;
+    placedWindow_ = WindowRectFor(wanted);
+    if (handle() == nullptr)
+        return wanted;
+    FlushMenus();
+    const ScopedFlag placing(placing_);
+    if (IsIconic(handle()) || IsZoomed(handle())) {
+        PlaceWhenNormal(placedWindow_);
+    } else {
+        const RECT& r = placedWindow_;
+        SetWindowPos(handle(), nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    return CurrentBounds();
+}
+
+// The bounds that a minimised or maximised form will have; the system counts these from the work
+// area, not from the screen.
+void FormWindow::PlaceWhenNormal(const RECT& window) {
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
+    GetWindowPlacement(handle(), &placement);
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof monitor;
+    placement.rcNormalPosition = window;
+    if (!style_.toolWindow &&
+        GetMonitorInfoW(MonitorFromRect(&window, MONITOR_DEFAULTTONEAREST), &monitor))
+        OffsetRect(&placement.rcNormalPosition, monitor.rcMonitor.left - monitor.rcWork.left,
+                   monitor.rcMonitor.top - monitor.rcWork.top);
+    SetWindowPlacement(handle(), &placement);
+}
+
+Rect FormWindow::CurrentBounds() {
+    RECT window = {};
+    // A minimised form is nowhere; its bounds are those that it comes back to.
+    if (handle() == nullptr || IsIconic(handle()) || !GetWindowRect(handle(), &window))
+        return placed_;
+    return OuterOf(window);
+}
+
+Size FormWindow::ClientSize() {
+    if (handle() == nullptr)
+        return {};
+    FlushMenus();
+    RECT client = {};
+    GetClientRect(handle(), &client);
+    const Rect size = desktop().scale.Twips(client);
+    return {size.width, size.height};
+}
+
+Rect FormWindow::OuterFor(const Size& client) {
+    FlushMenus();
+    const Rect now = CurrentBounds();
+    if (handle() == nullptr)
+        return {now.left, now.top, client.width, client.height};
+    const Scale& scale = desktop().scale;
+    const FrameMargins& margins = desktop().Margins(style_.resizable);
+    RECT window = {0, 0, scale.PixelsX(client.width), scale.PixelsY(client.height)};
+    AdjustWindowRectEx(&window, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)),
+                       GetMenu(handle()) != nullptr,
+                       static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_EXSTYLE)));
+    const int width = window.right - window.left - margins.left - margins.right;
+    const int height = window.bottom - window.top - margins.top - margins.bottom;
+    return {now.left, now.top, scale.TwipsX(width), scale.TwipsY(height)};
+}
+
+void FormWindow::LimitSize(MINMAXINFO& limits) const {
+    if (placing_) {
+        // Code may choose any size.
+        limits.ptMinTrackSize = {1, 1};
+        return;
+    }
+    if (!style_.resizable)
+        return;
+    const Scale& scale = desktop().scale;
+    // A main window keeps room for its lists, a tool window for its boxes.
+    const int width = scale.Nominal(style_.maximiseBox ? 320 : 160);
+    const int height = style_.maximiseBox ? scale.Nominal(200) : 0;
+    limits.ptMinTrackSize.x = std::max<LONG>(limits.ptMinTrackSize.x, width);
+    limits.ptMinTrackSize.y = std::max<LONG>(limits.ptMinTrackSize.y, height);
+}
+
+// Code that places the form knows what it did.
+void FormWindow::ReportBounds() {
+    if (!placing_)
+        form_.SystemResized(CurrentBounds(), CurrentWindowState());
+}
+
+}  // namespace ordalyn::win32

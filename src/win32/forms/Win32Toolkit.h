@@ -1,0 +1,70 @@
+// The toolkit on Windows.
+#pragma once
+
+#include <deque>
+
+#include "toolkit/Toolkit.h"
+#include "win32/controls/Desktop.h"
+
+namespace ordalyn::win32 {
+
+class Win32Toolkit : public toolkit::Toolkit {
+  public:
+    // `program` holds the icon (resource 1) of the forms. Outlives all forms. Tests give the scale
+    // of another screen.
+    explicit Win32Toolkit(HINSTANCE program, const Scale& scale = Scale());
+    ~Win32Toolkit() override;
+    Win32Toolkit(const Win32Toolkit&) = delete;
+    Win32Toolkit& operator=(const Win32Toolkit&) = delete;
+
+    std::unique_ptr<toolkit::FormPeer> CreateForm(toolkit::Form& form,
+                                                  const toolkit::FormStyle& style) override;
+    std::unique_ptr<toolkit::LabelPeer> CreateLabel(toolkit::Label& control,
+                                                    toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ControlPeer> CreateFrame(toolkit::Control& control,
+                                                      toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ControlPeer> CreatePictureBox(
+        toolkit::Control& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ControlPeer> CreateCommandButton(
+        toolkit::Control& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TogglePeer> CreateCheckBox(toolkit::Toggle& control,
+                                                        toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TogglePeer> CreateOptionButton(
+        toolkit::Toggle& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TextPeer> CreateTextBox(toolkit::TextBox& control,
+                                                     toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ComboBoxPeer> CreateComboBox(toolkit::ComboBox& control, bool editable,
+                                                          toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ListViewPeer> CreateListView(toolkit::ListView& control,
+                                                          toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::StatusBarPeer> CreateStatusBar(
+        toolkit::StatusBar& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ProgressBarPeer> CreateProgressBar(
+        toolkit::ProgressBar& control, toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TabStripPeer> CreateTabStrip(toolkit::TabStrip& control,
+                                                          toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::ToolBarPeer> CreateToolBar(toolkit::ToolBar& control,
+                                                        toolkit::ControlPeer& container) override;
+
+    double TwipsPerPixelX() override { return desktop_.scale.TwipsPerPixelX(); }
+    double TwipsPerPixelY() override { return desktop_.scale.TwipsPerPixelY(); }
+    toolkit::Rect WorkArea() override;
+    void SetPointer(toolkit::Pointer pointer) override { desktop_.SetCommonPointer(pointer); }
+    void Beep() override;
+    toolkit::Answer ShowMessage(toolkit::Form* owner, std::string_view text, std::string_view title,
+                                toolkit::MessageIcon icon, toolkit::MessageButtons buttons,
+                                toolkit::Answer defaultAnswer) override;
+    void DoEvents() override;
+    void Post(std::function<void()> work) override;
+    void Run() override;
+    void Quit() override;
+
+  private:
+    static LRESULT CALLBACK RunPosted(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                      UINT_PTR id, DWORD_PTR object);
+    Desktop desktop_;
+    HWND worker_ = nullptr;  // a window that is never shown, for work that was posted
+    std::deque<std::function<void()>> posted_;
+};
+
+}  // namespace ordalyn::win32

@@ -1,0 +1,121 @@
+#include "win32/services/Win32Dialogs.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "win32/common/WindowsText.h"
+
+namespace ordalyn::platform::win32 {
+
+namespace {
+
+// Size of the 8-bit record that has the three fields that came with version 5 of the library.
+constexpr std::size_t kRecordWithLaterFields = 88;
+
+int ScreenDpi() {
+    const HDC screen = GetDC(nullptr);
+    if (screen == nullptr)
+        return USER_DEFAULT_SCREEN_DPI;
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    return dpi;
+}
+
+LOGFONTW ToLogFont(const Dialogs::FontRequest& request) {
+    LOGFONTW font{};
+    font.lfHeight = -static_cast<LONG>(std::lround(request.size * ScreenDpi() / 72.0));
+    font.lfWeight = request.weight;
+    font.lfItalic = request.italic ? TRUE : FALSE;
+    font.lfUnderline = request.underline ? TRUE : FALSE;
+    font.lfStrikeOut = request.strikethrough ? TRUE : FALSE;
+    font.lfCharSet = static_cast<BYTE>(request.characterSet);
+    const std::wstring name = ToWide(request.name).substr(0, LF_FACESIZE - 1);
+    std::copy(name.begin(), name.end(), font.lfFaceName);
+    return font;
+}
+
+}  // namespace
+
+std::optional<std::string> Win32Dialogs::OpenFile(const OpenRequest& request) {
+    const std::wstring filter = ToWide(request.filter) + L'\0';
+    const std::wstring folder = ToWide(request.initialFolder);
+    const std::wstring title = ToWide(request.title);
+    std::wstring chosen = ToWide(request.fileName);
+    chosen.resize(std::max(request.bufferSize, chosen.size() + 1));
+
+    OPENFILENAMEW record{};
+    record.lStructSize = request.recordSize < kRecordWithLaterFields
+                             ? OPENFILENAME_SIZE_VERSION_400W
+                             : sizeof(OPENFILENAMEW);
+    record.hwndOwner = reinterpret_cast<HWND>(request.owner);
+    record.lpstrFilter = filter.c_str();
+    record.lpstrFile = chosen.data();
+    record.nMaxFile = static_cast<DWORD>(chosen.size());
+    record.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
+    record.lpstrTitle = title.empty() ? nullptr : title.c_str();
+    record.Flags = request.flags;
+    if (!GetOpenFileNameW(&record))
+        return std::nullopt;
+    return FromWide(chosen.substr(0, chosen.find(L'\0')));
+}
+
+std::optional<std::uint32_t> Win32Dialogs::ChooseColor(const ColorRequest& request,
+                                                       std::uint32_t (&customColors)[16]) {
+    COLORREF custom[16];
+    std::copy(std::begin(customColors), std::end(customColors), std::begin(custom));
+    CHOOSECOLORW record{};
+    record.lStructSize = sizeof(record);
+    record.hwndOwner = reinterpret_cast<HWND>(request.owner);
+    record.rgbResult = request.initial;
+    record.lpCustColors = custom;
+    record.Flags = request.flags;
+    const bool confirmed = ChooseColorW(&record) != 0;
+    std::copy(std::begin(custom), std::end(custom), std::begin(customColors));
+    if (!confirmed)
+        return std::nullopt;
+    return static_cast<std::uint32_t>(record.rgbResult);
+}
+
+std::optional<Dialogs::FontAnswer> Win32Dialogs::ChooseFont(const FontRequest& request) {
+    LOGFONTW font = ToLogFont(request);
+    CHOOSEFONTW record{};
+    record.lStructSize = sizeof(record);
+    record.hwndOwner = reinterpret_cast<HWND>(request.owner);
+    record.lpLogFont = &font;
+    record.Flags = request.flags;
+    record.rgbColors = request.color;
+    record.nSizeMin = request.minimum;
+    record.nSizeMax = request.maximum;
+    if (!ChooseFontW(&record))
+        return std::nullopt;
+    FontAnswer answer;
+    const auto* nameEnd = std::find(std::begin(font.lfFaceName), std::end(font.lfFaceName), L'\0');
+    answer.name = FromWide({font.lfFaceName, static_cast<std::size_t>(nameEnd - font.lfFaceName)});
+    answer.tenthsOfPoints = record.iPointSize;
+    answer.characterSet = font.lfCharSet;
+    answer.weight = font.lfWeight;
+    answer.italic = font.lfItalic != 0;
+    answer.strikethrough = font.lfStrikeOut != 0;
+    answer.underline = font.lfUnderline != 0;
+    return answer;
+}
+
+int Win32Dialogs::LibraryMajorVersion() {
+    constexpr const wchar_t* kLibrary = L"comdlg32.dll";
+    DWORD ignored = 0;
+    const DWORD size = GetFileVersionInfoSizeW(kLibrary, &ignored);
+    if (size == 0)
+        return 0;
+    std::vector<BYTE> resource(size);
+    if (!GetFileVersionInfoW(kLibrary, 0, size, resource.data()))
+        return 0;
+    void* data = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueW(resource.data(), L"\\", &data, &length) ||
+        length < sizeof(VS_FIXEDFILEINFO))
+        return 0;
+    return HIWORD(static_cast<const VS_FIXEDFILEINFO*>(data)->dwFileVersionMS);
+}
+
+}  // namespace ordalyn::platform::win32

@@ -1,0 +1,174 @@
+#include "win32/services/Win32Files.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Errors.h"
+#include "base/Text.h"
+#include "platform/Wildcard.h"
+#include "win32/common/Handles.h"
+#include "win32/common/WindowsText.h"
+
+namespace ordalyn::platform::win32 {
+
+namespace {
+
+constexpr DWORD kFullSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr std::size_t kLargestTransfer = 1U << 30U;
+
+class Win32ReadableFile : public ReadableFile {
+  public:
+    Win32ReadableFile(std::string path, HANDLE handle)
+        : path_(std::move(path)), handle_(handle, INVALID_HANDLE_VALUE) {}
+
+    std::size_t Read(char* buffer, std::size_t capacity) override {
+        DWORD count = 0;
+        const auto wanted = static_cast<DWORD>(std::min(capacity, kLargestTransfer));
+        if (!ReadFile(handle_.Get(), buffer, wanted, &count, nullptr))
+            throw FileError(path_, GetLastError());
+        return count;
+    }
+
+  private:
+    std::string path_;
+    FileHandle handle_;
+};
+
+void WriteAll(HANDLE file, std::string_view bytes, const std::string& path) {
+    while (!bytes.empty()) {
+        DWORD count = 0;
+        const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kLargestTransfer));
+        if (!WriteFile(file, bytes.data(), wanted, &count, nullptr))
+            throw FileError(path, GetLastError());
+        bytes.remove_prefix(count);
+    }
+    if (!FlushFileBuffers(file))
+        throw FileError(path, GetLastError());
+}
+
+// A new file beside the one that it is to replace. Deleted unless it has taken that one's place.
+class Replacement {
+  public:
+    Replacement(const std::wstring& target, const std::string& path, DWORD attributes)
+        : target_(target), path_(path) {
+        // Counts up past files that other instances or a crash have left.
+        for (int number = 0; handle_ == INVALID_HANDLE_VALUE; ++number) {
+            name_ = target + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                    std::to_wstring(number) + L".tmp";
+            handle_ = CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes,
+                                  nullptr);
+            const DWORD error = GetLastError();
+            if (handle_ == INVALID_HANDLE_VALUE && (error != ERROR_FILE_EXISTS || number > 100))
+                throw FileError(path, error);
+        }
+    }
+    ~Replacement() {
+        Close();
+        if (!placed_)
+            DeleteFileW(name_.c_str());
+    }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+
+    void Write(std::string_view bytes) { WriteAll(handle_, bytes, path_); }
+
+    void TakePlace() {
+        Close();
+        // Replacing keeps the old file's rights and works while others read it, but needs an old
+        // file; moving needs none, and it also completes a replacement that has come half-way.
+        if (!ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
+                          nullptr, nullptr) &&
+            !MoveFileExW(name_.c_str(), target_.c_str(),
+                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            throw FileError(path_, GetLastError());
+        placed_ = true;
+    }
+
+  private:
+    void Close() {
+        if (handle_ != INVALID_HANDLE_VALUE)
+            CloseHandle(handle_);
+        handle_ = INVALID_HANDLE_VALUE;
+    }
+
+    std::wstring target_;
+    std::string path_;
+    std::wstring name_;
+    HANDLE handle_ = INVALID_HANDLE_VALUE;
+    bool placed_ = false;
+};
+
+// The attributes that the new file takes over from the old one. Throws when the old one cannot be
+// replaced: some systems would let a rename replace a folder or a write-protected file, others
+// leave files behind when they find out late that a file is locked.
+DWORD AttributesOfReplaceable(const std::wstring& target, const std::string& path) {
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return FILE_ATTRIBUTE_NORMAL;
+    if (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))
+        throw FileError(path, ERROR_ACCESS_DENIED);
+    const FileHandle probe(
+        CreateFileW(target.c_str(), DELETE, kFullSharing, nullptr, OPEN_EXISTING, 0, nullptr),
+        INVALID_HANDLE_VALUE);
+    if (!probe)
+        throw FileError(path, GetLastError());
+    const DWORD kept = attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+    return kept == 0 ? FILE_ATTRIBUTE_NORMAL : kept;
+}
+
+}  // namespace
+
+std::unique_ptr<ReadableFile> Win32Files::OpenForReading(std::string_view path) {
+    const HANDLE handle = CreateFileW(ToPath(path).c_str(), GENERIC_READ, kFullSharing, nullptr,
+                                      OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        throw FileError(std::string(path), GetLastError());
+    return std::make_unique<Win32ReadableFile>(std::string(path), handle);
+}
+
+bool Win32Files::Exists(std::string_view path) {
+    // A search for a name that ends in a separator finds nothing on some systems and the folder on
+    // others.
+    if (path.empty() || path.back() == '\\' || path.back() == '/')
+        return false;
+    WIN32_FIND_DATAW found{};
+    const SearchHandle search(FindFirstFileW(ToPath(path).c_str(), &found), INVALID_HANDLE_VALUE);
+    return static_cast<bool>(search);
+}
+
+std::vector<std::string> Win32Files::List(std::string_view folder, std::string_view pattern) {
+    std::string all(folder);
+    if (!all.empty() && all.back() != '\\' && all.back() != '/')
+        all += '\\';
+    all += '*';
+    std::vector<std::string> names;
+    WIN32_FIND_DATAW found{};
+    const SearchHandle search(FindFirstFileW(ToPath(all).c_str(), &found), INVALID_HANDLE_VALUE);
+    if (!search)
+        return names;
+    do {
+        // The search itself is for all names: with a pattern it would match short names as well.
+        std::string name = FromWide(found.cFileName);
+        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        if (!isFolder && MatchesWildcard(name, pattern))
+            names.push_back(std::move(name));
+    } while (FindNextFileW(search.Get(), &found));
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        return CompareIgnoreCase(a, b) < 0;
+    });
+    return names;
+}
+
+void Win32Files::Replace(std::string_view path, std::string_view bytes) {
+    const std::string name(path);
+    const std::wstring target = ToFullPath(path);
+    if (target.empty())
+        throw FileError(name, ERROR_PATH_NOT_FOUND);
+    Replacement replacement(target, name, AttributesOfReplaceable(target, name));
+    replacement.Write(bytes);
+    replacement.TakePlace();
+}
+
+}  // namespace ordalyn::platform::win32

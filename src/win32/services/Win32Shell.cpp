@@ -1,0 +1,38 @@
+#include "win32/services/Win32Shell.h"
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <shellapi.h>
+
+#include "win32/common/WindowsText.h"
+
+namespace ordalyn::platform::win32 {
+
+namespace {
+
+// The shell hands some targets to components that need COM on the calling thread.
+class ComScope {
+  public:
+    ComScope()
+        : result_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)) {}
+    ~ComScope() {
+        if (SUCCEEDED(result_))
+            CoUninitialize();
+    }
+    ComScope(const ComScope&) = delete;
+    ComScope& operator=(const ComScope&) = delete;
+
+  private:
+    HRESULT result_;
+};
+
+}  // namespace
+
+void Win32Shell::Open(WindowHandle owner, std::string_view target) {
+    const ComScope com;
+    ShellExecuteW(reinterpret_cast<HWND>(owner), L"open", ToWide(target).c_str(), nullptr, nullptr,
+                  SW_SHOWNORMAL);
+}
+
+}  // namespace ordalyn::platform::win32

@@ -1,0 +1,33 @@
+#include "windows/about/Help.h"
+
+#include "base/FileNames.h"
+#include "hostconfig/mAppCommon.h"
+
+namespace ordalyn {
+
+namespace {
+
+constexpr std::int32_t kFileNotFoundText = 3056;
+
+}  // namespace
+
+std::string HelpFile(const HelpSurroundings& around) {
+    std::string common = around.programFolder + "Readme.chm";
+    if (around.useDefaultLanguage)
+        return common;
+    const std::string name = GetFileBaseName(GetFileName(around.languageFile));
+    const std::string own = around.programFolder + "Readme " + name + ".chm";
+    return around.files.Exists(own) ? own : common;
+}
+
+void ShowHelp(const HelpSurroundings& around, toolkit::Form& ownerForm) {
+    const std::string path = HelpFile(around);
+    if (!around.files.Exists(path)) {
+        around.toolkit.ShowMessage(&ownerForm, around.text(kFileNotFoundText),
+                                   mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
+        return;
+    }
+    around.shell.Open(ownerForm.Handle(), path);
+}
+
+}  // namespace ordalyn

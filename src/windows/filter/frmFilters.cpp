@@ -1,0 +1,224 @@
+#include "windows/filter/frmFilters.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "base/Text.h"
+#include "settings/SettingsTable.h"
+
+namespace ordalyn {
+
+using toolkit::Kind;
+using toolkit::Twips;
+
+namespace {
+
+constexpr std::string_view kHistoryKey = "Filter";
+constexpr int kHistoryLength = 64;
+constexpr std::int32_t kSourceText = 4001, kTargetText = 4002, kContainsText = 4033,
+                       kDoesNotContainText = 4034, kApplyFilterText = 4035, kClearListText = 109;
+// Buttons of Toolbar1. The one between them only keeps them apart.
+constexpr int kApplyButton = 1, kRemoveButton = 3;
+constexpr int kClearEntry = 0;
+constexpr std::string_view kClearKey = "clear";
+
+constexpr Twips kLeastWidth = 8910;    // of the whole window
+constexpr int kHeightAroundBoxes = 8;  // pixels
+constexpr Twips kEdge = 60, kGap = 75;
+constexpr Twips kFilterWidth = 2760, kContainsWidth = 1710, kSourceWidth = 1440, kBarWidth = 1380,
+                kCancelWidth = 1170, kBoxHeight = 315, kBarHeight = 360;
+constexpr Twips kClientWidth =
+    2 * kEdge + 4 * kGap + kFilterWidth + kContainsWidth + kSourceWidth + kBarWidth + kCancelWidth;
+
+// In tab order, from left to right; Arrange says where.
+constexpr toolkit::ControlDesign kControls[] = {
+    {.kind = Kind::ComboBox,
+     .name = "cboFilter",
+     .bounds = {kEdge, kEdge, kFilterWidth, kBoxHeight},
+     .editable = true},
+    {.kind = Kind::ComboBox,
+     .name = "cboContains",
+     .bounds = {0, kEdge, kContainsWidth, kBoxHeight}},
+    {.kind = Kind::ComboBox, .name = "cboSource", .bounds = {0, kEdge, kSourceWidth, kBoxHeight}},
+    {.kind = Kind::ToolBar, .name = "Toolbar1", .bounds = {0, kEdge, kBarWidth, kBarHeight}},
+    {.kind = Kind::CommandButton,
+     .name = "cmdCancel",
+     .tag = "1009",
+     .bounds = {0, kEdge, kCancelWidth, kBoxHeight},
+     .isCancel = true},
+};
+
+constexpr toolkit::FormDesign kDesign = {
+    .name = "frmFilters",
+    .tag = "4031",
+    .clientSize = {kClientWidth, kBoxHeight + 2 * kEdge},
+    .style = {.toolWindow = true},
+    .controls = kControls,
+};
+
+}  // namespace
+
+frmFilters::frmFilters(toolkit::Toolkit& toolkit, const Surroundings& around)
+    : Form(toolkit, kDesign),
+      around_(around),
+      cboFilter(Get<toolkit::ComboBox>("cboFilter")),
+      cboContains(Get<toolkit::ComboBox>("cboContains")),
+      cboSource(Get<toolkit::ComboBox>("cboSource")),
+      Toolbar1(Get<toolkit::ToolBar>("Toolbar1")),
+      cmdCancel(Get<toolkit::CommandButton>("cmdCancel")),
+      keywords_(around.keywords, Toolbar1, kApplyButton) {
+    Toolbar1.AddButton("", "apply-filter", true);
+    Toolbar1.AddButton("", "separator", false);
+    Toolbar1.AddButton("", "remove-filter", true);
+    Toolbar1.AddMenuEntry(kRemoveButton, kClearKey, "");
+    around_.history.LoadHistory(cboFilter, kHistoryKey, kHistoryLength);
+    around_.settings.RestoreWindowPosition(*this, false, kFiltersPlacement);
+    if (Width() < kLeastWidth)
+        SetWidth(kLeastWidth);
+    WireControls();
+    LoadInterface();
+    cboFilter.SetText("");
+    around_.settings.FilterText.clear();
+    cboContains.SetListIndex(0);
+    cboSource.SetListIndex(0);
+}
+
+void frmFilters::WireControls() {
+    cboFilter.KeyDown.Subscribe([this](int key, toolkit::Modifiers modifiers) {
+        if (key == toolkit::key::Enter && !modifiers.control && !modifiers.alt)
+            ApplyAndRemember();
+    });
+    cboFilter.Click.Subscribe([this] { ApplyTypedText(); });
+    cboContains.Click.Subscribe([this] { ApplyIfFiltering(); });
+    cboSource.Click.Subscribe([this] { ApplyIfFiltering(); });
+    Toolbar1.ButtonClick.Subscribe([this](int button) {
+        if (button == kApplyButton)
+            ApplyAndRemember();
+        else if (button == kRemoveButton)
+            RemoveFilter();
+    });
+    Toolbar1.ButtonMenuClick.Subscribe([this](int button, int entry) {
+        if (button == kApplyButton)
+            ApplyOperation(entry);
+        else if (button == kRemoveButton && entry == kClearEntry)
+            around_.history.ClearHistory(cboFilter, kHistoryKey, kHistoryLength, *this);
+    });
+    cmdCancel.Click.Subscribe([this] { Hide(); });
+    Activate.Subscribe([this] {
+        if (activated_)
+            return;
+        activated_ = true;
+        keywords_.LoadOperationKeywords();
+    });
+    QueryUnload.Subscribe([this](bool& keep) { AboutToClose(keep); });
+    Resize.Subscribe([this] { Arrange(); });
+}
+
+FilterChoice frmFilters::Choice() const {
+    return {cboFilter.Text(), cboSource.ListIndex() == 1, cboContains.ListIndex() == 1};
+}
+
+void frmFilters::LoadInterface() {
+    mAppSpecific& settings = around_.settings;
+    // Without a filter text, so that the lists which are filled here filter nothing.
+    const std::string filterText = std::exchange(settings.FilterText, std::string());
+    RefillList(cboContains, kContainsText, kDoesNotContainText);
+    RefillList(cboSource, kSourceText, kTargetText);
+    settings.FilterText = filterText;
+
+    constexpr double kPlainSize = 8;
+    for (toolkit::ComboBox* box : {&cboFilter, &cboContains, &cboSource}) {
+        settings.ApplyFont(*box, true, kPlainSize);
+        box->SetLook(settings.FlatUserInterface != 0 ? toolkit::Appearance::Flat
+                                                     : toolkit::Appearance::ThreeDimensional);
+        box->SetForeColor(settings.ForegroundColor);
+        box->SetBackColor(settings.BackgroundColor);
+    }
+    around_.language.ApplyLanguage(*this);
+    Toolbar1.SetButtonToolTip(kApplyButton, around_.strings.GetInterfaceString(kApplyFilterText));
+    Toolbar1.SetMenuEntryText(kRemoveButton, kClearEntry,
+                              around_.strings.GetInterfaceString(kClearListText));
+    const auto pixel = static_cast<Twips>(std::lround(toolkit().TwipsPerPixelY()));
+    SetClientHeight(cboSource.Height() + kHeightAroundBoxes * pixel);
+    Arrange();
+}
+
+void frmFilters::RefillList(toolkit::ComboBox& box, std::int32_t firstText,
+                            std::int32_t secondText) {
+    const int selected = box.ListIndex();
+    box.Clear();
+    box.AddItem(around_.strings.GetInterfaceString(firstText));
+    box.AddItem(around_.strings.GetInterfaceString(secondText));
+    box.SetListIndex(selected);
+}
+
+// One row, the boxes as high as their font makes them; the filter box takes the width that the
+// others leave.
+void frmFilters::Arrange() {
+    const toolkit::Size inside = ClientSize();
+    const Twips height = cboSource.Height();
+    const Twips top = std::max<Twips>((inside.height - height) / 2, 0);
+    Twips right = inside.width - kEdge;
+    const auto place = [&](toolkit::Control& control, Twips width, Twips ownHeight) {
+        const Twips ownTop = std::max<Twips>((inside.height - ownHeight) / 2, 0);
+        control.Move({right - width, ownTop, width, ownHeight});
+        right -= width + kGap;
+    };
+    place(cmdCancel, kCancelWidth, height);
+    place(Toolbar1, kBarWidth, std::min(kBarHeight, inside.height));
+    place(cboSource, kSourceWidth, height);
+    place(cboContains, kContainsWidth, height);
+    cboFilter.Move({kEdge, top, std::max<Twips>(right - kEdge, 0), height});
+}
+
+void frmFilters::ApplyTypedText() {
+    around_.settings.FilterText = cboFilter.Text();
+    around_.applyFilter();
+}
+
+void frmFilters::ApplyAndRemember() {
+    ApplyTypedText();
+    around_.history.AddToHistory(cboFilter, kHistoryKey, kHistoryLength);
+}
+
+void frmFilters::ApplyIfFiltering() {
+    if (!around_.settings.FilterText.empty())
+        around_.applyFilter();
+}
+
+void frmFilters::RemoveFilter() {
+    cboFilter.SetText("");
+    ApplyAndRemember();
+}
+
+void frmFilters::ApplyOperation(int entry) {
+    const toolkit::ToolBar::MenuEntry chosen =
+        Toolbar1.ButtonAt(kApplyButton).menu.at(static_cast<std::size_t>(entry));
+    if (chosen.key.empty())
+        return;  // a separator
+    cboFilter.SetText(chosen.text);
+    // An operation stands right behind the clock time and its colon, so that the word in a path is
+    // not meant; an outcome can stand anywhere behind that.
+    around_.settings.FilterText =
+        OperationKeywords::IsOperation(chosen.key) ? ": " + chosen.text : chosen.text;
+    cboFilter.SelectText(Utf8ToUtf16(chosen.text).size(), 0);
+    around_.applyFilter();
+}
+
+// The close box hides; only the end of the program unloads. Both save the place.
+void frmFilters::AboutToClose(bool& keep) {
+    around_.settings.SaveWindowPosition(*this, false);
+    if (ending_)
+        return;
+    keep = true;
+    Hide();
+}
+
+void frmFilters::UnloadAtEnd() {
+    ending_ = true;
+    Unload();
+}
+
+}  // namespace ordalyn

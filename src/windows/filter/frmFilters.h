@@ -1,0 +1,64 @@
+// frmFilters: the filter dialog, a small tool window beside the main window. Every choice in it
+// applies the filter at once. It is only hidden when it is closed; it ends with the program.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "settings/InterfaceStrings.h"
+#include "settings/mAppSpecific.h"
+#include "toolkit/Form.h"
+#include "windows/common/FormLanguage.h"
+#include "windows/common/InputHistory.h"
+#include "windows/filter/OperationKeywords.h"
+#include "windows/filter/PanelFilter.h"
+
+namespace ordalyn {
+
+class frmFilters : public toolkit::Form {
+  public:
+    struct Surroundings {
+        mAppSpecific& settings;
+        const InterfaceStrings& strings;
+        FormLanguage& language;
+        InputHistory& history;
+        OperationKeywords::Surroundings keywords;
+        // The main window's ApplyFilter(true).
+        std::function<void()> applyFilter;
+    };
+
+    // Loads the dialog, hidden, with an empty filter. The first activation after it is shown loads
+    // the operation words.
+    frmFilters(toolkit::Toolkit& toolkit, const Surroundings& around);
+
+    // Gives the boxes their texts, fonts and colours and the dialog the height that they need.
+    // Filters nothing.
+    void LoadInterface();
+    FilterChoice Choice() const;
+    void FocusFilter() { cboFilter.SetFocus(); }
+    // Unloads the dialog, which a user's close only hides.
+    void UnloadAtEnd();
+
+  private:
+    void WireControls();
+    void RefillList(toolkit::ComboBox& box, std::int32_t firstText, std::int32_t secondText);
+    void Arrange();
+    void ApplyTypedText();
+    void ApplyAndRemember();
+    void ApplyIfFiltering();
+    void RemoveFilter();
+    void ApplyOperation(int entry);
+    void AboutToClose(bool& keep);
+
+    Surroundings around_;
+    toolkit::ComboBox& cboFilter;
+    toolkit::ComboBox& cboContains;
+    toolkit::ComboBox& cboSource;
+    toolkit::ToolBar& Toolbar1;
+    toolkit::CommandButton& cmdCancel;
+    OperationKeywords keywords_;
+    bool activated_ = false;
+    bool ending_ = false;
+};
+
+}  // namespace ordalyn

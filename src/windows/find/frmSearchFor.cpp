@@ -1,0 +1,195 @@
+#include "windows/find/frmSearchFor.h"
+
+#include <string>
+
+#include "base/Text.h"
+#include "hostconfig/mAppCommon.h"
+
+namespace ordalyn {
+
+using toolkit::Kind;
+using toolkit::Twips;
+
+namespace {
+
+constexpr std::string_view kHistoryKey = "Find";
+constexpr int kHistoryLength = 32;
+constexpr std::int32_t kCannotFindText = 259;
+constexpr std::int32_t kSourceColumn = 0, kTargetColumn = 1;
+
+constexpr Twips kEdge = 120;
+// The gap is for languages written from right to left: their label ends at the box.
+constexpr Twips kLabelWidth = 1440, kLabelGap = 75, kBoxWidth = 3975;
+constexpr Twips kBoxLeft = kEdge + kLabelWidth + kLabelGap;
+constexpr Twips kFrameTop = 600, kFrameWidth = 2550, kFrameHeight = 1095;
+constexpr Twips kOptionWidth = 2250, kLine = 240;
+constexpr Twips kChecksLeft = kEdge + kFrameWidth + 165;
+constexpr Twips kButtonsLeft = kBoxLeft + kBoxWidth + 180;
+constexpr Twips kChecksWidth = kButtonsLeft - 105 - kChecksLeft;
+constexpr Twips kButtonWidth = 1710, kButtonHeight = 375;
+
+// In tab order. The label's access key belongs to the box behind it.
+constexpr toolkit::ControlDesign kControls[] = {
+    {.kind = Kind::Label,
+     .name = "Label1",
+     .tag = "254",
+     .bounds = {kEdge, 180, kLabelWidth, kLine}},
+    {.kind = Kind::ComboBox,
+     .name = "cboFindWhat",
+     .bounds = {kBoxLeft, 135, kBoxWidth, 315},
+     .editable = true},
+    {.kind = Kind::Frame,
+     .name = "Frame1",
+     .tag = "255",
+     .bounds = {kEdge, kFrameTop, kFrameWidth, kFrameHeight}},
+    {.kind = Kind::OptionButton,
+     .name = "optColumn",
+     .tag = "4003",
+     .bounds = {150, 315, kOptionWidth, kLine},
+     .container = "Frame1",
+     .index = 0},
+    {.kind = Kind::OptionButton,
+     .name = "optColumn",
+     .tag = "4004",
+     .bounds = {150, 675, kOptionWidth, kLine},
+     .container = "Frame1",
+     .index = 1},
+    {.kind = Kind::CheckBox,
+     .name = "chkWholeWord",
+     .tag = "258",
+     .bounds = {kChecksLeft, kFrameTop + 315, kChecksWidth, kLine}},
+    {.kind = Kind::CheckBox,
+     .name = "chkSelectedDate",
+     .tag = "4016",
+     .bounds = {kChecksLeft, kFrameTop + 675, kChecksWidth, kLine}},
+    {.kind = Kind::CommandButton,
+     .name = "cmdFindNext",
+     .tag = "252",
+     .bounds = {kButtonsLeft, 105, kButtonWidth, kButtonHeight},
+     .isDefault = true},
+    {.kind = Kind::CommandButton,
+     .name = "cmdCancel",
+     .tag = "1009",
+     .bounds = {kButtonsLeft, 570, kButtonWidth, kButtonHeight},
+     .isCancel = true},
+    {.kind = Kind::CommandButton,
+     .name = "cmdClearList",
+     .tag = "109",
+     .bounds = {kButtonsLeft, kFrameTop + kFrameHeight - kButtonHeight, kButtonWidth,
+                kButtonHeight}},
+};
+
+constexpr toolkit::FormDesign kDesign = {
+    .name = "frmSearchFor",
+    .tag = "253",
+    .clientSize = {kButtonsLeft + kButtonWidth + kEdge, kFrameTop + kFrameHeight + kEdge},
+    .style = {},
+    .controls = kControls,
+};
+
+}  // namespace
+
+frmSearchFor::frmSearchFor(toolkit::Toolkit& toolkit, const Surroundings& around)
+    : Form(toolkit, kDesign),
+      around_(around),
+      cboFindWhat(Get<toolkit::ComboBox>("cboFindWhat")),
+      chkWholeWord(Get<toolkit::CheckBox>("chkWholeWord")),
+      chkSelectedDate(Get<toolkit::CheckBox>("chkSelectedDate")),
+      cmdFindNext(Get<toolkit::CommandButton>("cmdFindNext")),
+      cmdClearList(Get<toolkit::CommandButton>("cmdClearList")) {
+    // There is no text yet, and the source is searched unless the options say otherwise.
+    cmdFindNext.SetEnabled(false);
+    Options().optSource.SetChecked(true);
+    WireControls();
+    around_.language.ApplyLanguage(*this);
+    CentreOnScreen();
+    cmdClearList.SetEnabled(false);
+    around_.history.LoadHistory(cboFindWhat, kHistoryKey, kHistoryLength);
+    around_.settings.LoadFindOptions(Options());
+}
+
+FindOptionControls frmSearchFor::Options() {
+    return {cboFindWhat, Get<toolkit::OptionButton>("optColumn", kSourceColumn),
+            Get<toolkit::OptionButton>("optColumn", kTargetColumn), chkWholeWord, chkSelectedDate};
+}
+
+void frmSearchFor::WireControls() {
+    cboFindWhat.Change.Subscribe([this] { TextChanged(); });
+    cboFindWhat.Click.Subscribe([this] { TextChanged(); });
+    chkWholeWord.Click.Subscribe([this] { StartItem = 0; });
+    // Deliberately nothing for chkSelectedDate: the search goes on where it is.
+    Options().optSource.Click.Subscribe([this] { ColumnChosen(kSourceColumn); });
+    Options().optTarget.Click.Subscribe([this] { ColumnChosen(kTargetColumn); });
+    cmdFindNext.Click.Subscribe([this] {
+        FindNextString();
+        around_.history.AddToHistory(cboFindWhat, kHistoryKey, kHistoryLength);
+    });
+    cmdClearList.Click.Subscribe([this] { ClearList(); });
+    Get<toolkit::CommandButton>("cmdCancel").Click.Subscribe([this] { Hide(); });
+    Activate.Subscribe([this] {
+        cboFindWhat.SetFocus();
+        if (cboFindWhat.ListCount() > 0)
+            cmdClearList.SetEnabled(true);
+    });
+    QueryUnload.Subscribe([this](bool& keep) {
+        if (ending_)
+            return;
+        keep = true;
+        Hide();
+    });
+    Unloading.Subscribe(
+        [this] { around_.settings.SaveFindOptions(Options(), around_.settings.ColumnNo); });
+}
+
+void frmSearchFor::TextChanged() {
+    const bool searchable = !cboFindWhat.Text().empty();
+    cmdFindNext.SetEnabled(searchable);
+    around_.mnuSearchFindNext.SetEnabled(searchable);
+    StartItem = 0;
+}
+
+void frmSearchFor::ColumnChosen(std::int32_t column) {
+    StartItem = 0;
+    around_.settings.ColumnNo = column;
+}
+
+void frmSearchFor::ClearList() {
+    if (!around_.history.ClearHistory(cboFindWhat, kHistoryKey, kHistoryLength, *this))
+        return;
+    cmdFindNext.SetEnabled(false);
+    cmdClearList.SetEnabled(false);
+}
+
+void frmSearchFor::FindNextString() {
+    if (!cmdFindNext.Enabled()) {
+        toolkit().Beep();
+        return;
+    }
+    const std::string text = cboFindWhat.Text();
+    StartItem = around_.search.FindString(text, StartItem, around_.settings.ColumnNo,
+                                          chkWholeWord.Checked() ? 1 : 0,
+                                          chkSelectedDate.Checked() ? 1 : 0);
+    if (StartItem != EntrySearch::kNotFound)
+        return;
+    toolkit().ShowMessage(Visible() ? this : &around_.mainWindow,
+                          around_.strings.GetInterfaceString(kCannotFindText) + " \"" + text + "\"",
+                          mAppCommon::kProgramTitle, toolkit::MessageIcon::Information);
+    StartItem = 0;
+}
+
+void frmSearchFor::PreSelectText() {
+    cboFindWhat.SelectText(0, Utf8ToUtf16(cboFindWhat.Text()).size());
+}
+
+void frmSearchFor::AllowSelectedDate(bool allowed) {
+    if (!allowed)
+        chkSelectedDate.SetChecked(false);
+    chkSelectedDate.SetEnabled(allowed);
+}
+
+void frmSearchFor::UnloadAtEnd() {
+    ending_ = true;
+    Unload();
+}
+
+}  // namespace ordalyn

@@ -1,0 +1,175 @@
+#include "windows/main/MainWindowLayout.h"
+
+#include "base/Attempt.h"
+#include "base/CheckedMath.h"
+#include "toolkit/ScopedPointer.h"
+
+namespace ordalyn {
+
+using toolkit::Twips;
+
+namespace {
+
+// Pixels between and around the controls.
+constexpr std::int32_t kBelowCombos = 4;
+constexpr std::int32_t kFrames = 10;
+constexpr std::int32_t kBarThickness = 3;
+
+Twips Pixels(std::int32_t count, std::int32_t twipsPerPixel) {
+    return static_cast<Twips>(CheckedMultiply(count, twipsPerPixel));
+}
+
+}  // namespace
+
+MainWindowLayout::MainWindowLayout(const Controls& controls, cSplitter& splitter,
+                                   SettingsValues& settings, PixelSize pixel,
+                                   std::function<std::string()> targetCaption,
+                                   std::function<void(int)> rowSelected)
+    : controls_(controls),
+      splitter_(splitter),
+      settings_(settings),
+      pixel_(pixel),
+      targetCaption_(std::move(targetCaption)),
+      rowSelected_(std::move(rowSelected)) {}
+
+void MainWindowLayout::ArrangeFirstTime() {
+    controls_.picSpliterContainer.SetLeft(static_cast<Twips>(pixel_.x));
+    const bool statusBar = settings_.StatusBarVisible != 0;
+    controls_.StatusBar1.SetVisible(statusBar);
+    controls_.mnuViewStatusBar.SetChecked(statusBar);
+    const bool twoPanels = settings_.TwoPanels != 0;
+    controls_.mnuViewTwoPanels.SetChecked(twoPanels);
+    controls_.mnuViewVerticalPanels.SetChecked(settings_.VerticalPanels != 0);
+    controls_.mnuViewVerticalPanels.SetEnabled(twoPanels);
+    // Flipped back by the change, which makes the arrangement; with one panel it waits out of sight
+    // for the second one.
+    settings_.VerticalPanels = CheckedAdd(settings_.VerticalPanels, 1) % 2;
+    ChangePanelsOrientation(false);
+    if (!twoPanels) {
+        controls_.picSpliterContainer.SetVisible(false);
+        PutSourceListOnWindow();
+    }
+    WindowResized();
+}
+
+Twips MainWindowLayout::StatusBarHeight() const {
+    return controls_.StatusBar1.Visible() ? controls_.StatusBar1.Height() : 0;
+}
+
+void MainWindowLayout::WindowResized() {
+    Attempt([this] {
+        const auto comboHeight = static_cast<Twips>(RoundToLong(controls_.cboDate.Height()));
+        const Twips top = comboHeight + Pixels(kBelowCombos, pixel_.y);
+        // The width comes from the outer width, the height from the inside: deliberately mixed.
+        const Twips height = controls_.form.ClientSize().height - top - StatusBarHeight();
+        const Twips width = controls_.form.Width() - Pixels(kFrames, pixel_.x);
+        if (settings_.TwoPanels != 0) {
+            Attempt([&] { controls_.picSpliterContainer.SetTop(top); });
+            splitter_.Resize(height, width);
+        } else {
+            Attempt([&] { controls_.SourceListView.SetTop(top); });
+            Attempt([&] { controls_.SourceListView.SetHeight(height); });
+            Attempt([&] { controls_.SourceListView.SetWidth(width); });
+        }
+    });
+}
+
+void MainWindowLayout::CreateSplitter(std::int32_t direction, std::int32_t position) {
+    // The bar's thickness is measured with the horizontal factor in both directions, deliberately.
+    splitter_.CreateSplitter(controls_.picSpliterContainer, controls_.Frame1,
+                             controls_.SourceListView, controls_.TargetListView, direction,
+                             position, CheckedMultiply(kBarThickness, pixel_.x), 0, 0, 0, 0);
+}
+
+void MainWindowLayout::ChangePanelsOrientation(bool blnSaveCurrent) {
+    if (settings_.VerticalPanels != 1) {
+        settings_.VerticalPanels = 1;
+        controls_.mnuViewVerticalPanels.SetChecked(true);
+        if (blnSaveCurrent)
+            settings_.HSplitPosition = RoundToLong(splitter_.SplitPosition());
+        CreateSplitter(cSplitter::kSideBySide, settings_.VSplitPosition);
+    } else {
+        settings_.VerticalPanels = 0;
+        controls_.mnuViewVerticalPanels.SetChecked(false);
+        if (blnSaveCurrent)
+            settings_.VSplitPosition = RoundToLong(splitter_.SplitPosition());
+        CreateSplitter(cSplitter::kStacked, settings_.HSplitPosition);
+    }
+}
+
+void MainWindowLayout::ToggleTwoPanels() {
+    const bool twoPanels = settings_.TwoPanels == 0;
+    settings_.TwoPanels = twoPanels ? 1 : 0;
+    controls_.mnuViewTwoPanels.SetChecked(twoPanels);
+    controls_.mnuViewVerticalPanels.SetEnabled(twoPanels);
+    ChangePanelsCount();
+}
+
+void MainWindowLayout::ChangePanelsCount() {
+    const toolkit::ScopedPointer hourglass(controls_.form.toolkit(), toolkit::Pointer::Hourglass);
+    if (settings_.TwoPanels != 0)
+        MoveToTwoPanels();
+    else
+        MoveToOnePanel();
+    const int selected = controls_.SourceListView.SelectedRow();
+    // What cannot follow the selection does not keep the window from being laid out.
+    Attempt([&] {
+        if (selected >= 0)
+            rowSelected_(selected);
+    });
+    WindowResized();
+    controls_.SourceListView.SetFocus();
+}
+
+void MainWindowLayout::MoveToTwoPanels() {
+    toolkit::ListView& source = controls_.SourceListView;
+    toolkit::ListView& target = controls_.TargetListView;
+    // The two panels show the same rows of the same source.
+    target.Fill(source.Source(), source.RowTags());
+    // The orientation is flipped back by the next step, which makes the arrangement anew.
+    settings_.VerticalPanels = CheckedAdd(settings_.VerticalPanels, 1) % 2;
+    target.SetColumnWidth(0, source.ColumnWidth(kTargetField));
+    ChangePanelsOrientation(false);
+    source.RemoveLastColumn();
+    controls_.picSpliterContainer.SetVisible(true);
+}
+
+void MainWindowLayout::MoveToOnePanel() {
+    controls_.picSpliterContainer.SetVisible(false);
+    controls_.SourceListView.AddColumn(targetCaption_(), controls_.TargetListView.ColumnWidth(0),
+                                       kTargetField);
+    PutSourceListOnWindow();
+    controls_.TargetListView.ClearRows();
+}
+
+void MainWindowLayout::PutSourceListOnWindow() {
+    toolkit::ListView& source = controls_.SourceListView;
+    source.SetContainer(controls_.form);
+    source.SetLeft(static_cast<Twips>(pixel_.x));
+    source.SetTop(controls_.cboDate.Height() + Pixels(kBelowCombos, pixel_.y));
+}
+
+void MainWindowLayout::ToggleStatusBar() {
+    const bool visible = settings_.StatusBarVisible != 1;
+    controls_.StatusBar1.SetVisible(visible);
+    controls_.mnuViewStatusBar.SetChecked(visible);
+    settings_.StatusBarVisible = visible ? 1 : 0;
+    WindowResized();
+}
+
+void MainWindowLayout::SaveSplitterSettings(cProfile& profile, const std::string& settingsFile) {
+    // A single panel has no bar: what the file says about two panels stays.
+    if (settings_.TwoPanels == 0)
+        return;
+    const std::int32_t position = RoundToLong(splitter_.SplitPosition());
+    (settings_.VerticalPanels != 0 ? settings_.VSplitPosition : settings_.HSplitPosition) =
+        position;
+    const auto write = [&](const char* key, std::int32_t value) {
+        profile.WriteValue("Ordalyn", key, std::to_string(value), settingsFile);
+    };
+    write("VerticalPanels", settings_.VerticalPanels);
+    write("VSplitPosition", settings_.VSplitPosition);
+    write("HSplitPosition", settings_.HSplitPosition);
+}
+
+}  // namespace ordalyn

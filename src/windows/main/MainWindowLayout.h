@@ -1,0 +1,81 @@
+// MainWindowLayout places the main window's controls and switches between its three arrangements:
+// two panels side by side, two panels one above the other, a single panel.
+//
+// In the two-panel arrangements the panels live in picSpliterContainer and are arranged by the
+// splitter. A single panel is SourceListView directly on the window, with the targets as its last
+// column; TargetListView then has no rows.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "hostconfig/cProfile.h"
+#include "settings/SettingsTable.h"
+#include "toolkit/Form.h"
+#include "windows/main/cSplitter.h"
+
+namespace ordalyn {
+
+class MainWindowLayout {
+  public:
+    struct Controls {
+        toolkit::Form& form;
+        toolkit::ComboBox& cboDate;
+        toolkit::PictureBox& picSpliterContainer;
+        toolkit::Frame& Frame1;
+        toolkit::ListView& SourceListView;
+        toolkit::ListView& TargetListView;
+        toolkit::StatusBar& StatusBar1;
+        toolkit::MenuItem& mnuViewStatusBar;
+        toolkit::MenuItem& mnuViewTwoPanels;
+        toolkit::MenuItem& mnuViewVerticalPanels;
+    };
+    // Whole twips for one pixel of the screen.
+    struct PixelSize {
+        std::int32_t x;
+        std::int32_t y;
+    };
+    // The text field of a row that a column for targets shows.
+    static constexpr int kTargetField = 2;
+
+    // `targetCaption` answers the caption of a column for targets; `rowSelected` is run after a
+    // change of arrangement for the selected row (0-based), so that everything follows it.
+    MainWindowLayout(const Controls& controls, cSplitter& splitter, SettingsValues& settings,
+                     PixelSize pixel, std::function<std::string()> targetCaption,
+                     std::function<void(int row)> rowSelected);
+
+    // Sets the menu's marks and makes the first arrangement as the settings say. The columns must
+    // be there already.
+    void ArrangeFirstTime();
+    // The window has another size. Whatever cannot be placed stays as it is.
+    void WindowResized();
+
+    void ToggleStatusBar();
+    void ToggleTwoPanels();
+    void ToggleVerticalPanels() { ChangePanelsOrientation(true); }
+
+    // Turns side by side into stacked or the other way round. `blnSaveCurrent` keeps the bar's
+    // position of the arrangement that is left.
+    void ChangePanelsOrientation(bool blnSaveCurrent);
+    // Brings the window into the mode that the TwoPanels setting now says.
+    void ChangePanelsCount();
+    // Writes the orientation and both bar positions. With a single panel it writes nothing at all.
+    void SaveSplitterSettings(cProfile& profile, const std::string& settingsFile);
+
+  private:
+    toolkit::Twips StatusBarHeight() const;
+    void CreateSplitter(std::int32_t direction, std::int32_t position);
+    void MoveToTwoPanels();
+    void MoveToOnePanel();
+    void PutSourceListOnWindow();
+
+    Controls controls_;
+    cSplitter& splitter_;
+    SettingsValues& settings_;
+    PixelSize pixel_;
+    std::function<std::string()> targetCaption_;
+    std::function<void(int)> rowSelected_;
+};
+
+}  // namespace ordalyn

@@ -1,0 +1,95 @@
+// frmMain: the main window. It owns the log's entries and the parts that work on them, wires the
+// parts to each other and to menus, keys and mouse, and offers what other forms ask of it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "hostconfig/TotalCommanderLocator.h"
+#include "log/EntryLists.h"
+#include "log/LogReader.h"
+#include "toolkit/Form.h"
+#include "windows/find/FindCommands.h"
+#include "windows/main/CopyCommands.h"
+#include "windows/main/LogFileReading.h"
+#include "windows/main/LogFileSet.h"
+#include "windows/main/MainWindowLayout.h"
+#include "windows/main/PanelColumns.h"
+#include "windows/main/SharedObjects.h"
+#include "windows/panels/DayPanels.h"
+#include "windows/progress/ProgressWindow.h"
+
+namespace ordalyn {
+
+class frmAbout;
+class frmOptions;
+
+class frmMain : public toolkit::Form {
+  public:
+    // Loads the window, hidden. The first activation after it is shown finds the log and reads it.
+    explicit frmMain(SharedObjects& shared);
+    ~frmMain() override;
+
+    // Applies fonts, borders, colours and the rest of the visual settings to the window's controls.
+    void ApplySettings();
+    // Labels the list of dates anew; non-zero means long dates.
+    void ApplyNewDateFormat(std::int32_t lngLd) { panels_.ApplyNewDateFormat(lngLd); }
+    // The window's caption: program, version and the text.
+    void SetTitle(std::string_view text);
+
+    // Shuts the other windows down; run by the window when it has been closed and saved.
+    toolkit::Event<> ShutDown;
+
+  private:
+    DayPanels::Controls PanelControls();
+    MainWindowLayout::Controls LayoutControls();
+    LogFileReading::Surroundings ReadingSurroundings();
+    LogFileSet::Surroundings FileSetSurroundings();
+    std::string Text(std::int32_t id) const { return shared_.strings->GetInterfaceString(id); }
+
+    FindCommands::Surroundings FindSurroundings();
+
+    // Load and close.
+    void WireMenus();
+    void WirePanels();
+    void LoadRecentFiles();
+    void Close();
+
+    // Events.
+    void FirstActivation();
+    void SourceRowClicked(int row);
+    void TargetRowClicked(int row);
+    void ShowEntryOfRow(int row);
+    void KeyReleased(int key, toolkit::Modifiers modifiers);
+    void OpenLog(const std::string& path);
+    void OpenRecentFile(std::int32_t index);
+    void RefreshLog();
+    void ShowOptions();
+    void ApplyNewLanguage();
+
+    SharedObjects& shared_;
+    toolkit::ComboBox& cboDate;
+    toolkit::ComboBox& cboFiles;
+    toolkit::ListView& SourceListView;
+    toolkit::ListView& TargetListView;
+    toolkit::StatusBar& StatusBar1;
+
+    EntryLists entries_;
+    PanelColumns columns_;
+    CopyCommands copy_;
+    LogReader reader_;
+    DayPanels panels_;
+    ProgressWindow progress_;
+    LogFileReading reading_;
+    LogFileSet files_;
+    MainWindowLayout layout_;
+    TotalCommanderLocator locator_;
+    FindCommands find_;
+    // While they are shown.
+    std::unique_ptr<frmAbout> about_;
+    std::unique_ptr<frmOptions> options_;
+    bool activated_ = false;
+};
+
+}  // namespace ordalyn

@@ -1,0 +1,151 @@
+#include "support/settings/SettingsFixture.h"
+
+namespace ordalyn::test {
+namespace {
+
+using toolkit::Rect;
+using toolkit::WindowState;
+
+constexpr toolkit::FormDesign kMainDesign = {.name = "frmMain",
+                                             .tag = "",
+                                             .clientSize = {5000, 3000},
+                                             .style = {.resizable = true, .maximiseBox = true},
+                                             .controls = {}};
+constexpr toolkit::FormDesign kFiltersDesign = {
+    .name = "frmFilters", .tag = "", .clientSize = {8000, 600}, .style = {}, .controls = {}};
+
+class RestoreWindowPosition : public SettingsFixture {
+  protected:
+    toolkit::Form form{toolkit, kMainDesign};
+    toolkit::Form filters{toolkit, kFiltersDesign};
+};
+using SaveWindowPosition = RestoreWindowPosition;
+
+TEST_F(RestoreWindowPosition, WithoutAnEntryTheDefaultCounts) {
+    settings.RestoreWindowPosition(form, true, kMainPlacement);
+    EXPECT_EQ(form.Bounds(), (Rect{0, 0, 12030, 8520}));
+    EXPECT_EQ(form.State(), WindowState::Normal);
+    settings.RestoreWindowPosition(filters, false, kFiltersPlacement);
+    EXPECT_EQ(filters.Bounds(), (Rect{3495, 7740, 8910, 795}));
+}
+
+TEST_F(RestoreWindowPosition, EachFormHasItsOwnEntries) {
+    Put("Ordalyn", "MainPosition", "10,20,3000,4000");
+    Put("Ordalyn", "FiltersPosition", "30,40,9000,800");
+    settings.RestoreWindowPosition(form, true, kMainPlacement);
+    settings.RestoreWindowPosition(filters, false, kFiltersPlacement);
+    EXPECT_EQ(form.Bounds(), (Rect{10, 20, 3000, 4000}));
+    EXPECT_EQ(filters.Bounds(), (Rect{30, 40, 9000, 800}));
+}
+
+TEST_F(RestoreWindowPosition, APlacementOffTheScreenIsKept) {
+    Put("Ordalyn", "MainPosition", "-90000,90000,3000,4000");
+    settings.RestoreWindowPosition(form, true, kMainPlacement);
+    EXPECT_EQ(form.Bounds(), (Rect{-90000, 90000, 3000, 4000}));
+}
+
+struct Parts {
+    const char* stored;
+    Rect expected;
+};
+constexpr Parts kParts[] = {
+    {"150 ,60 twips, 3000x,4000", {150, 60, 3000, 4000}},
+    {"left,top,3000,4000", {0, 0, 3000, 4000}},
+    {",,3000,4000", {0, 0, 3000, 4000}},
+    {"10,20,3000,4000,99", {10, 20, 3000, 4000}},
+    {"1.5,2,3000,4000", {1.5F, 2, 3000, 4000}},
+    {"100,200,3000", {100, 200, 3000, 0}},
+    {"100", {100, 0, 0, 0}},
+};
+
+TEST_F(RestoreWindowPosition, PartsThatAreMissingOrNoNumbersAreZero) {
+    for (const Parts& parts : kParts) {
+        Put("Ordalyn", "MainPosition", parts.stored);
+        settings.RestoreWindowPosition(form, false, kMainPlacement);
+        EXPECT_EQ(form.Bounds(), parts.expected) << parts.stored;
+    }
+}
+
+TEST_F(RestoreWindowPosition, APlacementThatTheFormRefusesLeavesItInPlaceAndTheStateIsStillSet) {
+    const Rect before = form.Bounds();
+    Put("Ordalyn", "MainWindowState", "2");
+    for (const char* refused : {"10,20,-3000,4000", "10,20,3000,-1", "1e300,0,3000,4000"}) {
+        Put("Ordalyn", "MainPosition", refused);
+        settings.RestoreWindowPosition(form, true, kMainPlacement);
+        EXPECT_EQ(form.State(), WindowState::Maximised) << refused;
+        form.SetState(WindowState::Normal);
+        EXPECT_EQ(form.Bounds(), before) << refused;
+    }
+}
+
+struct State {
+    const char* stored;
+    WindowState expected;
+};
+constexpr State kStates[] = {
+    {"0", WindowState::Normal},    {"1", WindowState::Normal},  // never starts minimised
+    {"2", WindowState::Maximised}, {"2 maximised", WindowState::Maximised},
+    {"", WindowState::Normal},     {"two", WindowState::Normal},
+};
+
+TEST_F(RestoreWindowPosition, TheStoredStateIsSetExceptMinimised) {
+    for (const State& state : kStates) {
+        form.SetState(state.expected == WindowState::Normal ? WindowState::Maximised
+                                                            : WindowState::Normal);
+        Put("Ordalyn", "MainWindowState", state.stored);
+        settings.RestoreWindowPosition(form, true, kMainPlacement);
+        EXPECT_EQ(form.State(), state.expected) << state.stored;
+    }
+}
+
+TEST_F(RestoreWindowPosition, AStateThatDoesNotExistLeavesTheForm) {
+    Put("Ordalyn", "MainWindowState", "7");
+    settings.RestoreWindowPosition(form, true, kMainPlacement);
+    EXPECT_EQ(form.State(), WindowState::Normal);
+}
+
+TEST_F(RestoreWindowPosition, WithoutTheFlagTheStateIsNotTouched) {
+    Put("Ordalyn", "MainWindowState", "2");
+    settings.RestoreWindowPosition(form, false, kMainPlacement);
+    EXPECT_EQ(form.State(), WindowState::Normal);
+}
+
+TEST_F(SaveWindowPosition, WritesWholeTwipsAndTheState) {
+    form.Move({-10.75F, 20.75F, 3000.5F, 4000});
+    settings.SaveWindowPosition(form, true);
+    EXPECT_EQ(Stored("Ordalyn", "MainPosition"), "-10,20,3000,4000");
+    EXPECT_EQ(Stored("Ordalyn", "MainWindowState"), "0");
+}
+
+TEST_F(SaveWindowPosition, WithoutTheFlagOnlyThePlacementIsWritten) {
+    filters.Move({1, 2, 9000, 800});
+    settings.SaveWindowPosition(filters, false);
+    EXPECT_EQ(Stored("Ordalyn", "FiltersPosition"), "1,2,9000,800");
+    EXPECT_EQ(Stored("Ordalyn", "FiltersWindowState"), "(absent)");
+}
+
+TEST_F(SaveWindowPosition, AMaximisedFormKeepsItsStoredPlacement) {
+    Put("Ordalyn", "MainPosition", "10,20,3000,4000");
+    form.SetState(WindowState::Maximised);
+    settings.SaveWindowPosition(form, true);
+    EXPECT_EQ(Stored("Ordalyn", "MainPosition"), "10,20,3000,4000");
+    EXPECT_EQ(Stored("Ordalyn", "MainWindowState"), "2");
+}
+
+TEST_F(SaveWindowPosition, AMinimisedFormKeepsItsStoredPlacement) {
+    form.SetState(WindowState::Minimised);
+    settings.SaveWindowPosition(form, true);
+    EXPECT_EQ(Stored("Ordalyn", "MainPosition"), "(absent)");
+    EXPECT_EQ(Stored("Ordalyn", "MainWindowState"), "1");
+}
+
+TEST_F(SaveWindowPosition, WhatIsSavedIsRestored) {
+    form.Move({15, 30, 6000, 4500});
+    settings.SaveWindowPosition(form, true);
+    form.Move({0, 0, 1, 1});
+    settings.RestoreWindowPosition(form, true, kMainPlacement);
+    EXPECT_EQ(form.Bounds(), (Rect{15, 30, 6000, 4500}));
+}
+
+}  // namespace
+}  // namespace ordalyn::test

@@ -1,0 +1,239 @@
+#include "windows/main/LogFileSet.h"
+
+#include "support/windows/LogWindow.h"
+
+namespace ordalyn {
+namespace {
+
+using test::LogWindow;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class LogFileSetTest : public LogWindow {
+  protected:
+    LogFileSetTest() {
+        Write(kLog, {"03.03.2024 10:00:00: Copy live -> l"});
+        Write("C:\\logs\\x_old.log", {"01.03.2024 10:00:00: Copy old -> o"});
+        Write("C:\\logs\\xa.log",
+              {"02.03.2024 10:00:00: Copy a -> a", "03.03.2024 09:00:00: Move b"});
+    }
+};
+
+TEST_F(LogFileSetTest, OffersAllFilesTheLiveLogAndItsSiblings) {
+    files.BuildLogFileList();
+    EXPECT_THAT(Files(), ElementsAre("All files", "x.log", "x_old.log", "xa.log"));
+    EXPECT_TRUE(cboFiles.Visible());
+    EXPECT_EQ(cboFiles.Text(), "x.log");
+    EXPECT_EQ(files.LiveLogName(), "x.log");
+    EXPECT_EQ(files.LogFolder(), "C:\\logs\\");
+    EXPECT_THAT(progress.steps, IsEmpty());  // selected without reading
+}
+
+TEST_F(LogFileSetTest, NumberedSiblingsAreThoseThatExist) {
+    Write("C:\\logs\\x.1.log", {});
+    Write("C:\\logs\\x.3.log", {});
+    rotation.rotateLimit = "1000";
+    files.BuildLogFileList();
+    EXPECT_THAT(Files(), ElementsAre("All files", "x.log", "x.1.log", "x.3.log"));
+}
+
+TEST_F(LogFileSetTest, WithoutRotationTheListIsHiddenWhateverExists) {
+    files.BuildLogFileList();
+    ASSERT_TRUE(cboFiles.Visible());
+    rotation.rotateLimit = "0";
+    files.BuildLogFileList();
+    EXPECT_FALSE(cboFiles.Visible());
+}
+
+TEST_F(LogFileSetTest, ALiveLogAloneIsNotShown) {
+    system.files.Delete("C:\\logs\\x_old.log");
+    system.files.Delete("C:\\logs\\xa.log");
+    files.BuildLogFileList();
+    EXPECT_THAT(Files(), ElementsAre("x.log"));
+    EXPECT_FALSE(cboFiles.Visible());
+}
+
+TEST_F(LogFileSetTest, WithoutALogFileTheListIsEmptyAndStaysAsItWas) {
+    files.BuildLogFileList();
+    rotation.logFileAbsent = true;
+    rotation.logFile = "vxz20261116000503zxv";
+    files.BuildLogFileList();
+    EXPECT_THAT(Files(), IsEmpty());
+    EXPECT_TRUE(cboFiles.Visible());
+    EXPECT_EQ(files.LogFolder(), "");
+}
+
+TEST_F(LogFileSetTest, AChosenSiblingIsReadAloneAndCannotGrow) {
+    files.BuildLogFileList();
+    cboFiles.UserSelected(2);
+    EXPECT_EQ(reader.CurrentLogFile(), "C:\\logs\\x_old.log");
+    EXPECT_THAT(Sources(), ElementsAre("Copy old "));
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
+    EXPECT_THAT(remembered, IsEmpty());
+    cboFiles.UserSelected(1);
+    EXPECT_TRUE(mnuViewRefresh.Enabled());
+    EXPECT_THAT(Sources(), ElementsAre("Copy live "));
+}
+
+TEST_F(LogFileSetTest, TheLiveLogIsKnownInAnyLetterCase) {
+    rotation.logFile = "C:\\logs\\X.LOG";
+    files.BuildLogFileList();
+    EXPECT_THAT(Files(), ElementsAre("All files", "X.LOG", "x_old.log", "xa.log"));
+    cboFiles.UserSelected(2);
+    cboFiles.UserSelected(1);
+    EXPECT_TRUE(mnuViewRefresh.Enabled());
+}
+
+TEST_F(LogFileSetTest, PickingTheSelectedItemAgainDoesNothing) {
+    files.BuildLogFileList();
+    cboFiles.UserSelected(2);
+    progress.steps.clear();
+    cboFiles.UserSelected(2);
+    EXPECT_THAT(progress.steps, IsEmpty());
+}
+
+TEST_F(LogFileSetTest, BuildingTheListRecordsTheLiveLogsItemAsHandled) {
+    files.BuildLogFileList();
+    cboFiles.UserSelected(1);
+    EXPECT_THAT(progress.steps, IsEmpty());
+}
+
+TEST_F(LogFileSetTest, AllFilesReadsTheSiblingsInOrderAndTheLiveLogLast) {
+    files.BuildLogFileList();
+    cboFiles.UserSelected(0);
+    std::vector<std::string> names;
+    for (std::int32_t i = 0; i <= entries.EntryFiles().ListCount(); ++i)
+        names.emplace_back(entries.EntryFiles().List(i));
+    EXPECT_THAT(names, ElementsAre("x_old.log", "xa.log", "xa.log", "x.log"));
+    // The days are merged by position: the date that two files share is one run here.
+    EXPECT_THAT(Dates(), ElementsAre("All dates", "01.03.2024", "02.03.2024", "03.03.2024"));
+    EXPECT_EQ(panels.SelectedDay(), DayPanels::kAllDates);
+    EXPECT_THAT(progress.steps,
+                ElementsAre("tall x_old.log", "show Reading... Please wait. 2", "tall xa.log",
+                            "show Reading... Please wait. 3", "tall x.log",
+                            "show Reading... Please wait. 2", "hide"));
+    EXPECT_THAT(titles, ElementsAre("All files"));
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
+    EXPECT_EQ(reader.CurrentLogFile(), kLog);
+    EXPECT_EQ(reader.LineCount(), 2);
+    EXPECT_TRUE(form.Enabled());
+    for (const cStringArray* list :
+         {&entries.EntryDates(), &entries.EntrySources(), &entries.EntryTargets()})
+        EXPECT_THROW(list->List(4), SubscriptOutOfRange);  // trimmed, unlike the files
+    EXPECT_EQ(entries.EntryFiles().List(4), "");
+}
+
+TEST_F(LogFileSetTest, NothingOfTheMainWindowCanBeUsedWhileAllFilesAreRead) {
+    files.BuildLogFileList();
+    std::vector<bool> enabled;
+    tools.onDoEvents = [&] { enabled.push_back(form.Enabled()); };
+    cboFiles.UserSelected(0);
+    EXPECT_THAT(enabled, ElementsAre(false, false));
+}
+
+TEST_F(LogFileSetTest, AWindowThatClosesBetweenFilesEndsTheReadWithoutAWord) {
+    files.BuildLogFileList();
+    tools.onDoEvents = [&] {
+        reading.CancelReading = true;
+        reading.Stop();
+    };
+    cboFiles.UserSelected(0);
+    EXPECT_EQ(entries.EntryDates().ListCount(), 0);  // of the first sibling
+    EXPECT_EQ(SourceListView.RowCount(), 0);
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
+TEST_F(LogFileSetTest, CancelIsAskedAboutBetweenFilesWithNoAsTheDefault) {
+    files.BuildLogFileList();
+    int events = 0;
+    tools.onDoEvents = [&] {
+        if (++events == 1)
+            reading.CancelReading = true;
+    };
+    cboFiles.UserSelected(0);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text, "Are you sure?");
+    EXPECT_EQ(tools.messages[0].buttons, toolkit::MessageButtons::YesNo);
+    EXPECT_EQ(tools.messages[0].icon, toolkit::MessageIcon::Question);
+    EXPECT_EQ(tools.messages[0].defaultAnswer, toolkit::Answer::No);
+    // Answered with the default: the read goes on to its end.
+    EXPECT_FALSE(reading.CancelReading);
+    EXPECT_EQ(entries.EntryDates().ListCount(), 3);
+}
+
+TEST_F(LogFileSetTest, AStoppedReadShowsTheLiveLogAloneAndLeavesRefreshDisabled) {
+    files.BuildLogFileList();
+    tools.onDoEvents = [&] { reading.CancelReading = true; };
+    tools.onMessage = [](const test::ShownMessage&) { return toolkit::Answer::Yes; };
+    cboFiles.UserSelected(0);
+    EXPECT_THAT(Sources(), ElementsAre("Copy live "));
+    EXPECT_EQ(entries.EntryDates().ListCount(), 0);
+    EXPECT_TRUE(reading.CancelReading);
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
+    EXPECT_EQ(cboFiles.ListIndex(), 1);
+    EXPECT_EQ(titles.back(), kLog);
+    EXPECT_FALSE(progress.visible);
+    EXPECT_EQ(tools.focus, &SourceListView);
+    EXPECT_TRUE(form.Enabled());
+    // The selection was recorded without reading again.
+    progress.steps.clear();
+    cboFiles.UserSelected(1);
+    EXPECT_THAT(progress.steps, IsEmpty());
+    // The next read of all files is not asked about before somebody stops that one, too.
+    tools.onDoEvents = nullptr;
+    tools.messages.clear();
+    cboFiles.UserSelected(0);
+    EXPECT_THAT(tools.messages, IsEmpty());
+    EXPECT_FALSE(reading.CancelReading);
+    EXPECT_EQ(entries.EntryDates().ListCount(), 3);
+}
+
+TEST_F(LogFileSetTest, NothingButEmptyFilesIsNoError) {
+    for (const char* name : {"x", "x_old", "xa"})
+        system.files.Set("C:\\logs\\" + std::string(name) + ".log", "");
+    files.BuildLogFileList();
+    cboFiles.UserSelected(0);
+    EXPECT_THAT(tools.messages, IsEmpty());
+    EXPECT_FALSE(progress.visible);
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
+}
+
+TEST_F(LogFileSetTest, ABadSiblingIsReportedAndTheOthersAreStillRead) {
+    Write("C:\\logs\\x_old.log", {"garbage"});
+    files.BuildLogFileList();
+    cboFiles.UserSelected(0);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_THAT(tools.messages[0].text, testing::HasSubstr("x_old.log"));
+    EXPECT_EQ(entries.EntryDates().ListCount(), 2);
+    EXPECT_THAT(titles, ElementsAre("All files"));
+}
+
+TEST_F(LogFileSetTest, ALogFromElsewhereLeavesNoFileSelected) {
+    files.BuildLogFileList();
+    files.DeselectLogFile();
+    EXPECT_EQ(cboFiles.ListIndex(), -1);
+    EXPECT_THAT(progress.steps, IsEmpty());
+    // That no file is selected was recorded: the live log can be picked again.
+    cboFiles.UserSelected(1);
+    EXPECT_EQ(reader.CurrentLogFile(), kLog);
+    cboFiles.SetVisible(false);
+    cboFiles.SetListIndex(1);
+    files.DeselectLogFile();
+    EXPECT_EQ(cboFiles.ListIndex(), 1);
+}
+
+TEST_F(LogFileSetTest, TheLiveLogAloneInAListThatStillShowsIsReadLikeAnyFile) {
+    files.BuildLogFileList();
+    ASSERT_TRUE(cboFiles.Visible());
+    system.files.Delete("C:\\logs\\x_old.log");
+    system.files.Delete("C:\\logs\\xa.log");
+    files.BuildLogFileList();
+    ASSERT_EQ(cboFiles.ListCount(), 1);
+    cboFiles.UserSelected(0);
+    EXPECT_EQ(reader.CurrentLogFile(), kLog);
+    EXPECT_THAT(Sources(), ElementsAre("Copy live "));
+    EXPECT_TRUE(mnuViewRefresh.Enabled());
+}
+
+}  // namespace
+}  // namespace ordalyn

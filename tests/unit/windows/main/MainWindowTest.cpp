@@ -1,0 +1,380 @@
+// What the main window does with clicks, keys and commands.
+#include "windows/main/frmMain.h"
+
+#include "support/windows/ProgramWindow.h"
+
+namespace ordalyn {
+namespace {
+
+using test::MemoryToolkit;
+using test::ProgramWindow;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+namespace key = toolkit::key;
+
+constexpr toolkit::Modifiers kCtrl{.control = true};
+constexpr toolkit::Modifiers kCtrlShift{.shift = true, .control = true};
+constexpr toolkit::Modifiers kCtrlAlt{.control = true, .alt = true};
+
+class MainWindow : public ProgramWindow {
+  protected:
+    // Shows all three rows of the log.
+    void StartOnAllDates() {
+        Start();
+        Date().UserSelected(0);
+    }
+    std::string Clipboard() const { return system.clipboard.text.value_or("(empty)"); }
+};
+
+TEST_F(MainWindow, ARowOfTheSourcePanelSelectsItsTarget) {
+    StartOnAllDates();
+    Source().UserSelected(2);
+    EXPECT_EQ(Target().SelectedRow(), 2);
+    EXPECT_EQ(MemoryToolkit::Of(Target()).visibleRow, 2);
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
+    EXPECT_EQ(Status().PanelText(2), "Saturday, March 2, 2024  ");
+}
+
+TEST_F(MainWindow, ARowOfTheTargetPanelSelectsItsSource) {
+    StartOnAllDates();
+    Target().UserSelected(2);
+    EXPECT_EQ(Source().SelectedRow(), 2);
+    EXPECT_EQ(MemoryToolkit::Of(Source()).visibleRow, 2);
+    EXPECT_EQ(Status().PanelText(2), "Saturday, March 2, 2024  ");
+}
+
+TEST_F(MainWindow, TheDateOfASingleDayStaysWhileRowsAreClicked) {
+    Start();
+    Date().UserSelected(1);
+    Status().SetPanelText(2, "the day");
+    Source().UserSelected(1);
+    EXPECT_EQ(Status().PanelText(2), "the day");
+}
+
+TEST_F(MainWindow, TheRightMouseButtonShowsTheContextMenu) {
+    Start();
+    Source().MouseUp.Raise(toolkit::kRightButton, {}, 0, 0);
+    Target().MouseUp.Raise(toolkit::kRightButton, {}, 0, 0);
+    Source().MouseUp.Raise(toolkit::kLeftButton, {}, 0, 0);
+    EXPECT_THAT(tools.poppedUpMenus, ElementsAre("mnuContext", "mnuContext"));
+}
+
+TEST_F(MainWindow, CopiesTheOperationWithItsSource) {
+    StartOnAllDates();
+    Choose("mnuContextCopySource");
+    EXPECT_EQ(Clipboard(), "Copy C:\\a.txt ");
+    EXPECT_EQ(system.clipboard.clears, 3);  // three times in a row before each text
+    Source().UserSelected(2);
+    Choose("mnuContextCopyTarget");
+    EXPECT_EQ(Clipboard(), "D:\\Ordner \xC3\xBC");
+}
+
+TEST_F(MainWindow, KeysCopyWhenTheyAreReleased) {
+    StartOnAllDates();
+    tools.Press(Main(), 'C', kCtrl);
+    EXPECT_EQ(Clipboard(), "Copy C:\\a.txt ");
+    system.clipboard.text.reset();
+    tools.Press(Main(), 'C', kCtrlShift);
+    EXPECT_EQ(Clipboard(), "Copy C:\\a.txt ");
+    tools.Press(Main(), 'C', kCtrlAlt);
+    EXPECT_EQ(Clipboard(), "D:\\a.txt");
+}
+
+TEST_F(MainWindow, CtrlAltCWithoutATargetLeavesTheClipboard) {
+    StartOnAllDates();
+    system.clipboard.text = "before";
+    Source().UserSelected(1);
+    tools.Press(Main(), 'C', kCtrlAlt);
+    EXPECT_EQ(Clipboard(), "before");
+}
+
+TEST_F(MainWindow, CWithoutCtrlDoesNothing) {
+    StartOnAllDates();
+    system.clipboard.text = "before";
+    tools.Press(Main(), 'C');
+    tools.Press(Main(), 'C', {.shift = true});
+    tools.Press(Main(), 'C', {.alt = true});
+    EXPECT_EQ(Clipboard(), "before");
+}
+
+TEST_F(MainWindow, TheContextMenuKeyShowsTheMenu) {
+    StartOnAllDates();
+    Source().UserSelected(1);
+    tools.Press(Main(), key::ContextMenu);
+    EXPECT_THAT(tools.poppedUpMenus, ElementsAre("mnuContext"));
+    EXPECT_FALSE(Main().Menu("mnuContextCopyTarget").Enabled());
+}
+
+TEST_F(MainWindow, AClipboardHeldByAnotherProgramIsNoError) {
+    StartOnAllDates();
+    system.clipboard.heldByAnother = true;
+    Choose("mnuContextCopySource");
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
+TEST_F(MainWindow, CopyingWithoutARowDoesNothing) {
+    SetIni("LogFile=C:\\missing.log");
+    Start();
+    system.clipboard.text = "before";
+    tools.Press(Main(), 'C', kCtrl);
+    tools.Press(Main(), 'C', kCtrlAlt);
+    Choose("mnuContextCopyTarget");
+    EXPECT_EQ(Clipboard(), "before");
+}
+
+TEST_F(MainWindow, RefreshShowsWhatWasAppended) {
+    Start();
+    system.files.Append("C:\\logs\\tc.log", "03.03.2024 12:00:00: Delete z\r\n");
+    tools.Press(Main(), key::F5);
+    EXPECT_EQ(Date().ListIndex(), 3);
+    EXPECT_EQ(Source().Text(0, 1), "Delete z");
+    // The entry has no file: the title names the folder alone.
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\"));
+}
+
+TEST_F(MainWindow, RefreshRebuildsTheListOfFiles) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    Start();
+    EXPECT_FALSE(Files().Visible());
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    Choose("mnuViewRefresh");
+    EXPECT_TRUE(Files().Visible());
+    EXPECT_EQ(Files().ListCount(), 3);
+}
+
+TEST_F(MainWindow, FileOpenReadsAndRemembersAndLeavesNoFileSelected) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    SetLog("D:\\x.log", {"07.03.2024 10:00:00: Copy x -> y"});
+    Start();
+    ASSERT_EQ(Files().ListIndex(), 1);
+    system.dialogs.onOpenFile = [](const auto& request) -> std::optional<std::string> {
+        EXPECT_EQ(request.initialFolder, "C:\\logs\\");
+        EXPECT_TRUE(request.filter.starts_with("TC Log File(*.log)"));
+        EXPECT_EQ(request.flags, 0x1088140EU);
+        return "D:\\x.log";
+    };
+    tools.Press(Main(), 'O', kCtrl);
+    EXPECT_EQ(Source().Text(0, 1), "Copy x ");
+    EXPECT_EQ(Files().ListIndex(), -1);
+    EXPECT_EQ(Stored("RecentFiles1"), "D:\\x.log");
+    EXPECT_EQ(Main().Menu("mnuFileRecentFiles").Caption(), "&1 D:\\x.log");
+    // Kept as it is: the live log's folder with the name of a file from elsewhere.
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\x.log"));
+}
+
+TEST_F(MainWindow, AllFilesStandInTheTitleOnlyUntilTheFirstRowIsClicked) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    Start();
+    Files().UserSelected(0);
+    ASSERT_EQ(Source().RowCount(), 4);
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.1.log"));
+    Source().UserSelected(3);
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
+}
+
+TEST_F(MainWindow, OpeningALogLeavesTheListOfFilesAsItIs) {
+    SetSettings("RecentFiles1=D:\\x.log");
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    SetLog("D:\\x.log", {"07.03.2024 10:00:00: Copy x -> y"});
+    Start();
+    SetLog("C:\\logs\\tc.2.log", {"01.01.2024 09:00:00: Copy m -> n"});
+    Main().Menu("mnuFileRecentFiles").Choose();
+    EXPECT_EQ(Files().ListCount(), 3);
+    system.dialogs.onOpenFile = [](const auto&) -> std::optional<std::string> {
+        return "D:\\x.log";
+    };
+    Choose("mnuFileOpen");
+    EXPECT_EQ(Files().ListCount(), 3);
+    Choose("mnuViewRefresh");
+    EXPECT_EQ(Files().ListCount(), 4);
+}
+
+TEST_F(MainWindow, DateAndTitleFollowTheRowsOfASinglePanel) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    SetSettings("TwoPanels=0\r\nLongDate=0");
+    Start();
+    Files().UserSelected(0);
+    Source().UserSelected(1);
+    EXPECT_EQ(Status().PanelText(2), "Friday, March 1, 2024  ");
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
+    Source().UserSelected(0);
+    EXPECT_EQ(Status().PanelText(2), "Monday, January 1, 2024  ");
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.1.log"));
+}
+
+TEST_F(MainWindow, ACancelledOpenChangesNothingButTheFileSelection) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    Start();
+    Choose("mnuFileOpen");
+    EXPECT_EQ(Files().ListIndex(), -1);
+    EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
+    EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
+    EXPECT_EQ(Stored("RecentFiles1"), "(absent)");
+}
+
+TEST_F(MainWindow, ARecentFileIsOpenedAgain) {
+    SetSettings("RecentFiles1=D:\\x.log\r\nRecentFiles2=D:\\y.log");
+    SetLog("D:\\y.log", {"07.03.2024 10:00:00: Copy y -> z"});
+    Start();
+    Main().Menu("mnuFileRecentGroup").Items()[1]->Choose();
+    EXPECT_EQ(Source().Text(0, 1), "Copy y ");
+    EXPECT_EQ(Stored("RecentFiles1"), "D:\\y.log");
+    EXPECT_EQ(Stored("RecentFiles2"), "D:\\x.log");
+}
+
+TEST_F(MainWindow, ARecentFilesPathIsExpandedWhenItIsChosen) {
+    system.environment.SetVariable("Dir", "odd");
+    SetLog("D:\\%Dir%\\x.log", {"07.03.2024 10:00:00: Copy literal -> y"});
+    SetLog("D:\\odd\\x.log", {"07.03.2024 10:00:00: Copy expanded -> y"});
+    Start();
+    Main().FilesDropped.Raise({"D:\\%Dir%\\x.log"});
+    ASSERT_EQ(Source().Text(0, 1), "Copy literal ");
+    Main().Menu("mnuFileRecentFiles").Choose();
+    EXPECT_EQ(Source().Text(0, 1), "Copy expanded ");
+}
+
+TEST_F(MainWindow, AMissingRecentFileIsReportedAndDropped) {
+    SetSettings("RecentFiles1=D:\\gone.log\r\nRecentFiles2=D:\\y.log");
+    Start();
+    Main().Menu("mnuFileRecentFiles").Choose();
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text,
+              "Cannot find this file D:\\gone.log\r\n\r\n"
+              "Please verify that the correct path and file name are given.");
+    EXPECT_EQ(tools.messages[0].icon, toolkit::MessageIcon::Exclamation);
+    EXPECT_EQ(Stored("RecentFiles1"), "D:\\y.log");
+    EXPECT_EQ(Stored("RecentFiles2"), "(absent)");
+    EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
+}
+
+TEST_F(MainWindow, ClearingTheRecentFilesAsksAndSaves) {
+    SetSettings("RecentFiles1=D:\\x.log");
+    Start();
+    const auto& items = Main().Menu("mnuFileRecentGroup").Items();
+    items.back()->Choose();  // answered with the default, No
+    EXPECT_EQ(Stored("RecentFiles1"), "D:\\x.log");
+    tools.onMessage = [](const test::ShownMessage&) { return toolkit::Answer::Yes; };
+    items.back()->Choose();
+    EXPECT_EQ(Stored("RecentFiles1"), "(absent)");
+    EXPECT_EQ(Main().Menu("mnuFileRecentFiles").Caption(), "No Recent Files");
+}
+
+TEST_F(MainWindow, ADroppedLogIsOpenedLikeAChosenOne) {
+    SetLog("D:\\x.log", {"07.03.2024 10:00:00: Copy x -> y"});
+    Start();
+    Main().FilesDropped.Raise({"D:\\x.log", "D:\\second.log"});
+    EXPECT_EQ(Source().Text(0, 1), "Copy x ");
+    EXPECT_EQ(Stored("RecentFiles1"), "D:\\x.log");
+}
+
+TEST_F(MainWindow, AFileWithoutAnyLogIsReportedAndTheOldRowsStay) {
+    Start();
+    system.files.Set("D:\\empty.log", "");
+    Main().FilesDropped.Raise({"D:\\empty.log"});
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_THAT(tools.messages[0].text, EndsWith("Line: 0"));
+    EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
+}
+
+TEST_F(MainWindow, OldRowsThatHaveLostTheirEntriesCanBeWalkedThroughInPeace) {
+    SetLog("D:\\long.log", std::vector<std::string>(2500, "07.03.2024 10:00:00: Copy x -> y"));
+    system.files.Set("D:\\empty.log", "");
+    Start();
+    Main().FilesDropped.Raise({"D:\\long.log"});
+    Main().FilesDropped.Raise({"D:\\empty.log"});
+    ASSERT_EQ(tools.messages.size(), 1U);
+    Source().UserSelected(2400);
+    EXPECT_EQ(tools.messages.size(), 1U);
+    tools.Press(Main(), 'C', kCtrlAlt);
+    EXPECT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(Clipboard(), "(empty)");
+}
+
+TEST_F(MainWindow, ShortcutsDoNothingWhileADialogIsModal) {
+    Start();
+    tools.modalScripts.push_back([&](toolkit::Form& about) {
+        EXPECT_THAT(about.Caption(), HasSubstr("About"));
+        tools.Press(Main(), key::F5);
+        tools.Press(Main(), 'O', kCtrl);
+        EXPECT_THAT(system.dialogs.openRequests, IsEmpty());
+    });
+    Choose("mnuHelpAbout");
+}
+
+TEST_F(MainWindow, F1LooksForTheHelpFile) {
+    Start();
+    tools.Press(Main(), key::F1);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text, "File not found.");
+    system.files.Set("C:\\Ordalyn\\Readme.chm", "x");
+    tools.Press(Main(), key::F1);
+    EXPECT_EQ(system.shell.opened.size(), 1U);
+}
+
+TEST_F(MainWindow, F1OpensTheHelpInTheChosenLanguage) {
+    system.files.Set("C:\\Ordalyn\\Ordalyn.ini",
+                     "[Ordalyn]\r\nUseDefaultLanguage=0\r\n"
+                     "[Common]\r\nLanguageFile=D:\\x\\Deutsch.old.lng\r\n");
+    system.files.Set("D:\\x\\Deutsch.old.lng", "[UserLanguage]\r\n");
+    system.files.Set("C:\\Ordalyn\\Readme.chm", "x");
+    system.files.Set("C:\\Ordalyn\\Readme Deutsch.old.chm", "x");
+    Start();
+    tools.Press(Main(), key::F1);
+    program->Shared().settings->UseDefaultLanguage = 1;
+    tools.Press(Main(), key::F1);
+    ASSERT_EQ(system.shell.opened.size(), 2U);
+    EXPECT_EQ(system.shell.opened[0].second, "C:\\Ordalyn\\Readme Deutsch.old.chm");
+    EXPECT_EQ(system.shell.opened[1].second, "C:\\Ordalyn\\Readme.chm");
+}
+
+TEST_F(MainWindow, EveryMenuHasItsText) {
+    Start();
+    EXPECT_EQ(Main().Menu("mnuFile").Caption(), "&File");
+    EXPECT_EQ(Main().Menu("mnuFileOpen").Caption(), "&Open...");
+    EXPECT_EQ(Main().Menu("mnuContextCopySource").Caption(), "Copy &Source");
+    EXPECT_EQ(Main().Menu("mnuContextCopySource").KeyHint(), "Ctrl+C");
+    EXPECT_EQ(Main().Menu("mnuContextCopyTarget").KeyHint(), "Ctrl+Alt+C");
+    for (const toolkit::MenuItem* item : Main().AllMenuItems()) {
+        if (!item->Visible())
+            continue;  // the context menu itself, free places of recent files
+        EXPECT_FALSE(item->Caption().empty()) << item->Name();
+    }
+}
+
+TEST_F(MainWindow, SwitchingToOnePanelKeepsSelectionAndRows) {
+    StartOnAllDates();
+    Source().UserSelected(1);
+    Choose("mnuViewTwoPanels");
+    EXPECT_EQ(Source().SelectedRow(), 1);
+    EXPECT_EQ(Source().Text(2, 2), "D:\\Ordner \xC3\xBC");
+    Date().UserSelected(1);
+    EXPECT_EQ(Source().RowCount(), 2);
+    EXPECT_EQ(Target().RowCount(), 0);
+    Choose("mnuViewTwoPanels");
+    EXPECT_EQ(Target().RowCount(), 2);
+    EXPECT_EQ(Target().Text(0, 0), "D:\\a.txt");
+}
+
+TEST_F(MainWindow, FilterAndFindAreWired) {
+    Start();
+    Status().UserClickedPanel(2);
+    tools.Press(Main(), 'F', kCtrl);
+    const std::string unfiltered = Status().PanelText(3);
+    Date().UserSelected(0);
+    EXPECT_EQ(Status().PanelText(3), unfiltered);
+    program->Shared().settings->FilterText = "Delete";
+    Date().UserSelected(1);
+    EXPECT_EQ(Source().RowCount(), 1);
+    EXPECT_EQ(Source().Text(0, 1), "Delete C:\\b.txt");
+    EXPECT_EQ(Target().RowCount(), 1);
+}
+
+}  // namespace
+}  // namespace ordalyn

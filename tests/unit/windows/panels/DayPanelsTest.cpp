@@ -1,0 +1,338 @@
+#include "windows/panels/DayPanels.h"
+
+#include "support/windows/LogWindow.h"
+
+namespace ordalyn {
+namespace {
+
+using test::LogWindow;
+using test::MemoryToolkit;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using DayPanelsTest = LogWindow;
+
+const std::vector<std::string> kThreeDays = {
+    "01.03.2024 10:15:30: Copy C:\\a.txt -> D:\\a.txt",
+    "01.03.2024 10:15:31: Delete C:\\b.txt",
+    "02.03.2024 11:00:00: Move C:\\c -> D:\\c",
+    "01.03.2024 12:00:00: Pack x -> y",
+};
+
+TEST_F(DayPanelsTest, ListsEveryRunOfADateWithAllDatesOnTop) {
+    Load(kThreeDays);
+    EXPECT_THAT(Dates(), ElementsAre("All dates", "01.03.2024", "02.03.2024", "01.03.2024"));
+    EXPECT_EQ(panels.FirstDayItem(), 1);
+    std::vector<std::int32_t> starts;
+    for (std::int32_t i = 0; i <= panels.DayStarts().ListCount(); ++i)
+        starts.push_back(panels.DayStarts().List(i));
+    EXPECT_THAT(starts, ElementsAre(0, 2, 3, 4));
+}
+
+TEST_F(DayPanelsTest, ASingleDateStandsAloneAndIsShown) {
+    Load({"01.03.2024 10:00:00: Copy a -> b"});
+    EXPECT_THAT(Dates(), ElementsAre("01.03.2024"));
+    EXPECT_EQ(panels.FirstDayItem(), 0);
+    EXPECT_EQ(panels.SelectedDay(), 0);
+    EXPECT_EQ(SourceListView.RowCount(), 1);
+}
+
+TEST_F(DayPanelsTest, AFullReadSelectsTheLastDay) {
+    Load(kThreeDays);
+    EXPECT_EQ(cboDate.ListIndex(), 3);
+    EXPECT_EQ(panels.SelectedDay(), 2);
+    EXPECT_THAT(Sources(), ElementsAre("Pack x "));
+}
+
+TEST_F(DayPanelsTest, OtherwiseTheFirstItemIsSelected) {
+    Load(kThreeDays, false);
+    EXPECT_EQ(cboDate.ListIndex(), 0);
+    EXPECT_EQ(panels.SelectedDay(), DayPanels::kAllDates);
+    EXPECT_EQ(SourceListView.RowCount(), 4);
+}
+
+TEST_F(DayPanelsTest, FillsTimeOperationAndTarget) {
+    Load(kThreeDays);
+    cboDate.UserSelected(1);
+    EXPECT_THAT(Column(SourceListView, 0), ElementsAre("10:15:30", "10:15:31"));
+    EXPECT_THAT(Sources(), ElementsAre("Copy C:\\a.txt ", "Delete C:\\b.txt"));
+    EXPECT_THAT(Targets(), ElementsAre("D:\\a.txt", ""));
+    EXPECT_EQ(SourceListView.Tag(1), 1);
+}
+
+TEST_F(DayPanelsTest, TagsAreEntryIndicesInEveryDay) {
+    Load(kThreeDays);
+    cboDate.UserSelected(2);
+    EXPECT_EQ(SourceListView.Tag(0), 2);
+    EXPECT_EQ(TargetListView.RowCount(), 1);
+}
+
+TEST_F(DayPanelsTest, ASinglePanelShowsTheTargetsAsItsThirdColumn) {
+    SinglePanel();
+    Load(kThreeDays);
+    cboDate.UserSelected(1);
+    EXPECT_THAT(Column(SourceListView, 2), ElementsAre("D:\\a.txt", ""));
+    EXPECT_EQ(TargetListView.RowCount(), 0);
+}
+
+TEST_F(DayPanelsTest, LeadingCommentsBelongToTheFirstDay) {
+    Load({"; hello", ";x", "01.03.2024 10:00:00: Copy a -> b"});
+    EXPECT_EQ(panels.DayStarts().List(0), 0);
+    EXPECT_THAT(Column(SourceListView, 0), ElementsAre("", "", "10:00:00"));
+    EXPECT_THAT(Sources(), ElementsAre(" hello", "x", "Copy a "));
+    // Kept as it is: the day's date is looked for at its first entry, and a comment has none.
+    EXPECT_EQ(Status(2), "  ");
+    panels.ApplyNewDateFormat(1);
+    EXPECT_THAT(Dates(), ElementsAre(""));
+}
+
+TEST_F(DayPanelsTest, ALogWithoutAnyDateEmptiesTheListAndLeavesThePanels) {
+    Load(kThreeDays);
+    cboDate.UserSelected(0);
+    clickedRows.clear();
+    Load({"; only", "; comments"});
+    EXPECT_THAT(Dates(), IsEmpty());
+    EXPECT_EQ(cboDate.ListIndex(), -1);
+    EXPECT_EQ(SourceListView.RowCount(), 4);
+    EXPECT_EQ(SourceListView.Text(0, 1), "Copy C:\\a.txt ");
+    EXPECT_THAT(clickedRows, IsEmpty());
+}
+
+TEST_F(DayPanelsTest, GivesTheFocusToTheSourcePanel) {
+    Load(kThreeDays);
+    EXPECT_EQ(tools.focus, &SourceListView);
+}
+
+TEST_F(DayPanelsTest, CountsTheOperationsInTheStatusBar) {
+    std::vector<std::string> lines(1234, "01.03.2024 10:00:00: Copy a -> b");
+    Load(lines);
+    EXPECT_EQ(Status(1), "1234 Operation(s)  ");
+}
+
+TEST_F(DayPanelsTest, TheCountStandsWhereverItsMarkDoesInEitherCase) {
+    countText = "%I (%i) of %I %d %";
+    Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024 10:00:01: Copy c -> d"});
+    EXPECT_EQ(Status(1), "2 (2) of 2 %d %  ");
+}
+
+TEST_F(DayPanelsTest, PlainDatesInTheListGoWithLongOnesInTheStatusBar) {
+    Load(kThreeDays);
+    EXPECT_EQ(Dates().back(), "01.03.2024");
+    EXPECT_EQ(Status(2), "Friday, March 1, 2024  ");
+}
+
+TEST_F(DayPanelsTest, LongDatesInTheListGoWithPlainOnesInTheStatusBar) {
+    settings.LongDate = 1;
+    Load(kThreeDays);
+    EXPECT_EQ(Dates().back(), "Friday, March 1, 2024");
+    EXPECT_EQ(Status(2), "01.03.2024  ");
+}
+
+TEST_F(DayPanelsTest, ATextThatIsNoDateStaysAsItIs) {
+    settings.LongDate = 1;
+    Load({"yesterday 10:00:00: Copy a -> b"});
+    EXPECT_THAT(Dates(), ElementsAre("yesterday"));
+    settings.LongDate = 0;
+    Load({"10:00:00 10:00:00: Copy a -> b"});
+    EXPECT_EQ(Status(2), "10:00:00  ");
+}
+
+TEST_F(DayPanelsTest, AllDatesLeaveTheDateToTheRowThatIsClicked) {
+    Load(kThreeDays);
+    StatusBar1.SetPanelText(2, "untouched");
+    cboDate.UserSelected(0);
+    EXPECT_EQ(Status(2), "untouched");
+}
+
+TEST_F(DayPanelsTest, AFillClicksTheFirstRow) {
+    Load(kThreeDays);
+    clickedRows.clear();
+    cboDate.UserSelected(1);
+    EXPECT_THAT(clickedRows, ElementsAre(0));
+    EXPECT_EQ(SourceListView.SelectedRow(), 0);
+}
+
+TEST_F(DayPanelsTest, PickingTheShownDayAgainOnlyFilters) {
+    Load(kThreeDays);
+    const int fills = MemoryToolkit::Of(SourceListView).fills;
+    filters = 0;
+    cboDate.UserSelected(3);
+    EXPECT_EQ(MemoryToolkit::Of(SourceListView).fills, fills);
+    EXPECT_EQ(filters, 1);
+}
+
+TEST_F(DayPanelsTest, BuildingTheListRefillsTheSameDay) {
+    Load(kThreeDays);
+    const int fills = MemoryToolkit::Of(SourceListView).fills;
+    panels.BuildDateList(true);
+    EXPECT_GT(MemoryToolkit::Of(SourceListView).fills, fills);
+}
+
+TEST_F(DayPanelsTest, FiltersAndTellsTheFindDialogAfterEveryChoice) {
+    Load(kThreeDays);
+    filters = 0;
+    daysChosen.clear();
+    cboDate.UserSelected(0);
+    cboDate.UserSelected(1);
+    EXPECT_EQ(filters, 2);
+    EXPECT_THAT(daysChosen, ElementsAre(false, true));
+}
+
+TEST_F(DayPanelsTest, IgnoredClicksDoNothing) {
+    Load(kThreeDays);
+    {
+        const toolkit::ScopedFlag ignore(panels.IgnoreComboClick());
+        cboDate.SetListIndex(0);
+    }
+    EXPECT_EQ(panels.SelectedDay(), 2);
+    EXPECT_FALSE(panels.IgnoreComboClick());
+}
+
+TEST_F(DayPanelsTest, PanelsAreHiddenAndTheHourglassShowsWhileFilling) {
+    Load(kThreeDays);
+    tools.pointers.clear();
+    const int sources = MemoryToolkit::Of(SourceListView).updatesInSight;
+    const int targets = MemoryToolkit::Of(TargetListView).updatesInSight;
+    cboDate.UserSelected(1);
+    EXPECT_EQ(MemoryToolkit::Of(SourceListView).updatesInSight, sources);
+    EXPECT_EQ(MemoryToolkit::Of(TargetListView).updatesInSight, targets);
+    EXPECT_THAT(tools.pointers,
+                ElementsAre(toolkit::Pointer::Hourglass, toolkit::Pointer::Default));
+    EXPECT_TRUE(SourceListView.Visible());
+    EXPECT_TRUE(TargetListView.Visible());
+}
+
+TEST_F(DayPanelsTest, AFillStopsAtAnEntryWithoutTimeAndLeavesThePanelsHidden) {
+    Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024  10:00:01: two blanks",
+          "01.03.2024 10:00:02: never reached"});
+    EXPECT_EQ(SourceListView.RowCount(), 1);
+    EXPECT_FALSE(SourceListView.Visible());
+    EXPECT_FALSE(TargetListView.Visible());
+    // The rest of the choice still happens, and the next fill brings everything back.
+    EXPECT_EQ(filters, 1);
+    EXPECT_THAT(daysChosen, ElementsAre(true));
+    Load({"02.03.2024 10:00:00: Copy a -> b"});
+    EXPECT_TRUE(SourceListView.Visible());
+    EXPECT_TRUE(TargetListView.Visible());
+}
+
+TEST_F(DayPanelsTest, AFillThatStopsLeavesTheHourglass) {
+    Load({"01.03.2024 10:00:00: Copy a -> b", "02.03.2024 nothing-else",
+          "03.03.2024 10:00:00: Copy a -> b"});
+    cboDate.UserSelected(2);
+    EXPECT_EQ(tools.pointer, toolkit::Pointer::Hourglass);
+    EXPECT_FALSE(SourceListView.Visible());
+    cboDate.UserSelected(3);
+    EXPECT_EQ(tools.pointer, toolkit::Pointer::Default);
+    EXPECT_TRUE(SourceListView.Visible());
+}
+
+TEST_F(DayPanelsTest, OldDaysOverNewEntriesGiveEmptyRowsOrStop) {
+    std::vector<std::string> lines;
+    for (int i = 0; i < 10; ++i)
+        lines.push_back("01.03.2024 10:00:00: Copy a -> b");
+    for (int i = 0; i < 2500; ++i)
+        lines.push_back("02.03.2024 10:00:00: Copy a -> b");
+    lines.push_back("03.03.2024 10:00:00: Copy a -> b");
+    Load(lines);
+    // A log that cannot be read to its end replaces the entries but not the days.
+    Write("C:\\logs\\bad.log", {"09.03.2024 10:00:00: Copy a -> b", "garbage"});
+    reading.ReadLogFile(false, "C:\\logs\\bad.log", false, true);
+    cboDate.UserSelected(1);
+    ASSERT_EQ(SourceListView.RowCount(), 10);
+    EXPECT_EQ(SourceListView.Text(0, 0), "10:00:00");
+    EXPECT_EQ(SourceListView.Text(5, 0), "");
+    EXPECT_EQ(SourceListView.Text(5, 1), "");
+    EXPECT_TRUE(SourceListView.Visible());
+    cboDate.UserSelected(2);  // 10 to 2509: the storage ends at 2000
+    EXPECT_EQ(SourceListView.RowCount(), 1991);
+    EXPECT_FALSE(SourceListView.Visible());
+}
+
+TEST_F(DayPanelsTest, ShownRowsOutliveTheirEntries) {
+    Load(kThreeDays);
+    cboDate.UserSelected(0);
+    entries.Clear();
+    EXPECT_EQ(SourceListView.Text(0, 1), "Copy C:\\a.txt ");
+    EXPECT_EQ(TargetListView.Text(2, 0), "D:\\c");
+}
+
+TEST_F(DayPanelsTest, ANewDateFormatRelabelsWithoutRefilling) {
+    Load(kThreeDays);
+    SourceListView.SelectRow(0);
+    const int fills = MemoryToolkit::Of(SourceListView).fills;
+    filters = 0;
+    daysChosen.clear();
+    panels.ApplyNewDateFormat(1);
+    EXPECT_EQ(filters, 0);  // no day was chosen
+    EXPECT_THAT(daysChosen, IsEmpty());
+    EXPECT_THAT(Dates(), ElementsAre("All dates", "Friday, March 1, 2024",
+                                     "Saturday, March 2, 2024", "Friday, March 1, 2024"));
+    EXPECT_EQ(cboDate.ListIndex(), 3);
+    EXPECT_EQ(MemoryToolkit::Of(SourceListView).fills, fills);
+    EXPECT_EQ(Status(2), "01.03.2024  ");
+    panels.ApplyNewDateFormat(0);
+    EXPECT_EQ(Dates().front(), "All dates");
+    EXPECT_EQ(Status(2), "Friday, March 1, 2024  ");
+    EXPECT_FALSE(panels.IgnoreComboClick());
+}
+
+TEST_F(DayPanelsTest, SelectEntryRowSelectsInBothPanelsAndScrolls) {
+    Load(kThreeDays);
+    cboDate.UserSelected(0);
+    clickedRows.clear();
+    panels.SelectEntryRow(3);
+    EXPECT_EQ(SourceListView.SelectedRow(), 2);
+    EXPECT_EQ(TargetListView.SelectedRow(), 2);
+    EXPECT_EQ(MemoryToolkit::Of(SourceListView).visibleRow, 2);
+    EXPECT_EQ(MemoryToolkit::Of(TargetListView).visibleRow, 2);
+    EXPECT_THAT(clickedRows, ElementsAre(2));
+}
+
+TEST_F(DayPanelsTest, SelectEntryRowLeavesTheHiddenPanelAlone) {
+    SinglePanel();
+    Load(kThreeDays);
+    panels.SelectEntryRow(1);
+    EXPECT_EQ(TargetListView.SelectedRow(), -1);
+    EXPECT_THROW(panels.SelectEntryRow(99), SubscriptOutOfRange);
+}
+
+TEST_F(DayPanelsTest, TheContextMenuOffersATargetOnlyWhereThereIsOne) {
+    Load(kThreeDays);
+    cboDate.UserSelected(1);
+    panels.ShowContextMenu();
+    EXPECT_TRUE(mnuContextCopyTarget.Enabled());
+    SourceListView.SelectRow(1);
+    panels.ShowContextMenu();
+    EXPECT_FALSE(mnuContextCopyTarget.Enabled());
+    EXPECT_THAT(tools.poppedUpMenus, ElementsAre("mnuContext", "mnuContext"));
+}
+
+TEST_F(DayPanelsTest, ThereIsNoContextMenuWithoutARow) {
+    panels.ShowContextMenu();
+    EXPECT_THAT(tools.poppedUpMenus, IsEmpty());
+}
+
+TEST_F(DayPanelsTest, ANewDateFormatOverOldDaysKeepsTheirPlaces) {
+    std::vector<std::string> lines(2500, "01.03.2024 10:00:00: Copy a -> b");
+    lines.emplace_back("02.03.2024 10:00:00: Copy a -> b");
+    Load(lines);
+    Write("C:\\logs\\bad.log", {"09.03.2024 10:00:00: Copy a -> b", "garbage"});
+    reading.ReadLogFile(false, "C:\\logs\\bad.log", false, true);
+    panels.ApplyNewDateFormat(1);
+    EXPECT_THAT(Dates(), ElementsAre("All dates", testing::_, ""));
+    EXPECT_EQ(cboDate.ListIndex(), 2);
+}
+
+TEST_F(DayPanelsTest, AReactionThatFailsLeavesWholeRowsAndTheNormalPointer) {
+    panels.SetReactions({.rowClicked = [](int) { throw SubscriptOutOfRange(); },
+                         .applyFilter = {},
+                         .dayChosen = {}});
+    Load(kThreeDays);
+    EXPECT_EQ(tools.pointer, toolkit::Pointer::Default);
+    EXPECT_TRUE(SourceListView.Visible());
+    EXPECT_EQ(SourceListView.RowCount(), 1);
+}
+
+}  // namespace
+}  // namespace ordalyn
