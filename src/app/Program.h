@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "windows/main/SharedObjects.h"
+#include "windows/common/SharedObjects.h"
 #include "windows/main/frmMain.h"
 #include "windows/main/frmXpStyleLoader.h"
 

@@ -40,4 +40,17 @@ std::vector<std::string> DayIndex::Build(const cStringArray& dates) {
     return days;
 }
 
+std::int32_t DayIndex::DayOf(std::int32_t entry) const {
+    const std::int32_t count = DayCount();
+    if (count < 1 || entry < FirstEntryOf(0) || entry >= FirstEntryOf(count))
+        return kNoDay;
+    std::int32_t first = 0;
+    std::int32_t last = count;
+    while (last - first > 1) {
+        const std::int32_t middle = first + (last - first) / 2;
+        (FirstEntryOf(middle) <= entry ? first : last) = middle;
+    }
+    return first;
+}
+
 }  // namespace ordalyn

@@ -12,6 +12,11 @@
 
 namespace ordalyn {
 
+// Stands for all days where a day's number is asked for.
+inline constexpr std::int32_t kAllDates = -1;
+// No day: an entry that is in none of them.
+inline constexpr std::int32_t kNoDay = -1;
+
 class DayIndex {
   public:
     DayIndex();
@@ -29,6 +34,11 @@ class DayIndex {
     std::int32_t FirstDayItem() const { return firstDayItem_; }
     // How many days DayStarts holds, its end marker left out.
     std::int32_t DayCount() const { return starts_.ListCount() < 0 ? 0 : starts_.ListCount(); }
+    // The first entry of a day; for the number behind the last day, the number of entries. Throws
+    // SubscriptOutOfRange and TypeMismatch for a day that is not indexed.
+    std::int32_t FirstEntryOf(std::int32_t day) const { return starts_.List(day); }
+    // The day whose entries this one is among, or kNoDay.
+    std::int32_t DayOf(std::int32_t entry) const;
     // The date field of the day's first entry: empty for a first day that begins with comments.
     // Throws SubscriptOutOfRange and TypeMismatch for a day that is not indexed or no longer in the
     // lists.

@@ -7,13 +7,13 @@
 
 namespace ordalyn {
 
-DayRowsResult DayRows(const EntryLists& entries, const cLongArray& dayStarts, std::int32_t day) {
+DayRowsResult DayRows(const EntryLists& entries, const DayIndex& days, std::int32_t day) {
     std::int32_t first = 0;
     std::int32_t end = entries.EntrySources().ListCount() + 1;
     if (day != kAllDates) {
         const bool indexed = Attempt([&] {
-            first = dayStarts.List(day);
-            end = dayStarts.List(day + 1);
+            first = days.FirstEntryOf(day);
+            end = days.FirstEntryOf(day + 1);
         });
         if (!indexed)
             return {{}, true};

@@ -4,12 +4,10 @@
 #include <cstdint>
 #include <vector>
 
-#include "lists/cLongArray.h"
+#include "log/DayIndex.h"
 #include "log/EntryLists.h"
 
 namespace ordalyn {
-
-inline constexpr std::int32_t kAllDates = -1;
 
 struct DayRowsResult {
     std::vector<std::int32_t> tags;  // entry indices, ascending
@@ -21,6 +19,6 @@ struct DayRowsResult {
 // The rows of a day, or of all days for kAllDates. Never throws for what the lists hold. An index
 // that is older than the lists can name entries beyond the last one: slots of the storage give
 // empty rows.
-DayRowsResult DayRows(const EntryLists& entries, const cLongArray& dayStarts, std::int32_t day);
+DayRowsResult DayRows(const EntryLists& entries, const DayIndex& days, std::int32_t day);
 
 }  // namespace ordalyn

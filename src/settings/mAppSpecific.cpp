@@ -39,13 +39,6 @@ WindowState StateToStartIn(double stored) {
     }
 }
 
-void SetFromFlag(toolkit::CheckBox& box, std::string_view text) {
-    const std::int32_t value = ToLong(text);
-    if (value != 0 && value != 1)
-        throw InvalidPropertyValue("value of " + box.Name());
-    box.SetChecked(value == 1);
-}
-
 }  // namespace
 
 mAppSpecific::mAppSpecific(cProfile& profile, mAppCommon& common)
@@ -137,33 +130,12 @@ void mAppSpecific::SaveWindowPosition(const toolkit::Form& form, bool saveState)
                    std::to_string(static_cast<int>(state)));
 }
 
-void mAppSpecific::LoadFindOptions(const FindOptionControls& controls) {
-    const std::vector<std::string> parts =
-        Split(ReadEntry(kOrdalynSection, "FindOptions", kFindOptionsDefault), ',');
-    const auto part = [&parts](std::size_t index) -> const std::string& {
-        if (index >= parts.size())
-            throw SubscriptOutOfRange();
-        return parts[index];
-    };
-    Attempt([&] { controls.cboFindWhat.SetListIndex(ToLong(part(0))); });
-    Attempt([&] {
-        const std::int32_t column = ToLong(part(1));
-        if (column != 0 && column != 1)
-            throw SubscriptOutOfRange();
-        (column == 0 ? controls.optSource : controls.optTarget).SetChecked(true);
-    });
-    Attempt([&] { SetFromFlag(controls.chkWholeWord, part(2)); });
-    Attempt([&] { SetFromFlag(controls.chkSelectedDate, part(3)); });
+FindOptions mAppSpecific::LoadFindOptions() const {
+    return ParseFindOptions(ReadEntry(kOrdalynSection, "FindOptions", kFindOptionsDefault));
 }
 
-void mAppSpecific::SaveFindOptions(const FindOptionControls& controls, std::int32_t columnNo) {
-    Attempt([&] {
-        WriteEntry(kOrdalynSection, "FindOptions",
-                   Join({std::to_string(controls.cboFindWhat.ListIndex()), std::to_string(columnNo),
-                         controls.chkWholeWord.Checked() ? "1" : "0",
-                         controls.chkSelectedDate.Checked() ? "1" : "0"},
-                        ","));
-    });
+void mAppSpecific::SaveFindOptions(const FindOptions& options) {
+    WriteEntry(kOrdalynSection, "FindOptions", FindOptionsText(options));
 }
 
 void mAppSpecific::ApplyFont(toolkit::Control& control, bool useSettings, double size) const {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "settings/FindOptions.h"
 #include "settings/SettingsTable.h"
 #include "toolkit/Form.h"
 
@@ -14,15 +15,6 @@ namespace ordalyn {
 class cProfile;
 class mAppCommon;
 
-// The find dialog's controls that "FindOptions" keeps.
-struct FindOptionControls {
-    toolkit::ComboBox& cboFindWhat;
-    toolkit::OptionButton& optSource;  // optColumn(0)
-    toolkit::OptionButton& optTarget;  // optColumn(1)
-    toolkit::CheckBox& chkWholeWord;
-    toolkit::CheckBox& chkSelectedDate;
-};
-
 // The values themselves are the members of SettingsValues: they hold the table's defaults from the
 // start, what the file says once LoadSettings has run, and what the user chose since then. They
 // reach the file at the moments that the table names.
@@ -30,9 +22,7 @@ class mAppSpecific : public SettingsValues {
   public:
     mAppSpecific(cProfile& profile, mAppCommon& common);
 
-    // Values that live as long as the program runs and are not stored.
-    std::string FilterText;        // what rows are tested against; empty: no filter
-    std::int32_t ColumnNo = 0;     // the find dialog's column: 0 source, 1 target
+    // Lives as long as the program runs and is not stored:
     std::int32_t OptionsPage = 0;  // the options dialog's page that was seen last, 0-based
 
     // Reads every setting, in the table's order. A missing file or entry gives the default, an
@@ -59,11 +49,9 @@ class mAppSpecific : public SettingsValues {
     // state only: otherwise the file keeps the last normal one.
     void SaveWindowPosition(const toolkit::Form& form, bool saveState);
 
-    // A part that is missing or that its control refuses leaves that control as it is; the others
-    // are still set. The controls raise their events.
-    void LoadFindOptions(const FindOptionControls& controls);
-    // columnNo is the column last chosen in the dialog.
-    void SaveFindOptions(const FindOptionControls& controls, std::int32_t columnNo);
+    // What the find dialog keeps between runs.
+    FindOptions LoadFindOptions() const;
+    void SaveFindOptions(const FindOptions& options);
 
     // Gives the control a new font of the chosen face and character set. With useSettings, size and
     // style are the chosen ones too and `size` is not looked at; otherwise it has `size` points and

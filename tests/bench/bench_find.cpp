@@ -15,8 +15,8 @@
 #include "bench/LogGenerator.h"
 #include "bench/NativeFiles.h"
 #include "log/LogReader.h"
+#include "search/EntryFilter.h"
 #include "search/FieldScan.h"
-#include "windows/filter/PanelFilter.h"
 
 namespace ordalyn::bench {
 namespace {
@@ -83,9 +83,10 @@ void MeasureFilter(const char* what, const EntryLists& entries,
     std::size_t rows = 0;
     for (int round = 0; round < kRounds; ++round) {
         floor = std::min(floor, Milliseconds([&] { scanned += Scan(bytes, text); }));
-        filter = std::min(filter, Milliseconds([&] {
-                              rows = EntriesThatPass(entries, tags, text, false, false).size();
-                          }));
+        filter = std::min(
+            filter, Milliseconds([&] {
+                rows = EntriesThatPass(entries, tags, {.boxText = text, .FilterText = text}).size();
+            }));
     }
     Report(what, rows, filter, floor, target);
 }

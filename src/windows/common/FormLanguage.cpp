@@ -40,7 +40,10 @@ void FormLanguage::CopyMenuCaptionsToTags(const toolkit::Form& form) {
 }
 
 void FormLanguage::ApplyLanguage(toolkit::Form& form) {
-    const bool rightToLeft = PrepareLanguage(form);
+    // A form that is being loaded is not on the screen yet and cannot own the box.
+    CheckLanguageFile(form.toolkit(), form.Visible() ? &form : nullptr);
+    bool rightToLeft = false;
+    Attempt([&] { rightToLeft = strings_.RightToLeftLanguage(); });
     Attempt([&] { form.SetRightToLeft(rightToLeft); });
     Attempt([&] { SetCharacterSet(form); });
     Attempt([&] { form.SetCaption(TextOf(form.Tag())); });
@@ -50,19 +53,13 @@ void FormLanguage::ApplyLanguage(toolkit::Form& form) {
         Attempt([&] { ApplyToMenuItem(*item); });
 }
 
-// Answers whether the texts run from right to left.
-bool FormLanguage::PrepareLanguage(toolkit::Form& form) {
-    bool rightToLeft = false;
-    if (strings_.LanguageFileMissing()) {
-        // A form that is being loaded is not on the screen yet and cannot own the box.
-        form.toolkit().ShowMessage(form.Visible() ? &form : nullptr, kMissingLanguageFile,
-                                   mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
-        settings_.UseDefaultLanguage = 1;
-        settings_.SaveSetting("UseDefaultLanguage");
-    } else {
-        Attempt([&] { rightToLeft = strings_.RightToLeftLanguage(); });
-    }
-    return rightToLeft;
+void FormLanguage::CheckLanguageFile(toolkit::Toolkit& toolkit, toolkit::Form* owner) {
+    if (!strings_.LanguageFileMissing())
+        return;
+    toolkit.ShowMessage(owner, kMissingLanguageFile, mAppCommon::kProgramTitle,
+                        toolkit::MessageIcon::Critical);
+    settings_.UseDefaultLanguage = 1;
+    settings_.SaveSetting("UseDefaultLanguage");
 }
 
 void FormLanguage::ApplyToControl(toolkit::Control& control, bool rightToLeft) const {

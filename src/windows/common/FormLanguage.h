@@ -26,12 +26,15 @@ class FormLanguage {
     // are still made. Controls without an id keep their captions, separators are left alone, tool
     // bar buttons get tool tips.
     //
-    // When the language file is missing, this says so in a message box and switches to the built-in
-    // language for good. Messages are handled while the box is open.
+    // Checks the language file first.
     void ApplyLanguage(toolkit::Form& form);
 
+    // When the language file is missing, says so in a message box and switches to the built-in
+    // language for good. Without an owner the box belongs to the active window. Messages are
+    // handled while it is open.
+    void CheckLanguageFile(toolkit::Toolkit& toolkit, toolkit::Form* owner);
+
   private:
-    bool PrepareLanguage(toolkit::Form& form);
     void ApplyToControl(toolkit::Control& control, bool rightToLeft) const;
     void ApplyToMenuItem(toolkit::MenuItem& item) const;
     void SetCharacterSet(toolkit::Control& control) const;

@@ -1,5 +1,7 @@
 #include "windows/common/InputHistory.h"
 
+#include <utility>
+
 #include "base/Text.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/mAppCommon.h"
@@ -18,16 +20,22 @@ std::string InputHistory::EntryName(std::string_view key, int number) {
     return std::string(key) + std::to_string(number);
 }
 
-void InputHistory::LoadHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax) {
+std::vector<std::string> InputHistory::Texts(std::string_view strKey, int intMax) const {
+    std::vector<std::string> texts;
     for (int number = 1; number <= intMax; ++number) {
-        const std::string text =
+        std::string text =
             profile_
                 .ReadValue(kOrdalynSection, EntryName(strKey, number), common_.NoValueMarker(),
                            common_.SettingsFile(), cProfile::kBufferSize)
                 .value_or(std::string());
         if (!common_.IsNoValue(text))
-            cbo.AddItem(text);
+            texts.push_back(std::move(text));
     }
+    return texts;
+}
+
+void InputHistory::LoadHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax) {
+    cbo.AddItems(Texts(strKey, intMax));
     cbo.SetText("");
 }
 

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "toolkit/Form.h"
 
@@ -19,8 +20,9 @@ class InputHistory {
     InputHistory(cProfile& profile, const mAppCommon& common, const InterfaceStrings& strings)
         : profile_(profile), common_(common), strings_(strings) {}
 
-    // Appends what the settings file holds to the box's list and empties the box. Numbers that are
-    // missing are passed over.
+    // What the settings file holds, newest first. Numbers that are missing are passed over.
+    std::vector<std::string> Texts(std::string_view strKey, int intMax) const;
+    // Appends that to the box's list and empties the box.
     void LoadHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax);
     // Puts the box's text on top of its list and writes the whole list at once, so that it survives
     // whatever happens next. An empty text and one that the list holds in any letter case change

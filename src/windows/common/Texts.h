@@ -1,5 +1,5 @@
-// Texts: how the forms of this room get their texts. Filled by the program with its interface
-// language, so that a form knows nothing of language files.
+// How windows get their texts. Filled by the program with its interface language, so that a window
+// knows nothing of language files.
 #pragma once
 
 #include <cstdint>
@@ -10,9 +10,11 @@
 
 namespace ordalyn {
 
+// The text of a string id in the interface language.
+using TextById = std::function<std::string(std::int32_t id)>;
+
 struct Texts {
-    // The text of a string id in the interface language.
-    std::function<std::string(std::int32_t)> text;
+    TextById text;
     // Gives a form and all its controls their texts by their ids.
     std::function<void(toolkit::Form&)> apply;
 };

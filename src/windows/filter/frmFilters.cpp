@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
-#include <utility>
 
 #include "base/Text.h"
 #include "settings/SettingsTable.h"
@@ -73,6 +72,8 @@ frmFilters::frmFilters(toolkit::Toolkit& toolkit, const Surroundings& around)
     Toolbar1.AddButton("", "separator", false);
     Toolbar1.AddButton("", "remove-filter", true);
     Toolbar1.AddMenuEntry(kRemoveButton, kClearKey, "");
+    for (toolkit::ComboBox* box : {&cboContains, &cboSource})
+        box->AddItems({"", ""});  // LoadInterface has their texts
     around_.history.LoadHistory(cboFilter, kHistoryKey, kHistoryLength);
     around_.settings.RestoreWindowPosition(*this, false, kFiltersPlacement);
     if (Width() < kLeastWidth)
@@ -80,7 +81,7 @@ frmFilters::frmFilters(toolkit::Toolkit& toolkit, const Surroundings& around)
     WireControls();
     LoadInterface();
     cboFilter.SetText("");
-    around_.settings.FilterText.clear();
+    around_.filter = {};
     cboContains.SetListIndex(0);
     cboSource.SetListIndex(0);
 }
@@ -90,9 +91,16 @@ void frmFilters::WireControls() {
         if (key == toolkit::key::Enter && !modifiers.control && !modifiers.alt)
             ApplyAndRemember();
     });
+    cboFilter.Change.Subscribe([this] { around_.filter.boxText = cboFilter.Text(); });
     cboFilter.Click.Subscribe([this] { ApplyTypedText(); });
-    cboContains.Click.Subscribe([this] { ApplyIfFiltering(); });
-    cboSource.Click.Subscribe([this] { ApplyIfFiltering(); });
+    cboContains.Click.Subscribe([this] {
+        around_.filter.doesNotContain = cboContains.ListIndex() == 1;
+        ApplyIfFiltering();
+    });
+    cboSource.Click.Subscribe([this] {
+        around_.filter.target = cboSource.ListIndex() == 1;
+        ApplyIfFiltering();
+    });
     Toolbar1.ButtonClick.Subscribe([this](int button) {
         if (button == kApplyButton)
             ApplyAndRemember();
@@ -103,7 +111,7 @@ void frmFilters::WireControls() {
         if (button == kApplyButton)
             ApplyOperation(entry);
         else if (button == kRemoveButton && entry == kClearEntry)
-            around_.history.ClearHistory(cboFilter, kHistoryKey, kHistoryLength, *this);
+            ClearHistory();
     });
     cmdCancel.Click.Subscribe([this] { Hide(); });
     Activate.Subscribe([this] {
@@ -116,17 +124,16 @@ void frmFilters::WireControls() {
     Resize.Subscribe([this] { Arrange(); });
 }
 
-FilterChoice frmFilters::Choice() const {
-    return {cboFilter.Text(), cboSource.ListIndex() == 1, cboContains.ListIndex() == 1};
-}
-
 void frmFilters::LoadInterface() {
-    mAppSpecific& settings = around_.settings;
-    // Without a filter text, so that the lists which are filled here filter nothing.
-    const std::string filterText = std::exchange(settings.FilterText, std::string());
-    RefillList(cboContains, kContainsText, kDoesNotContainText);
-    RefillList(cboSource, kSourceText, kTargetText);
-    settings.FilterText = filterText;
+    const mAppSpecific& settings = around_.settings;
+    // New texts for the items leave the choice as it is and raise nothing.
+    const auto label = [this](toolkit::ComboBox& box, int item, std::int32_t text) {
+        box.SetItem(item, around_.strings.GetInterfaceString(text));
+    };
+    label(cboContains, 0, kContainsText);
+    label(cboContains, 1, kDoesNotContainText);
+    label(cboSource, 0, kSourceText);
+    label(cboSource, 1, kTargetText);
 
     constexpr double kPlainSize = 8;
     for (toolkit::ComboBox* box : {&cboFilter, &cboContains, &cboSource}) {
@@ -143,15 +150,6 @@ void frmFilters::LoadInterface() {
     const auto pixel = static_cast<Twips>(std::lround(toolkit().TwipsPerPixelY()));
     SetClientHeight(cboSource.Height() + kHeightAroundBoxes * pixel);
     Arrange();
-}
-
-void frmFilters::RefillList(toolkit::ComboBox& box, std::int32_t firstText,
-                            std::int32_t secondText) {
-    const int selected = box.ListIndex();
-    box.Clear();
-    box.AddItem(around_.strings.GetInterfaceString(firstText));
-    box.AddItem(around_.strings.GetInterfaceString(secondText));
-    box.SetListIndex(selected);
 }
 
 // One row, the boxes as high as their font makes them; the filter box takes the width that the
@@ -174,8 +172,9 @@ void frmFilters::Arrange() {
 }
 
 void frmFilters::ApplyTypedText() {
-    around_.settings.FilterText = cboFilter.Text();
-    around_.applyFilter();
+    around_.filter.boxText = cboFilter.Text();
+    around_.filter.FilterText = cboFilter.Text();
+    Apply();
 }
 
 void frmFilters::ApplyAndRemember() {
@@ -184,8 +183,14 @@ void frmFilters::ApplyAndRemember() {
 }
 
 void frmFilters::ApplyIfFiltering() {
-    if (!around_.settings.FilterText.empty())
-        around_.applyFilter();
+    if (!around_.filter.FilterText.empty())
+        Apply();
+}
+
+// The filter stays in force; the emptied box raises nothing.
+void frmFilters::ClearHistory() {
+    around_.history.ClearHistory(cboFilter, kHistoryKey, kHistoryLength, *this);
+    around_.filter.boxText = cboFilter.Text();
 }
 
 void frmFilters::RemoveFilter() {
@@ -201,10 +206,10 @@ void frmFilters::ApplyOperation(int entry) {
     cboFilter.SetText(chosen.text);
     // An operation stands right behind the clock time and its colon, so that the word in a path is
     // not meant; an outcome can stand anywhere behind that.
-    around_.settings.FilterText =
+    around_.filter.FilterText =
         OperationKeywords::IsOperation(chosen.key) ? ": " + chosen.text : chosen.text;
     cboFilter.SelectText(Utf8ToUtf16(chosen.text).size(), 0);
-    around_.applyFilter();
+    Apply();
 }
 
 // The close box hides; only the end of the program unloads. Both save the place.

@@ -2,16 +2,14 @@
 // applies the filter at once. It is only hidden when it is closed; it ends with the program.
 #pragma once
 
-#include <functional>
-#include <string_view>
-
+#include "search/FilterChoice.h"
 #include "settings/InterfaceStrings.h"
 #include "settings/mAppSpecific.h"
 #include "toolkit/Form.h"
 #include "windows/common/FormLanguage.h"
 #include "windows/common/InputHistory.h"
 #include "windows/filter/OperationKeywords.h"
-#include "windows/filter/PanelFilter.h"
+#include "windows/panels/DayPanels.h"
 
 namespace ordalyn {
 
@@ -23,8 +21,8 @@ class frmFilters : public toolkit::Form {
         FormLanguage& language;
         InputHistory& history;
         OperationKeywords::Surroundings keywords;
-        // The main window's ApplyFilter(true).
-        std::function<void()> applyFilter;
+        FilterChoice& filter;  // what the dialog shows and changes
+        DayPanels& panels;     // what the filter narrows
     };
 
     // Loads the dialog, hidden, with an empty filter. The first activation after it is shown loads
@@ -34,18 +32,18 @@ class frmFilters : public toolkit::Form {
     // Gives the boxes their texts, fonts and colours and the dialog the height that they need.
     // Filters nothing.
     void LoadInterface();
-    FilterChoice Choice() const;
     void FocusFilter() { cboFilter.SetFocus(); }
     // Unloads the dialog, which a user's close only hides.
     void UnloadAtEnd();
 
   private:
     void WireControls();
-    void RefillList(toolkit::ComboBox& box, std::int32_t firstText, std::int32_t secondText);
     void Arrange();
+    void Apply() { around_.panels.ApplyFilter(true); }
     void ApplyTypedText();
     void ApplyAndRemember();
     void ApplyIfFiltering();
+    void ClearHistory();
     void RemoveFilter();
     void ApplyOperation(int entry);
     void AboutToClose(bool& keep);

@@ -12,8 +12,6 @@ using toolkit::Twips;
 
 namespace {
 
-constexpr std::string_view kHistoryKey = "Find";
-constexpr int kHistoryLength = 32;
 constexpr std::int32_t kCannotFindText = 259;
 constexpr std::int32_t kSourceColumn = 0, kTargetColumn = 1;
 
@@ -89,40 +87,60 @@ constexpr toolkit::FormDesign kDesign = {
 
 }  // namespace
 
+void FindNextString(EntrySearch& search, const InterfaceStrings& strings, toolkit::Form& owner) {
+    if (!search.CanSearch()) {
+        owner.toolkit().Beep();
+        return;
+    }
+    if (search.FindNext())
+        return;
+    owner.toolkit().ShowMessage(
+        &owner, strings.GetInterfaceString(kCannotFindText) + " \"" + search.Options().text + "\"",
+        mAppCommon::kProgramTitle, toolkit::MessageIcon::Information);
+}
+
 frmSearchFor::frmSearchFor(toolkit::Toolkit& toolkit, const Surroundings& around)
     : Form(toolkit, kDesign),
       around_(around),
       cboFindWhat(Get<toolkit::ComboBox>("cboFindWhat")),
+      optSource(Get<toolkit::OptionButton>("optColumn", kSourceColumn)),
+      optTarget(Get<toolkit::OptionButton>("optColumn", kTargetColumn)),
       chkWholeWord(Get<toolkit::CheckBox>("chkWholeWord")),
       chkSelectedDate(Get<toolkit::CheckBox>("chkSelectedDate")),
       cmdFindNext(Get<toolkit::CommandButton>("cmdFindNext")),
       cmdClearList(Get<toolkit::CommandButton>("cmdClearList")) {
-    // There is no text yet, and the source is searched unless the options say otherwise.
-    cmdFindNext.SetEnabled(false);
-    Options().optSource.SetChecked(true);
-    WireControls();
     around_.language.ApplyLanguage(*this);
     CentreOnScreen();
     cmdClearList.SetEnabled(false);
-    around_.history.LoadHistory(cboFindWhat, kHistoryKey, kHistoryLength);
-    around_.settings.LoadFindOptions(Options());
+    around_.history.LoadHistory(cboFindWhat, kFindHistoryKey, kFindHistoryLength);
+    ShowOptions();
+    WireControls();
 }
 
-FindOptionControls frmSearchFor::Options() {
-    return {cboFindWhat, Get<toolkit::OptionButton>("optColumn", kSourceColumn),
-            Get<toolkit::OptionButton>("optColumn", kTargetColumn), chkWholeWord, chkSelectedDate};
+void frmSearchFor::ShowOptions() {
+    const SearchOptions& options = around_.search.Options();
+    if (options.historyItem >= 0 && options.historyItem < cboFindWhat.ListCount())
+        cboFindWhat.SetListIndex(options.historyItem);
+    else
+        cboFindWhat.SetText(options.text);
+    (options.ColumnNo == kSourceColumn ? optSource : optTarget).SetChecked(true);
+    chkWholeWord.SetChecked(options.wholeWord);
+    chkSelectedDate.SetChecked(options.selectedDateOnly);
+    cmdFindNext.SetEnabled(around_.search.CanSearch());
 }
 
 void frmSearchFor::WireControls() {
     cboFindWhat.Change.Subscribe([this] { TextChanged(); });
     cboFindWhat.Click.Subscribe([this] { TextChanged(); });
-    chkWholeWord.Click.Subscribe([this] { StartItem = 0; });
-    // Deliberately nothing for chkSelectedDate: the search goes on where it is.
-    Options().optSource.Click.Subscribe([this] { ColumnChosen(kSourceColumn); });
-    Options().optTarget.Click.Subscribe([this] { ColumnChosen(kTargetColumn); });
+    chkWholeWord.Click.Subscribe([this] { around_.search.SetWholeWord(chkWholeWord.Checked()); });
+    chkSelectedDate.Click.Subscribe(
+        [this] { around_.search.SetSelectedDateOnly(chkSelectedDate.Checked()); });
+    optSource.Click.Subscribe([this] { around_.search.SetColumn(kSourceColumn); });
+    optTarget.Click.Subscribe([this] { around_.search.SetColumn(kTargetColumn); });
     cmdFindNext.Click.Subscribe([this] {
-        FindNextString();
-        around_.history.AddToHistory(cboFindWhat, kHistoryKey, kHistoryLength);
+        FindNextString(around_.search, around_.strings, *this);
+        around_.history.AddToHistory(cboFindWhat, kFindHistoryKey, kFindHistoryLength);
+        around_.search.SetHistoryItem(cboFindWhat.ListIndex());
     });
     cmdClearList.Click.Subscribe([this] { ClearList(); });
     Get<toolkit::CommandButton>("cmdCancel").Click.Subscribe([this] { Hide(); });
@@ -137,44 +155,21 @@ void frmSearchFor::WireControls() {
         keep = true;
         Hide();
     });
-    Unloading.Subscribe(
-        [this] { around_.settings.SaveFindOptions(Options(), around_.settings.ColumnNo); });
 }
 
 void frmSearchFor::TextChanged() {
-    const bool searchable = !cboFindWhat.Text().empty();
-    cmdFindNext.SetEnabled(searchable);
-    around_.mnuSearchFindNext.SetEnabled(searchable);
-    StartItem = 0;
-}
-
-void frmSearchFor::ColumnChosen(std::int32_t column) {
-    StartItem = 0;
-    around_.settings.ColumnNo = column;
+    around_.search.SetText(cboFindWhat.Text(), cboFindWhat.ListIndex());
+    cmdFindNext.SetEnabled(around_.search.CanSearch());
+    around_.mnuSearchFindNext.SetEnabled(around_.search.CanSearch());
 }
 
 void frmSearchFor::ClearList() {
-    if (!around_.history.ClearHistory(cboFindWhat, kHistoryKey, kHistoryLength, *this))
+    if (!around_.history.ClearHistory(cboFindWhat, kFindHistoryKey, kFindHistoryLength, *this))
         return;
+    // The emptied box raises nothing: Search > Find Next stays as it was, and beeps.
+    around_.search.SetText("", cboFindWhat.ListIndex());
     cmdFindNext.SetEnabled(false);
     cmdClearList.SetEnabled(false);
-}
-
-void frmSearchFor::FindNextString() {
-    if (!cmdFindNext.Enabled()) {
-        toolkit().Beep();
-        return;
-    }
-    const std::string text = cboFindWhat.Text();
-    StartItem = around_.search.FindString(text, StartItem, around_.settings.ColumnNo,
-                                          chkWholeWord.Checked() ? 1 : 0,
-                                          chkSelectedDate.Checked() ? 1 : 0);
-    if (StartItem != EntrySearch::kNotFound)
-        return;
-    toolkit().ShowMessage(Visible() ? this : &around_.mainWindow,
-                          around_.strings.GetInterfaceString(kCannotFindText) + " \"" + text + "\"",
-                          mAppCommon::kProgramTitle, toolkit::MessageIcon::Information);
-    StartItem = 0;
 }
 
 void frmSearchFor::PreSelectText() {

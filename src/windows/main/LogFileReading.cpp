@@ -1,7 +1,6 @@
 #include "windows/main/LogFileReading.h"
 
 #include <exception>
-#include <utility>
 
 #include "base/FileNames.h"
 #include "toolkit/ScopedPointer.h"
@@ -16,8 +15,28 @@ constexpr std::int32_t kReadingText = 3250;
 
 }  // namespace
 
-LogFileReading::LogFileReading(LogReader& reader, EntryLists& entries, Surroundings surroundings)
-    : reader_(reader), entries_(entries), around_(std::move(surroundings)) {}
+LogFileReading::LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow, LogReader& reader,
+                               EntryLists& entries, DayPanels& panels, ReadingProgress& progress,
+                               MainTitle& title)
+    : shared_(shared),
+      mainWindow_(mainWindow),
+      reader_(reader),
+      entries_(entries),
+      panels_(panels),
+      progress_(progress),
+      title_(title) {}
+
+std::string LogFileReading::ChooseFile() {
+    cCommonDialog& dialog = *shared_.commonDialog;
+    dialog.ShowOpenDialog(mainWindow_.Handle(), GetFilePath(reader_.CurrentLogFile()), "",
+                          cCommonDialog::kLogFiles, "", true);
+    return dialog.Confirmed ? dialog.FileName : "";
+}
+
+void LogFileReading::EnableWindows(bool enabled) {
+    mainWindow_.SetEnabled(enabled);
+    WindowsEnabled.Raise(enabled);
+}
 
 void LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles,
                                  bool startNewList) {
@@ -26,25 +45,25 @@ void LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool add
     const toolkit::ScopedFlag reading(reading_);
     try {
         if (showDialog)
-            fileName = around_.chooseFile(GetFilePath(reader_.CurrentLogFile())).value_or("");
+            fileName = ChooseFile();
         if (fileName.empty())
             return;
         ReadWhole(fileName, addToRecentFiles, startNewList);
     } catch (const std::exception&) {
         // Whatever it was, the user is told where in which file; running out of memory included.
-        around_.progress.HideProgress();
+        progress_.HideProgress();
         ShowReadError();
     }
 }
 
 LogFileReading::Busy::Busy(LogFileReading& reading) : reading_(reading) {
     if (reading_.busy_++ == 0)
-        reading_.around_.enableWindows(false);
+        reading_.EnableWindows(false);
 }
 
 LogFileReading::Busy::~Busy() {
     if (--reading_.busy_ == 0)
-        reading_.around_.enableWindows(true);
+        reading_.EnableWindows(true);
 }
 
 // Counts the lines and shows the progress window, which handles the messages that came meanwhile.
@@ -52,13 +71,13 @@ void LogFileReading::Prepare(const std::string& fileName, bool startNewList) {
     const Busy busy(*this);
     reader_.BeginFile(fileName);
     if (startNewList) {
-        around_.setTitle(fileName);
+        title_.SetTitle(fileName);
         entries_.Clear();
-        around_.progress.PrepareCompact();
+        progress_.PrepareCompact();
     } else {
-        around_.progress.PrepareTall(GetFileName(fileName));
+        progress_.PrepareTall(GetFileName(fileName));
     }
-    around_.progress.ShowProgress(around_.strings(kReadingText), reader_.LineCount());
+    progress_.ShowProgress(shared_.Text(kReadingText), reader_.LineCount());
 }
 
 void LogFileReading::ReadWhole(const std::string& fileName, bool addToRecentFiles,
@@ -66,14 +85,14 @@ void LogFileReading::ReadWhole(const std::string& fileName, bool addToRecentFile
     Prepare(fileName, startNewList);
     if (stopped_)
         return;
-    reader_.ReadEntries([this](std::int32_t value) { around_.progress.SetValue(value); });
+    reader_.ReadEntries([this](std::int32_t value) { progress_.SetValue(value); });
     if (addToRecentFiles)
-        around_.rememberFile(fileName);
+        FileOpened.Raise(fileName);
     if (!startNewList)
         return;
     entries_.FreeExtraItems();
-    around_.panels.BuildDateList(true);
-    around_.progress.HideProgress();
+    panels_.BuildDateList(true);
+    progress_.HideProgress();
 }
 
 void LogFileReading::ReadAppendedLines(const std::string& fileName) {
@@ -81,13 +100,11 @@ void LogFileReading::ReadAppendedLines(const std::string& fileName) {
         return;
     const toolkit::ScopedFlag reading(reading_);
     try {
-        const toolkit::ScopedPointer hourglass(around_.form.toolkit(), toolkit::Pointer::Hourglass);
+        const toolkit::ScopedPointer hourglass(shared_.toolkit, toolkit::Pointer::Hourglass);
         if (!reader_.ReadAppendedLines(fileName))
             return;
-        around_.panels.BuildDateList(true);
-        const int rows = around_.SourceListView.RowCount();
-        if (rows > 0)
-            around_.panels.SelectEntryRow(rows);
+        panels_.BuildDateList(true);
+        panels_.SelectLastRow();
     } catch (const std::exception&) {
         ShowReadError();
     }
@@ -95,11 +112,11 @@ void LogFileReading::ReadAppendedLines(const std::string& fileName) {
 
 // The message is modal: what events can change may have changed when it returns.
 void LogFileReading::ShowReadError() {
-    around_.form.toolkit().ShowMessage(
-        &around_.form,
-        around_.strings(kErrorInFileText) + "\r\n" + reader_.CurrentLogFile() + "\r\n" +
-            around_.strings(kLineText) + " " + std::to_string(reader_.LineNumber()),
-        around_.messageTitle);
+    shared_.toolkit.ShowMessage(&mainWindow_,
+                                shared_.Text(kErrorInFileText) + "\r\n" + reader_.CurrentLogFile() +
+                                    "\r\n" + shared_.Text(kLineText) + " " +
+                                    std::to_string(reader_.LineNumber()),
+                                mAppCommon::kProgramTitle);
 }
 
 }  // namespace ordalyn

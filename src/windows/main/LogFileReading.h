@@ -2,15 +2,13 @@
 // the message when something is wrong with the file, and what follows a read.
 #pragma once
 
-#include <cstdint>
-#include <functional>
-#include <optional>
 #include <string>
-#include <string_view>
 
 #include "log/EntryLists.h"
 #include "log/LogReader.h"
 #include "toolkit/Form.h"
+#include "windows/common/SharedObjects.h"
+#include "windows/main/MainTitle.h"
 #include "windows/panels/DayPanels.h"
 #include "windows/progress/ReadingProgress.h"
 
@@ -18,23 +16,6 @@ namespace ordalyn {
 
 class LogFileReading {
   public:
-    struct Surroundings {
-        toolkit::Form& form;  // the main window
-        toolkit::ListView& SourceListView;
-        DayPanels& panels;
-        ReadingProgress& progress;
-        std::function<std::string(std::int32_t)> strings;
-        // Asks the user for a log, starting in the folder; nothing when the user cancels.
-        std::function<std::optional<std::string>(const std::string& initialFolder)> chooseFile;
-        std::function<void(const std::string& text)> setTitle;
-        // Puts the file first into the list of recent files, and saves the list.
-        std::function<void(const std::string& path)> rememberFile;
-        // Lets the user use the program's windows, the progress window apart, or keeps them from
-        // it.
-        std::function<void(bool enabled)> enableWindows;
-        std::string messageTitle;
-    };
-
     // Keeps the windows from being used for as long as one of these lives: a read handles messages
     // at some places, and nothing may begin another one there.
     class Busy {
@@ -48,7 +29,15 @@ class LogFileReading {
         LogFileReading& reading_;
     };
 
-    LogFileReading(LogReader& reader, EntryLists& entries, Surroundings surroundings);
+    LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow, LogReader& reader,
+                   EntryLists& entries, DayPanels& panels, ReadingProgress& progress,
+                   MainTitle& title);
+
+    // A file was read that belongs into the list of recent files.
+    toolkit::Event<const std::string&> FileOpened;
+    // The program's windows, the progress window apart, can be used from now on (true), or wait for
+    // a read.
+    toolkit::Event<bool> WindowsEnabled;
 
     // Reads one whole file. A failure of any kind ends in a message that names the file and the
     // line; the entries before it stay in the lists, and the days are not listed anew. Does nothing
@@ -58,7 +47,7 @@ class LogFileReading {
     // Reads the lines that were added since the last read, then shows the last day and its last
     // row.
     void ReadAppendedLines(const std::string& fileName);
-    void HideProgress() { around_.progress.HideProgress(); }
+    void HideProgress() { progress_.HideProgress(); }
 
     // The main window has closed, perhaps in the middle of a read: nothing is read, shown or told
     // any more.
@@ -72,10 +61,17 @@ class LogFileReading {
     void Prepare(const std::string& fileName, bool startNewList);
     void ReadWhole(const std::string& fileName, bool addToRecentFiles, bool startNewList);
     void ShowReadError();
+    void EnableWindows(bool enabled);
+    // Empty when the user cancels.
+    std::string ChooseFile();
 
+    SharedObjects& shared_;
+    toolkit::Form& mainWindow_;
     LogReader& reader_;
     EntryLists& entries_;
-    Surroundings around_;
+    DayPanels& panels_;
+    ReadingProgress& progress_;
+    MainTitle& title_;
     int busy_ = 0;
     bool reading_ = false;
     bool stopped_ = false;

@@ -1,7 +1,5 @@
 #include "windows/main/LogFileSet.h"
 
-#include <utility>
-
 #include "base/Attempt.h"
 #include "base/Text.h"
 
@@ -18,25 +16,46 @@ constexpr int kFirstSiblingItem = 2;
 
 }  // namespace
 
-LogFileSet::LogFileSet(platform::Files& files, EntryLists& entries, LogFileReading& reading,
-                       Surroundings surroundings)
-    : files_(files), entries_(entries), reading_(reading), around_(std::move(surroundings)) {
-    around_.cboFiles.Click.Subscribe([this] { FileComboClicked(); });
+LogFileSet::LogFileSet(SharedObjects& shared, const Controls& controls, EntryLists& entries,
+                       LogFileReading& reading, DayPanels& panels, MainTitle& title)
+    : shared_(shared),
+      controls_(controls),
+      entries_(entries),
+      reading_(reading),
+      panels_(panels),
+      title_(title) {
+    controls_.cboFiles.Click.Subscribe([this] { FileComboClicked(); });
+}
+
+RotationSettings LogFileSet::ReadRotationSettings() const {
+    const mAppCommon& common = shared_.common;
+    const auto read = [&](std::string_view key) {
+        return shared_.profile
+            ->ReadValue(kConfigurationSection, key, common.NoValueMarker(), common.CommanderIni())
+            .value_or("");
+    };
+    const std::string logFile = read("LogFile");
+    return {.logFileAbsent = common.IsNoValue(logFile),
+            .logFile = common.ExpandPath(logFile),
+            .rotateLimit = read("LogRotateLimit"),
+            .keepCount = read("LogKeepCount")};
 }
 
 void LogFileSet::BuildLogFileList() {
-    around_.cboFiles.Clear();
+    controls_.cboFiles.Clear();
     Attempt([this] {
-        const RotatedLogs logs(files_, around_.rotation(), around_.strings(kAllFilesText));
+        const RotatedLogs logs(shared_.services.files, ReadRotationSettings(),
+                               shared_.Text(kAllFilesText));
         liveLogName_ = logs.LiveLogName();
         logFolder_ = logs.LogFolder();
+        title_.SetLogFolder(logFolder_);
         for (const std::string& item : logs.Items())
-            around_.cboFiles.AddItem(item);
+            controls_.cboFiles.AddItem(item);
         switch (logs.ComboDisplay()) {
             case RotatedLogs::Display::Unchanged:
                 break;
             case RotatedLogs::Display::Hidden:
-                around_.cboFiles.SetVisible(false);
+                controls_.cboFiles.SetVisible(false);
                 break;
             case RotatedLogs::Display::LiveLog:
                 ShowLogFileCombo();
@@ -46,47 +65,52 @@ void LogFileSet::BuildLogFileList() {
 }
 
 void LogFileSet::SelectWithoutReading(int index) {
-    const toolkit::ScopedFlag ignore(around_.panels.IgnoreComboClick());
+    const toolkit::ScopedFlag ignore(ignoreComboClick_);
     lastFilesIndex_ = kHandleNext;
-    around_.cboFiles.SetListIndex(index);
+    controls_.cboFiles.SetListIndex(index);
 }
 
 void LogFileSet::ShowLogFileCombo() {
     Attempt([this] {
-        const toolkit::ScopedFlag ignore(around_.panels.IgnoreComboClick());
+        const toolkit::ScopedFlag ignore(ignoreComboClick_);
         lastFilesIndex_ = kHandleNext;
-        around_.cboFiles.SetText(liveLogName_);
+        controls_.cboFiles.SetText(liveLogName_);
     });
-    if (around_.cboFiles.ListCount() >= 2)
-        around_.cboFiles.SetVisible(true);
+    if (controls_.cboFiles.ListCount() >= 2)
+        controls_.cboFiles.SetVisible(true);
 }
 
 void LogFileSet::DeselectLogFile() {
-    if (!around_.cboFiles.Visible())
+    if (!controls_.cboFiles.Visible())
         return;
-    const toolkit::ScopedFlag ignore(around_.panels.IgnoreComboClick());
-    around_.cboFiles.SetListIndex(-1);
+    const toolkit::ScopedFlag ignore(ignoreComboClick_);
+    controls_.cboFiles.SetListIndex(-1);
+}
+
+void LogFileSet::LanguageChanged() {
+    if (controls_.cboFiles.Visible() && controls_.cboFiles.ListCount() > 0)
+        controls_.cboFiles.SetItem(0, shared_.Text(kAllFilesText));
 }
 
 void LogFileSet::FileComboClicked() {
-    const int index = around_.cboFiles.ListIndex();
+    const int index = controls_.cboFiles.ListIndex();
     if (index == lastFilesIndex_)
         return;
     lastFilesIndex_ = index;
-    if (around_.panels.IgnoreComboClick())
+    if (ignoreComboClick_)
         return;
     // A list that has shrunk to the live log alone has no item for all of them.
-    if (index == kAllFilesItem && around_.cboFiles.ListCount() > 1) {
+    if (index == kAllFilesItem && controls_.cboFiles.ListCount() > 1) {
         ReadAllFiles();
         return;
     }
-    reading_.ReadLogFile(false, logFolder_ + around_.cboFiles.Text(), false, true);
+    reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.Text(), false, true);
     EnableRefreshForLiveLog();
 }
 
 // Only the live log can grow.
 void LogFileSet::EnableRefreshForLiveLog() {
-    around_.mnuViewRefresh.SetEnabled(EqualsIgnoreCase(around_.cboFiles.Text(), liveLogName_));
+    controls_.mnuViewRefresh.SetEnabled(EqualsIgnoreCase(controls_.cboFiles.Text(), liveLogName_));
 }
 
 void LogFileSet::ReadAllFiles() {
@@ -98,7 +122,7 @@ void LogFileSet::ReadAllFiles() {
         const LogFileReading::Busy busy(reading_);
         stopped = !ReadSiblings();
         if (!stopped)
-            reading_.ReadLogFile(false, logFolder_ + around_.cboFiles.List(kLiveLogItem), false,
+            reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.List(kLiveLogItem), false,
                                  false);
     }
     if (reading_.Stopped())
@@ -107,23 +131,23 @@ void LogFileSet::ReadAllFiles() {
         ReadOnlyLiveLog();
         return;
     }
-    around_.setTitle(around_.strings(kAllFilesText));
+    title_.SetTitle(shared_.Text(kAllFilesText));
     Attempt([this] { entries_.FreeExtraItems(); });
     reading_.HideProgress();
-    around_.panels.BuildDateList(false);
-    around_.mnuViewRefresh.SetEnabled(false);
+    panels_.BuildDateList(false);
+    controls_.mnuViewRefresh.SetEnabled(false);
 }
 
 bool LogFileSet::ReadSiblings() {
-    for (int item = kFirstSiblingItem; item < around_.cboFiles.ListCount(); ++item) {
-        reading_.ReadLogFile(false, logFolder_ + around_.cboFiles.List(item), false, false);
+    for (int item = kFirstSiblingItem; item < controls_.cboFiles.ListCount(); ++item) {
+        reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.List(item), false, false);
         // So that a click on Cancel is seen. The main window waits for the read, but the list of
         // files could still change here.
-        around_.form.toolkit().DoEvents();
+        shared_.toolkit.DoEvents();
         if (!reading_.CancelReading || reading_.Stopped())
             continue;
-        const toolkit::Answer answer = around_.form.toolkit().ShowMessage(
-            &around_.form, around_.strings(kAreYouSureText), around_.messageTitle,
+        const toolkit::Answer answer = shared_.toolkit.ShowMessage(
+            &controls_.form, shared_.Text(kAreYouSureText), mAppCommon::kProgramTitle,
             toolkit::MessageIcon::Question, toolkit::MessageButtons::YesNo, toolkit::Answer::No);
         if (answer == toolkit::Answer::Yes)
             return false;
@@ -133,11 +157,11 @@ bool LogFileSet::ReadSiblings() {
 }
 
 void LogFileSet::ReadOnlyLiveLog() {
-    reading_.ReadLogFile(false, logFolder_ + around_.cboFiles.List(kLiveLogItem), false, true);
+    reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.List(kLiveLogItem), false, true);
     // The list still names "All files" here, so this leaves Refresh disabled. Kept as it is.
     EnableRefreshForLiveLog();
     SelectWithoutReading(kLiveLogItem);
-    around_.SourceListView.SetFocus();
+    controls_.SourceListView.SetFocus();
 }
 
 }  // namespace ordalyn

@@ -3,33 +3,27 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 
 #include "log/RotatedLogs.h"
-#include "platform/Platform.h"
 #include "toolkit/Form.h"
+#include "windows/common/SharedObjects.h"
 #include "windows/main/LogFileReading.h"
+#include "windows/main/MainTitle.h"
 
 namespace ordalyn {
 
 class LogFileSet {
   public:
-    struct Surroundings {
+    struct Controls {
         toolkit::Form& form;  // the main window
         toolkit::ComboBox& cboFiles;
         toolkit::ListView& SourceListView;
         toolkit::MenuItem& mnuViewRefresh;
-        DayPanels& panels;
-        // What the file manager's settings say now.
-        std::function<RotationSettings()> rotation;
-        std::function<std::string(std::int32_t)> strings;
-        std::function<void(const std::string& text)> setTitle;
-        std::string messageTitle;
     };
 
-    LogFileSet(platform::Files& files, EntryLists& entries, LogFileReading& reading,
-               Surroundings surroundings);
+    LogFileSet(SharedObjects& shared, const Controls& controls, EntryLists& entries,
+               LogFileReading& reading, DayPanels& panels, MainTitle& title);
 
     // Lists the files anew, with the live log selected but not read. Errors end single steps only.
     void BuildLogFileList();
@@ -40,8 +34,11 @@ class LogFileSet {
     // settings; the folder is empty when the path there has none.
     const std::string& LiveLogName() const { return liveLogName_; }
     const std::string& LogFolder() const { return logFolder_; }
+    // The interface language is another one.
+    void LanguageChanged();
 
   private:
+    RotationSettings ReadRotationSettings() const;
     void ShowLogFileCombo();
     void FileComboClicked();
     void ReadAllFiles();
@@ -51,10 +48,13 @@ class LogFileSet {
     void EnableRefreshForLiveLog();
     void SelectWithoutReading(int index);
 
-    platform::Files& files_;
+    SharedObjects& shared_;
+    Controls controls_;
     EntryLists& entries_;
     LogFileReading& reading_;
-    Surroundings around_;
+    DayPanels& panels_;
+    MainTitle& title_;
+    bool ignoreComboClick_ = false;  // while code chooses an item
     std::string liveLogName_;
     std::string logFolder_;
     // The selection that was handled last; kHandleNext forces the next click to be handled.

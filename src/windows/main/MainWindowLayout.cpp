@@ -21,16 +21,12 @@ Twips Pixels(std::int32_t count, std::int32_t twipsPerPixel) {
 
 }  // namespace
 
-MainWindowLayout::MainWindowLayout(const Controls& controls, cSplitter& splitter,
-                                   SettingsValues& settings, PixelSize pixel,
-                                   std::function<std::string()> targetCaption,
-                                   std::function<void(int)> rowSelected)
+MainWindowLayout::MainWindowLayout(const Controls& controls, SettingsValues& settings,
+                                   PixelSize pixel, std::function<std::string()> targetCaption)
     : controls_(controls),
-      splitter_(splitter),
       settings_(settings),
       pixel_(pixel),
-      targetCaption_(std::move(targetCaption)),
-      rowSelected_(std::move(rowSelected)) {}
+      targetCaption_(std::move(targetCaption)) {}
 
 void MainWindowLayout::ArrangeFirstTime() {
     controls_.picSpliterContainer.SetLeft(static_cast<Twips>(pixel_.x));
@@ -39,12 +35,9 @@ void MainWindowLayout::ArrangeFirstTime() {
     controls_.mnuViewStatusBar.SetChecked(statusBar);
     const bool twoPanels = settings_.TwoPanels != 0;
     controls_.mnuViewTwoPanels.SetChecked(twoPanels);
-    controls_.mnuViewVerticalPanels.SetChecked(settings_.VerticalPanels != 0);
     controls_.mnuViewVerticalPanels.SetEnabled(twoPanels);
-    // Flipped back by the change, which makes the arrangement; with one panel it waits out of sight
-    // for the second one.
-    settings_.VerticalPanels = CheckedAdd(settings_.VerticalPanels, 1) % 2;
-    ChangePanelsOrientation(false);
+    // With one panel the arrangement waits out of sight for the second one.
+    ArrangePanels();
     if (!twoPanels) {
         controls_.picSpliterContainer.SetVisible(false);
         PutSourceListOnWindow();
@@ -74,27 +67,24 @@ void MainWindowLayout::WindowResized() {
     });
 }
 
-void MainWindowLayout::CreateSplitter(std::int32_t direction, std::int32_t position) {
+void MainWindowLayout::ArrangePanels() {
+    const bool sideBySide = settings_.VerticalPanels != 0;
+    controls_.mnuViewVerticalPanels.SetChecked(sideBySide);
     // The bar's thickness is measured with the horizontal factor in both directions, deliberately.
     splitter_.CreateSplitter(controls_.picSpliterContainer, controls_.Frame1,
-                             controls_.SourceListView, controls_.TargetListView, direction,
-                             position, CheckedMultiply(kBarThickness, pixel_.x), 0, 0, 0, 0);
+                             controls_.SourceListView, controls_.TargetListView,
+                             sideBySide ? cSplitter::kSideBySide : cSplitter::kStacked,
+                             sideBySide ? settings_.VSplitPosition : settings_.HSplitPosition,
+                             CheckedMultiply(kBarThickness, pixel_.x), 0, 0, 0, 0);
 }
 
 void MainWindowLayout::ChangePanelsOrientation(bool blnSaveCurrent) {
-    if (settings_.VerticalPanels != 1) {
-        settings_.VerticalPanels = 1;
-        controls_.mnuViewVerticalPanels.SetChecked(true);
-        if (blnSaveCurrent)
-            settings_.HSplitPosition = RoundToLong(splitter_.SplitPosition());
-        CreateSplitter(cSplitter::kSideBySide, settings_.VSplitPosition);
-    } else {
-        settings_.VerticalPanels = 0;
-        controls_.mnuViewVerticalPanels.SetChecked(false);
-        if (blnSaveCurrent)
-            settings_.VSplitPosition = RoundToLong(splitter_.SplitPosition());
-        CreateSplitter(cSplitter::kStacked, settings_.HSplitPosition);
-    }
+    const bool wasSideBySide = settings_.VerticalPanels != 0;
+    if (blnSaveCurrent)
+        (wasSideBySide ? settings_.VSplitPosition : settings_.HSplitPosition) =
+            RoundToLong(splitter_.SplitPosition());
+    settings_.VerticalPanels = wasSideBySide ? 0 : 1;
+    ArrangePanels();
 }
 
 void MainWindowLayout::ToggleTwoPanels() {
@@ -115,7 +105,7 @@ void MainWindowLayout::ChangePanelsCount() {
     // What cannot follow the selection does not keep the window from being laid out.
     Attempt([&] {
         if (selected >= 0)
-            rowSelected_(selected);
+            RowMoved.Raise(selected);
     });
     WindowResized();
     controls_.SourceListView.SetFocus();
@@ -126,10 +116,8 @@ void MainWindowLayout::MoveToTwoPanels() {
     toolkit::ListView& target = controls_.TargetListView;
     // The two panels show the same rows of the same source.
     target.Fill(source.Source(), source.RowTags());
-    // The orientation is flipped back by the next step, which makes the arrangement anew.
-    settings_.VerticalPanels = CheckedAdd(settings_.VerticalPanels, 1) % 2;
     target.SetColumnWidth(0, source.ColumnWidth(kTargetField));
-    ChangePanelsOrientation(false);
+    ArrangePanels();
     source.RemoveLastColumn();
     controls_.picSpliterContainer.SetVisible(true);
 }

@@ -39,11 +39,12 @@ class MainWindowLayout {
     // The text field of a row that a column for targets shows.
     static constexpr int kTargetField = 2;
 
-    // `targetCaption` answers the caption of a column for targets; `rowSelected` is run after a
-    // change of arrangement for the selected row (0-based), so that everything follows it.
-    MainWindowLayout(const Controls& controls, cSplitter& splitter, SettingsValues& settings,
-                     PixelSize pixel, std::function<std::string()> targetCaption,
-                     std::function<void(int row)> rowSelected);
+    // `targetCaption` returns the caption of a column for targets.
+    MainWindowLayout(const Controls& controls, SettingsValues& settings, PixelSize pixel,
+                     std::function<std::string()> targetCaption);
+
+    // Another number of panels shows the selected row (0-based).
+    toolkit::Event<int> RowMoved;
 
     // Sets the menu's marks and makes the first arrangement as the settings say. The columns must
     // be there already.
@@ -58,6 +59,7 @@ class MainWindowLayout {
     // Turns side by side into stacked or the other way round. `blnSaveCurrent` keeps the bar's
     // position of the arrangement that is left.
     void ChangePanelsOrientation(bool blnSaveCurrent);
+    cSplitter& Splitter() { return splitter_; }
     // Brings the window into the mode that the TwoPanels setting now says.
     void ChangePanelsCount();
     // Writes the orientation and both bar positions. With a single panel it writes nothing at all.
@@ -65,17 +67,17 @@ class MainWindowLayout {
 
   private:
     toolkit::Twips StatusBarHeight() const;
-    void CreateSplitter(std::int32_t direction, std::int32_t position);
+    // Arranges the panels side by side or stacked, as the VerticalPanels setting now says.
+    void ArrangePanels();
     void MoveToTwoPanels();
     void MoveToOnePanel();
     void PutSourceListOnWindow();
 
     Controls controls_;
-    cSplitter& splitter_;
+    cSplitter splitter_;
     SettingsValues& settings_;
     PixelSize pixel_;
     std::function<std::string()> targetCaption_;
-    std::function<void(int)> rowSelected_;
 };
 
 }  // namespace ordalyn

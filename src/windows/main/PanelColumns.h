@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "toolkit/ListView.h"
-#include "windows/main/SharedObjects.h"
+#include "windows/common/SharedObjects.h"
 #include "windows/panels/EntryRows.h"
 
 namespace ordalyn {

@@ -18,8 +18,6 @@ using toolkit::ListView;
 namespace {
 
 constexpr std::string_view kRecentFilesKey = "RecentFiles";
-constexpr std::int32_t kAllDatesText = 4005;
-constexpr std::int32_t kAllFilesText = 4006;
 // Operations, date, filter; the last takes the rest of the bar.
 constexpr toolkit::Twips kStatusPanels[] = {3000, 4200, 0};
 
@@ -33,19 +31,23 @@ frmMain::frmMain(SharedObjects& shared)
       SourceListView(Get<ListView>("SourceListView")),
       TargetListView(Get<ListView>("TargetListView")),
       StatusBar1(Get<toolkit::StatusBar>("StatusBar1")),
+      title_(*this),
       columns_(shared, SourceListView, TargetListView),
       copy_(shared.services.clipboard, SourceListView, entries_),
       reader_(shared.services.files, shared.services.codePages, entries_),
-      panels_(PanelControls(), entries_, *shared.settings, shared.services.locale,
-              [this](std::int32_t id) { return Text(id); }),
+      panels_({*this, cboDate, SourceListView, TargetListView, StatusBar1, Menu("mnuContext"),
+               Menu("mnuContextCopyTarget")},
+              entries_, filter_, *shared.settings, shared.services.locale, shared.TextSource()),
       progress_(shared.toolkit, *this, shared.FormTexts(),
                 [this] { reading_.CancelReading = true; }),
-      reading_(reader_, entries_, ReadingSurroundings()),
-      files_(shared.services.files, entries_, reading_, FileSetSurroundings()),
-      layout_(
-          LayoutControls(), *shared.splitter, *shared.settings,
-          {shared.screen.twipsPerPixelX, shared.screen.twipsPerPixelY},
-          [this] { return columns_.TargetCaption(); }, [this](int row) { SourceRowClicked(row); }),
+      reading_(shared, *this, reader_, entries_, panels_, progress_, title_),
+      files_(shared, {*this, cboFiles, SourceListView, Menu("mnuViewRefresh")}, entries_, reading_,
+             panels_, title_),
+      layout_({*this, cboDate, Get<toolkit::PictureBox>("picSpliterContainer"),
+               Get<toolkit::Frame>("Frame1"), SourceListView, TargetListView, StatusBar1,
+               Menu("mnuViewStatusBar"), Menu("mnuViewTwoPanels"), Menu("mnuViewVerticalPanels")},
+              *shared.settings, {shared.screen.twipsPerPixelX, shared.screen.twipsPerPixelY},
+              [this] { return columns_.TargetCaption(); }),
       locator_({.common = shared.common,
                 .registry = *shared.registry,
                 .profile = *shared.profile,
@@ -53,8 +55,8 @@ frmMain::frmMain(SharedObjects& shared)
                 .environment = shared.services.environment,
                 .toolkit = shared.toolkit,
                 .owner = this,
-                .text = [this](std::int32_t id) { return Text(id); }}),
-      find_(FindSurroundings()) {
+                .text = shared.TextSource()}),
+      find_(shared, *this, entries_, panels_, filter_) {
     for (const toolkit::Twips width : kStatusPanels)
         StatusBar1.AddPanel(width);
     // A step that fails leaves its own result out, not the steps behind it.
@@ -72,7 +74,7 @@ frmMain::frmMain(SharedObjects& shared)
     Menu("mnuSearchFindNext").SetEnabled(false);
     SetTitle("");
     WireMenus();
-    WirePanels();
+    WireParts();
     Resize.Subscribe([this] { layout_.WindowResized(); });
     Activate.Subscribe([this] { FirstActivation(); });
     KeyUp.Subscribe([this](int key, toolkit::Modifiers modifiers) { KeyReleased(key, modifiers); });
@@ -85,106 +87,9 @@ frmMain::frmMain(SharedObjects& shared)
 
 frmMain::~frmMain() = default;
 
-DayPanels::Controls frmMain::PanelControls() {
-    return {*this,
-            cboDate,
-            SourceListView,
-            TargetListView,
-            StatusBar1,
-            Menu("mnuContext"),
-            Menu("mnuContextCopyTarget")};
-}
-
-MainWindowLayout::Controls frmMain::LayoutControls() {
-    return {*this,
-            cboDate,
-            Get<toolkit::PictureBox>("picSpliterContainer"),
-            Get<toolkit::Frame>("Frame1"),
-            SourceListView,
-            TargetListView,
-            StatusBar1,
-            Menu("mnuViewStatusBar"),
-            Menu("mnuViewTwoPanels"),
-            Menu("mnuViewVerticalPanels")};
-}
-
-LogFileReading::Surroundings frmMain::ReadingSurroundings() {
-    return {.form = *this,
-            .SourceListView = SourceListView,
-            .panels = panels_,
-            .progress = progress_,
-            .strings = [this](std::int32_t id) { return Text(id); },
-            .chooseFile = [this](const std::string& folder) -> std::optional<std::string> {
-                cCommonDialog& dialog = *shared_.commonDialog;
-                dialog.ShowOpenDialog(Handle(), folder, "", cCommonDialog::kLogFiles, "", true);
-                if (!dialog.Confirmed)
-                    return std::nullopt;
-                return dialog.FileName;
-            },
-            .setTitle = [this](const std::string& text) { SetTitle(text); },
-            .rememberFile =
-                [this](const std::string& path) {
-                    shared_.recentFiles->AddFile(path);
-                    shared_.recentFiles->SaveList(shared_.common.SettingsFile(), kOrdalynSection,
-                                                  kRecentFilesKey);
-                },
-            .enableWindows =
-                [this](bool enabled) {
-                    SetEnabled(enabled);
-                    find_.EnableDialogs(enabled);
-                },
-            .messageTitle = std::string(mAppCommon::kProgramTitle)};
-}
-
-LogFileSet::Surroundings frmMain::FileSetSurroundings() {
-    return {.form = *this,
-            .cboFiles = cboFiles,
-            .SourceListView = SourceListView,
-            .mnuViewRefresh = Menu("mnuViewRefresh"),
-            .panels = panels_,
-            .rotation =
-                [this] {
-                    const auto read = [this](std::string_view key) {
-                        return shared_.profile
-                            ->ReadValue(kConfigurationSection, key, shared_.common.NoValueMarker(),
-                                        shared_.common.CommanderIni())
-                            .value_or("");
-                    };
-                    const std::string logFile = read("LogFile");
-                    return RotationSettings{.logFileAbsent = shared_.common.IsNoValue(logFile),
-                                            .logFile = shared_.common.ExpandPath(logFile),
-                                            .rotateLimit = read("LogRotateLimit"),
-                                            .keepCount = read("LogKeepCount")};
-                },
-            .strings = [this](std::int32_t id) { return Text(id); },
-            .setTitle = [this](const std::string& text) { SetTitle(text); },
-            .messageTitle = std::string(mAppCommon::kProgramTitle)};
-}
-
-FindCommands::Surroundings frmMain::FindSurroundings() {
-    return {.mainWindow = *this,
-            .cboDate = cboDate,
-            .SourceListView = SourceListView,
-            .TargetListView = TargetListView,
-            .StatusBar1 = StatusBar1,
-            .mnuSearchFindNext = Menu("mnuSearchFindNext"),
-            .entries = entries_,
-            .panels = panels_,
-            .common = shared_.common,
-            .profile = *shared_.profile,
-            .settings = *shared_.settings,
-            .strings = *shared_.strings,
-            .language = *shared_.language,
-            .files = shared_.services.files,
-            .codePages = shared_.services.codePages};
-}
-
-void frmMain::SetTitle(std::string_view text) {
-    SetCaption(std::string(mAppCommon::kProgramTitle) + " " + GetVersionText(" RC 1 - ") +
-               std::string(text));
-}
-
 void frmMain::ApplySettings() {
+    // A language file that was chosen in the options and is not there is reported at once.
+    shared_.language->CheckLanguageFile(shared_.toolkit, nullptr);
     const mAppSpecific& settings = *shared_.settings;
     const auto look = settings.FlatUserInterface != 0 ? toolkit::Appearance::Flat
                                                       : toolkit::Appearance::ThreeDimensional;
@@ -210,7 +115,7 @@ void frmMain::ApplySettings() {
             panel, settings.FlatUserInterface != 0 ? toolkit::Bevel::None : toolkit::Bevel::Inset);
     }
     // The filter dialog's boxes look like the panels, and its texts are those of the language that
-    // the options may have changed. Makes the dialog when it was never needed before.
+    // the options may have changed.
     find_.LoadFilterInterface();
 }
 
@@ -231,44 +136,31 @@ void frmMain::WireMenus() {
     on("mnuHelpHelpTopics", [this] {
         ShowHelp({shared_.toolkit, shared_.services.files, shared_.services.shell,
                   shared_.common.ProgramFolder(), shared_.settings->UseDefaultLanguage != 0,
-                  shared_.settings->LanguageFile, [this](std::int32_t id) { return Text(id); }},
+                  shared_.settings->LanguageFile, shared_.TextSource()},
                  *this);
     });
-    on("mnuHelpAbout", [this] {
-        about_ = std::make_unique<frmAbout>(shared_.toolkit, shared_.services.shell,
-                                            shared_.FormTexts());
-        about_->ShowModal(this);
-        about_.reset();
-    });
+    on("mnuHelpAbout", [this] { ShowAbout(); });
     on("mnuContextCopySource", [this] { copy_.CopySource(); });
     on("mnuContextCopyTarget", [this] { copy_.CopyTarget(); });
 }
 
-void frmMain::WirePanels() {
-    panels_.SetReactions({.rowClicked = [this](int row) { SourceRowClicked(row); },
-                          .applyFilter = [this] { find_.ApplyFilter(false); },
-                          .dayChosen = [this](bool singleDay) { find_.DayChosen(singleDay); }});
+void frmMain::WireParts() {
+    panels_.RowShown.Subscribe(
+        [this](int row) { title_.ShowFile(entries_.EntryFiles().List(SourceListView.Tag(row))); });
+    layout_.RowMoved.Subscribe([this](int row) { panels_.SourceRowClicked(row); });
+    reading_.WindowsEnabled.Subscribe([this](bool enabled) { find_.EnableDialogs(enabled); });
+    reading_.FileOpened.Subscribe([this](const std::string& path) {
+        shared_.recentFiles->AddFile(path);
+        shared_.recentFiles->SaveList(shared_.common.SettingsFile(), kOrdalynSection,
+                                      kRecentFilesKey);
+    });
     StatusBar1.PanelClick.Subscribe([this](int panel) { find_.StatusBarPanelClicked(panel); });
-    // Rows can be older than the entries, when a file could not be read, and an entry can be newer
-    // than the list of files: such a row has no title to show, which is nothing to report for each
-    // arrow key.
-    SourceListView.ItemClick.Subscribe(
-        [this](int row) { Attempt([&] { SourceRowClicked(row); }); });
-    TargetListView.ItemClick.Subscribe(
-        [this](int row) { Attempt([&] { TargetRowClicked(row); }); });
-    for (ListView* list : {&SourceListView, &TargetListView}) {
-        list->MouseUp.Subscribe(
-            [this](int button, toolkit::Modifiers, toolkit::Twips, toolkit::Twips) {
-                if (button == toolkit::kRightButton)
-                    panels_.ShowContextMenu();
-            });
-    }
 }
 
 void frmMain::LoadRecentFiles() {
     cRecentFiles& recent = *shared_.recentFiles;
     recent.Setup(shared_.settings->NumberOfRecentFiles, *this, Menu("mnuFileRecentGroup"),
-                 Text(108), Text(109), Text(3009));
+                 shared_.Text(108), shared_.Text(109), shared_.Text(3009));
     recent.FileChosen.Subscribe([this](std::int32_t index) { OpenRecentFile(index); });
     recent.ClearChosen.Subscribe([this] {
         if (shared_.recentFiles->Clear())
@@ -293,35 +185,12 @@ void frmMain::FirstActivation() {
         constexpr std::int32_t kNoLogText = 4050;
         reader_.ForgetLogFile();
         SetTitle("");
-        shared_.toolkit.ShowMessage(this, Text(kNoLogText), mAppCommon::kProgramTitle,
+        shared_.toolkit.ShowMessage(this, shared_.Text(kNoLogText), mAppCommon::kProgramTitle,
                                     toolkit::MessageIcon::Critical);
         return;
     }
     files_.BuildLogFileList();
     reading_.ReadLogFile(false, logFile, false, true);
-}
-
-void frmMain::SourceRowClicked(int row) {
-    if (shared_.settings->TwoPanels != 0) {
-        TargetListView.SelectRow(row);
-        TargetListView.EnsureVisible(row);
-    }
-    ShowEntryOfRow(row);
-}
-
-void frmMain::TargetRowClicked(int row) {
-    SourceListView.SelectRow(row);
-    SourceListView.EnsureVisible(row);
-    ShowEntryOfRow(row);
-}
-
-void frmMain::ShowEntryOfRow(int row) {
-    const std::int32_t entry = SourceListView.Tag(row);
-    if (panels_.SelectedDay() == DayPanels::kAllDates)
-        panels_.ShowDateInStatusBar(shared_.settings->LongDate != 0,
-                                    entries_.EntryDates().List(entry));
-    // The folder is the live log's, also when the file was opened from another one.
-    SetTitle(files_.LogFolder() + std::string(entries_.EntryFiles().List(entry)));
 }
 
 void frmMain::KeyReleased(int key, toolkit::Modifiers modifiers) {
@@ -349,7 +218,8 @@ void frmMain::OpenRecentFile(std::int32_t index) {
         OpenLog(path);
         return;
     }
-    shared_.toolkit.ShowMessage(this, Text(3021) + " " + path + "\r\n\r\n" + Text(3022),
+    shared_.toolkit.ShowMessage(this,
+                                shared_.Text(3021) + " " + path + "\r\n\r\n" + shared_.Text(3022),
                                 mAppCommon::kProgramTitle, toolkit::MessageIcon::Exclamation);
     recent.RemoveFile(index, true);
     recent.SaveList(shared_.common.SettingsFile(), kOrdalynSection, kRecentFilesKey);
@@ -358,6 +228,13 @@ void frmMain::OpenRecentFile(std::int32_t index) {
 void frmMain::RefreshLog() {
     reading_.ReadAppendedLines(reader_.CurrentLogFile());
     files_.BuildLogFileList();
+}
+
+void frmMain::ShowAbout() {
+    about_ =
+        std::make_unique<frmAbout>(shared_.toolkit, shared_.services.shell, shared_.FormTexts());
+    about_->ShowModal(this);
+    about_.reset();
 }
 
 void frmMain::ShowOptions() {
@@ -392,13 +269,10 @@ void frmMain::ShowOptions() {
 void frmMain::ApplyNewLanguage() {
     shared_.language->ApplyLanguage(*this);
     columns_.ShowCaptions();
-    panels_.ShowOperationCount();
     find_.LanguageChanged();
     shared_.recentFiles->ChangeLanguage();
-    if (cboFiles.Visible() && cboFiles.ListCount() > 0)
-        cboFiles.SetItem(0, Text(kAllFilesText));
-    if (panels_.FirstDayItem() == 1)
-        cboDate.SetItem(0, Text(kAllDatesText));
+    files_.LanguageChanged();
+    panels_.LanguageChanged();
 }
 
 void frmMain::Close() {

@@ -9,14 +9,16 @@
 #include "hostconfig/TotalCommanderLocator.h"
 #include "log/EntryLists.h"
 #include "log/LogReader.h"
+#include "search/FilterChoice.h"
 #include "toolkit/Form.h"
-#include "windows/find/FindCommands.h"
+#include "windows/common/SharedObjects.h"
 #include "windows/main/CopyCommands.h"
+#include "windows/main/FindCommands.h"
 #include "windows/main/LogFileReading.h"
 #include "windows/main/LogFileSet.h"
+#include "windows/main/MainTitle.h"
 #include "windows/main/MainWindowLayout.h"
 #include "windows/main/PanelColumns.h"
-#include "windows/main/SharedObjects.h"
 #include "windows/panels/DayPanels.h"
 #include "windows/progress/ProgressWindow.h"
 
@@ -33,39 +35,29 @@ class frmMain : public toolkit::Form {
 
     // Applies fonts, borders, colours and the rest of the visual settings to the window's controls.
     void ApplySettings();
-    // Labels the list of dates anew; non-zero means long dates.
+    // Labels the list of dates again; non-zero means long dates.
     void ApplyNewDateFormat(std::int32_t lngLd) { panels_.ApplyNewDateFormat(lngLd); }
     // The window's caption: program, version and the text.
-    void SetTitle(std::string_view text);
+    void SetTitle(std::string_view text) { title_.SetTitle(text); }
 
     // Shuts the other windows down; run by the window when it has been closed and saved.
     toolkit::Event<> ShutDown;
 
   private:
-    DayPanels::Controls PanelControls();
-    MainWindowLayout::Controls LayoutControls();
-    LogFileReading::Surroundings ReadingSurroundings();
-    LogFileSet::Surroundings FileSetSurroundings();
-    std::string Text(std::int32_t id) const { return shared_.strings->GetInterfaceString(id); }
-
-    FindCommands::Surroundings FindSurroundings();
-
     // Load and close.
     void WireMenus();
-    void WirePanels();
+    void WireParts();
     void LoadRecentFiles();
     void Close();
 
     // Events.
     void FirstActivation();
-    void SourceRowClicked(int row);
-    void TargetRowClicked(int row);
-    void ShowEntryOfRow(int row);
     void KeyReleased(int key, toolkit::Modifiers modifiers);
     void OpenLog(const std::string& path);
     void OpenRecentFile(std::int32_t index);
     void RefreshLog();
     void ShowOptions();
+    void ShowAbout();
     void ApplyNewLanguage();
 
     SharedObjects& shared_;
@@ -76,6 +68,8 @@ class frmMain : public toolkit::Form {
     toolkit::StatusBar& StatusBar1;
 
     EntryLists entries_;
+    FilterChoice filter_;
+    MainTitle title_;
     PanelColumns columns_;
     CopyCommands copy_;
     LogReader reader_;

@@ -5,9 +5,12 @@
 #include <vector>
 
 #include "base/Attempt.h"
+#include "base/CheckedMath.h"
 #include "base/Text.h"
 #include "log/DayRows.h"
 #include "windows/panels/EntryRows.h"
+#include "windows/panels/RowOfEntry.h"
+#include "windows/panels/StatusTexts.h"
 
 namespace ordalyn {
 
@@ -15,21 +18,35 @@ namespace {
 
 constexpr std::int32_t kAllDatesText = 4005;
 constexpr std::int32_t kOperationsText = 4010;
-constexpr int kCountPanel = 1;
-constexpr int kDatePanel = 2;
-// Every text of the status bar ends in two blanks.
-constexpr std::string_view kStatusEnd = "  ";
+constexpr std::int32_t kFilterText = 4032;
 
 }  // namespace
 
-DayPanels::DayPanels(const Controls& controls, EntryLists& entries, const SettingsValues& settings,
-                     platform::Locale& locale, Strings strings)
+DayPanels::DayPanels(const Controls& controls, const EntryLists& entries,
+                     const FilterChoice& filter, const SettingsValues& settings,
+                     platform::Locale& locale, TextById text)
     : controls_(controls),
       entries_(entries),
+      filter_(filter),
       settings_(settings),
       locale_(locale),
-      strings_(std::move(strings)) {
+      text_(std::move(text)),
+      panelFilter_(controls.SourceListView, controls.TargetListView, entries, filter, settings) {
     controls_.cboDate.Click.Subscribe([this] { DateComboClicked(); });
+    // Rows can be older than the entries, when a file could not be read, and an entry can be newer
+    // than the list of files: such a row has no title to show, which is nothing to report for each
+    // arrow key.
+    controls_.SourceListView.ItemClick.Subscribe(
+        [this](int row) { Attempt([&] { SourceRowClicked(row); }); });
+    controls_.TargetListView.ItemClick.Subscribe(
+        [this](int row) { Attempt([&] { TargetRowClicked(row); }); });
+    for (toolkit::ListView* list : {&controls_.SourceListView, &controls_.TargetListView}) {
+        list->MouseUp.Subscribe(
+            [this](int button, toolkit::Modifiers, toolkit::Twips, toolkit::Twips) {
+                if (button == toolkit::kRightButton)
+                    ShowContextMenu();
+            });
+    }
 }
 
 std::string DayPanels::LongDate(std::string_view dateText) const {
@@ -47,7 +64,7 @@ void DayPanels::BuildDateList(bool selectLastDate) {
         for (std::string& date : dates)
             date = LongDate(date);
     if (days_.FirstDayItem() == 1)
-        dates.insert(dates.begin(), strings_(kAllDatesText));
+        dates.insert(dates.begin(), text_(kAllDatesText));
     cboDate.AddItems(dates);
     shownDay_ = kNothingShown;
     Attempt([&] { cboDate.SetListIndex(selectLastDate ? cboDate.ListCount() - 1 : 0); });
@@ -61,19 +78,8 @@ void DayPanels::DateComboClicked() {
         return;
     selectedDay_ = controls_.cboDate.ListIndex() - days_.FirstDayItem();
     Attempt([this] { FillPanels(); });
-    Attempt([this] {
-        if (reactions_.applyFilter)
-            reactions_.applyFilter();
-    });
-    Attempt([this] {
-        if (reactions_.dayChosen)
-            reactions_.dayChosen(selectedDay_ != kAllDates);
-    });
-}
-
-void DayPanels::RefillPanels() {
-    shownDay_ = kNothingShown;
-    FillPanels();
+    Attempt([this] { ApplyFilter(false); });
+    Attempt([this] { DayShown.Raise(); });
 }
 
 void DayPanels::FillPanels() {
@@ -91,7 +97,7 @@ void DayPanels::FillPanels() {
     source.ClearRows();
     target.ClearRows();
 
-    DayRowsResult rows = DayRows(entries_, days_.DayStarts(), selectedDay_);
+    DayRowsResult rows = DayRows(entries_, days_, selectedDay_);
     const auto texts = std::make_shared<const EntryRows>(entries_);
     const auto tags = std::make_shared<const std::vector<std::int32_t>>(std::move(rows.tags));
     source.Fill(texts, tags);
@@ -108,23 +114,36 @@ void DayPanels::FillPanels() {
     target.SetVisible(true);
     // The rows are whole now, whatever the reaction to the first one runs into.
     toolkit.SetPointer(toolkit::Pointer::Default);
-    if (source.RowCount() > 0 && reactions_.rowClicked) {
+    if (source.RowCount() > 0) {
         source.SelectRow(0);
-        reactions_.rowClicked(0);
+        SourceRowClicked(0);
     }
+}
+
+void DayPanels::ApplyFilter(bool blnPreShow) {
+    ShowFilterInStatusBar();
+    if (blnPreShow) {
+        shownDay_ = kNothingShown;
+        // A fill that stops has shown what there is; that is filtered.
+        Attempt([this] { FillPanels(); });
+    }
+    if (panelFilter_.RemoveRows())
+        ShowOperationCount();
 }
 
 void DayPanels::ShowOperationCount() {
     const std::string count = std::to_string(controls_.SourceListView.RowCount());
-    std::string text = ReplaceIgnoreCase(strings_(kOperationsText), "%i", count);
-    text += kStatusEnd;
-    controls_.StatusBar1.SetPanelText(kCountPanel, text);
+    ShowStatus(controls_.StatusBar1, kCountPanel,
+               ReplaceIgnoreCase(text_(kOperationsText), "%i", count));
+}
+
+void DayPanels::ShowFilterInStatusBar() {
+    ShowStatus(controls_.StatusBar1, kFilterPanel, text_(kFilterText) + filter_.boxText);
 }
 
 void DayPanels::ShowDateInStatusBar(bool asGiven, std::string_view dateText) {
-    std::string text = asGiven ? std::string(dateText) : LongDate(dateText);
-    text += kStatusEnd;
-    controls_.StatusBar1.SetPanelText(kDatePanel, text);
+    ShowStatus(controls_.StatusBar1, kDatePanel,
+               asGiven ? std::string(dateText) : LongDate(dateText));
 }
 
 void DayPanels::ApplyNewDateFormat(std::int32_t lngLd) {
@@ -133,7 +152,7 @@ void DayPanels::ApplyNewDateFormat(std::int32_t lngLd) {
     cboDate.Clear();
     std::vector<std::string> labels;
     if (days_.FirstDayItem() == 1)
-        labels.push_back(strings_(kAllDatesText));
+        labels.push_back(text_(kAllDatesText));
     for (std::int32_t day = 0; day < days_.DayCount(); ++day) {
         // Days that are older than the entries can have lost their dates; they keep their places.
         std::string label;
@@ -155,16 +174,36 @@ void DayPanels::ApplyNewDateFormat(std::int32_t lngLd) {
     });
 }
 
-void DayPanels::SelectEntryRow(std::int32_t rowNumber) {
-    const int row = rowNumber - 1;
+void DayPanels::SelectEntryRow(int row) {
     controls_.SourceListView.SelectRow(row);
     controls_.SourceListView.EnsureVisible(row);
+    SourceRowClicked(row);
+}
+
+void DayPanels::SelectLastRow() {
+    if (const int rows = controls_.SourceListView.RowCount(); rows > 0)
+        SelectEntryRow(rows - 1);
+}
+
+void DayPanels::SourceRowClicked(int row) {
     if (settings_.TwoPanels != 0) {
         controls_.TargetListView.SelectRow(row);
         controls_.TargetListView.EnsureVisible(row);
     }
-    if (reactions_.rowClicked)
-        reactions_.rowClicked(row);
+    RowIsShown(row);
+}
+
+void DayPanels::TargetRowClicked(int row) {
+    controls_.SourceListView.SelectRow(row);
+    controls_.SourceListView.EnsureVisible(row);
+    RowIsShown(row);
+}
+
+void DayPanels::RowIsShown(int row) {
+    if (selectedDay_ == kAllDates)
+        ShowDateInStatusBar(settings_.LongDate != 0,
+                            entries_.EntryDates().List(controls_.SourceListView.Tag(row)));
+    RowShown.Raise(row);
 }
 
 void DayPanels::ShowContextMenu() {
@@ -177,6 +216,42 @@ void DayPanels::ShowContextMenu() {
     });
     controls_.mnuContextCopyTarget.SetEnabled(hasTarget);
     controls_.form.PopUpMenu(controls_.contextMenu);
+}
+
+void DayPanels::LanguageChanged() {
+    ShowOperationCount();
+    ShowFilterInStatusBar();
+    if (days_.FirstDayItem() == 1)
+        controls_.cboDate.SetItem(0, text_(kAllDatesText));
+}
+
+bool DayPanels::ShowEntry(std::int32_t entry) {
+    if (selectedDay_ == kAllDates)
+        return ShowRowOf(entry, 0);
+    const std::int32_t day = days_.DayOf(entry);
+    if (day == kNoDay)
+        return false;
+    if (day != selectedDay_)
+        controls_.cboDate.SetListIndex(CheckedAdd(days_.FirstDayItem(), day));
+    return ShowRowOf(entry, days_.FirstEntryOf(day));
+}
+
+// Selects the entry's row. Without a filter the rows are the entries from the first one on, so its
+// place is known; a row that a fill has not got to counts as shown, though nothing is selected.
+bool DayPanels::ShowRowOf(std::int32_t entry, std::int32_t firstEntry) {
+    // The row is what was looked for: it stays found when there is no file to name in the title.
+    const auto select = [this](int row) { Attempt([&] { SelectEntryRow(row); }); };
+    if (filter_.FilterText.empty()) {
+        const int row = entry - firstEntry;
+        if (row < controls_.SourceListView.RowCount())
+            select(row);
+        return true;
+    }
+    const int row = RowOfEntry(*controls_.SourceListView.RowTags(), entry);
+    if (row == kNoRow)
+        return false;
+    select(row);
+    return true;
 }
 
 }  // namespace ordalyn

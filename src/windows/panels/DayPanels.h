@@ -1,25 +1,31 @@
 // DayPanels offers the days of the log in the date combo box and shows the entries of one day, or
-// of all, in the two panels. It keeps the operation count and the date in the status bar.
+// of all, in the two panels, narrowed to the filter. It keeps the panels' selections together and
+// the count, the date and the filter in the status bar.
 //
-// A row's tag is the index of its entry (0-based); every later action gets back to the entry
-// through it. Row n of TargetListView always belongs to row n of SourceListView.
+// The way of a chosen day, from the combo box to the painted rows: DateComboClicked, FillPanels,
+// ApplyFilter, DayShown; the list views ask EntryRows for the texts of what can be seen. A row's
+// tag is the index of its entry; every later action gets back to the entry through it. Rows,
+// columns, days and entries are numbered from 0. Row n of TargetListView always belongs to row n of
+// SourceListView.
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 
-#include "lists/cLongArray.h"
 #include "log/DayIndex.h"
 #include "log/EntryLists.h"
 #include "platform/Platform.h"
+#include "search/EntrySearch.h"
+#include "search/FilterChoice.h"
 #include "settings/SettingsTable.h"
 #include "toolkit/Form.h"
+#include "windows/common/Texts.h"
+#include "windows/panels/PanelFilter.h"
 
 namespace ordalyn {
 
-class DayPanels {
+class DayPanels : public EntryDisplay {
   public:
     // The controls of the main window that are used here.
     struct Controls {
@@ -31,25 +37,18 @@ class DayPanels {
         toolkit::MenuItem& contextMenu;
         toolkit::MenuItem& mnuContextCopyTarget;
     };
-    // What happens after the panels have changed; each may be left empty.
-    struct Reactions {
-        // A row (0-based) of SourceListView was clicked or is to be treated as clicked.
-        std::function<void(int row)> rowClicked;
-        // The panels show the day that cboDate names: narrow them to the filter.
-        std::function<void()> applyFilter;
-        // A single day was chosen (true) or all dates (false).
-        std::function<void(bool singleDay)> dayChosen;
-    };
-    using Strings = std::function<std::string(std::int32_t)>;
 
-    static constexpr std::int32_t kAllDates = -1;
     static constexpr std::int32_t kNothingShown = -2;
 
-    DayPanels(const Controls& controls, EntryLists& entries, const SettingsValues& settings,
-              platform::Locale& locale, Strings strings);
-    void SetReactions(Reactions reactions) { reactions_ = std::move(reactions); }
+    DayPanels(const Controls& controls, const EntryLists& entries, const FilterChoice& filter,
+              const SettingsValues& settings, platform::Locale& locale, TextById text);
 
-    // Rebuilds cboDate and DayStarts from the entries, then selects the last or the first item,
+    // A day was chosen, or all dates, and its rows are there.
+    toolkit::Event<> DayShown;
+    // A row of SourceListView is the one that is looked at now.
+    toolkit::Event<int> RowShown;
+
+    // Rebuilds cboDate and the day index from the entries, then selects the last or the first item,
     // which fills the panels. A log without any dated entry empties cboDate and leaves the panels
     // alone. Errors end single steps only.
     void BuildDateList(bool selectLastDate);
@@ -57,41 +56,56 @@ class DayPanels {
     // told throws: the rows before it stay, and the panels stay hidden, with the hourglass pointer,
     // until the next fill.
     void FillPanels();
-    // Fills them even if they show that day.
-    void RefillPanels();
-    // Labels cboDate anew without filling the panels; non-zero means long dates.
+    // Narrows the panels to the filter. With blnPreShow they are filled for their day first, so
+    // that rows which an earlier filter removed come back.
+    void ApplyFilter(bool blnPreShow);
+    // Labels cboDate again without filling the panels; non-zero means long dates.
     void ApplyNewDateFormat(std::int32_t lngLd);
+
+    // Shows the text that belongs to the current state in the status bar.
+    void ShowOperationCount();
+    void ShowFilterInStatusBar();
     // Callers pass the long-date option as `asGiven`, so that the status bar shows the form of the
     // date that the combo box does not show.
     void ShowDateInStatusBar(bool asGiven, std::string_view dateText);
-    // Writes the number of rows of SourceListView into the status bar.
-    void ShowOperationCount();
-    // Selects a row (1-based) in both panels, scrolls to it and has it treated as clicked.
-    void SelectEntryRow(std::int32_t rowNumber);
+
+    // Selects a row in both panels, scrolls to it and treats it as clicked.
+    void SelectEntryRow(int row);
+    // The same for the last row when there is one.
+    void SelectLastRow();
+    // A row of SourceListView was clicked, or is to be treated as clicked: the other panel, the
+    // status bar and whoever listens to RowShown follow it.
+    void SourceRowClicked(int row);
     void ShowContextMenu();
+    // The interface language is another one: what the status bar and cboDate say in it.
+    void LanguageChanged();
+
     // The text as the system's long date; a text that is not a date stays as it is.
     std::string LongDate(std::string_view dateText) const;
 
-    const cLongArray& DayStarts() const { return days_.DayStarts(); }
-    std::int32_t FirstDayItem() const { return days_.FirstDayItem(); }
-    std::int32_t SelectedDay() const { return selectedDay_; }
-    std::int32_t ShownDay() const { return shownDay_; }
-    // While true, a click of cboDate or cboFiles does nothing.
-    bool& IgnoreComboClick() { return ignoreComboClick_; }
+    const DayIndex& Days() const { return days_; }
+
+    // EntryDisplay
+    std::int32_t SelectedDay() const override { return selectedDay_; }
+    bool ShowEntry(std::int32_t entry) override;
 
   private:
     void DateComboClicked();
+    void TargetRowClicked(int row);
+    void RowIsShown(int row);
+    bool ShowRowOf(std::int32_t entry, std::int32_t firstEntry);
 
     Controls controls_;
-    EntryLists& entries_;
+    const EntryLists& entries_;
+    const FilterChoice& filter_;
     const SettingsValues& settings_;
     platform::Locale& locale_;
-    Strings strings_;
-    Reactions reactions_;
+    TextById text_;
+    PanelFilter panelFilter_;
     DayIndex days_;
     std::int32_t selectedDay_ = kAllDates;
     std::int32_t shownDay_ = kNothingShown;
-    bool ignoreComboClick_ = false;
+    bool ignoreComboClick_ = false;  // while cboDate gets new labels
 };
 
 }  // namespace ordalyn

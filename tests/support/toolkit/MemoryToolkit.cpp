@@ -95,7 +95,10 @@ class Peer : public Interface, public HasShown {
     void SetContainer(ControlPeer& container) override { shown.container = &container; }
     void SetVisible(bool visible) override { shown.visible = visible; }
     void SetEnabled(bool enabled) override { shown.enabled = enabled; }
-    void SetCaption(std::string_view caption) override { shown.caption = caption; }
+    void SetCaption(std::string_view caption) override {
+        shown.caption = caption;
+        shown.captions.emplace_back(caption);
+    }
     Rect SetFont(const Font& font) override {
         shown.font = font;
         return shown.bounds;

@@ -20,6 +20,7 @@ struct Shown {
     bool visible = true;
     bool enabled = true;
     std::string caption;
+    std::vector<std::string> captions;  // every one that was set
     toolkit::Font font;
     toolkit::Color foreground = 0, background = 0;
     toolkit::BorderStyle border = toolkit::BorderStyle::None;

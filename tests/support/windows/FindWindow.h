@@ -8,17 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "hostconfig/cProfile.h"
-#include "hostconfig/mAppCommon.h"
 #include "log/LogLine.h"
-#include "settings/InterfaceStrings.h"
-#include "settings/cDefaultStrings.h"
-#include "settings/mAppSpecific.h"
 #include "support/log/PaddedLine.h"
 #include "support/platform/MemoryPlatform.h"
 #include "support/toolkit/MemoryToolkit.h"
-#include "windows/common/FormLanguage.h"
-#include "windows/find/FindCommands.h"
+#include "windows/common/SharedObjects.h"
+#include "windows/main/FindCommands.h"
 #include "windows/panels/DayPanels.h"
 #include "windows/panels/EntryRows.h"
 
@@ -62,12 +57,12 @@ class FindFixture : public testing::Test {
 
     InstalledPlatform system;
     MemoryToolkit tools;
-    mAppCommon common{system.services};
-    cProfile profile{system.services, common};
-    cDefaultStrings defaults;
-    mAppSpecific settings{profile, common};
-    InterfaceStrings strings{settings, common, profile, system.codePages, defaults};
-    FormLanguage language{settings, strings};
+    SharedObjects shared{system.services, tools};
+    mAppCommon& common = shared.common;
+    cProfile& profile = *shared.profile;
+    mAppSpecific& settings = *shared.settings;
+    InterfaceStrings& strings = *shared.strings;
+    FormLanguage& language = *shared.language;
 };
 
 inline constexpr toolkit::ControlDesign kMainControls[] = {
@@ -101,14 +96,7 @@ class FindWindow : public FindFixture {
             StatusBar1.AddPanel(1000);
         mnuSearchFindNext.SetEnabled(false);
         settings.TwoPanels = 1;
-        panels.SetReactions({.rowClicked =
-                                 [this](int row) {
-                                     clickedRows.push_back(row);
-                                     if (settings.TwoPanels != 0)
-                                         TargetListView.SelectRow(row);
-                                 },
-                             .applyFilter = [this] { commands.ApplyFilter(false); },
-                             .dayChosen = [this](bool single) { commands.DayChosen(single); }});
+        panels.RowShown.Subscribe([this](int row) { shownRows.push_back(row); });
         main.Menu("mnuSearchFind").Click.Subscribe([this] { commands.ShowFindDialog(); });
         mnuSearchFindNext.Click.Subscribe([this] { commands.FindNext(); });
         main.Menu("mnuSearchFilter").Click.Subscribe([this] { commands.ShowFilterDialog(); });
@@ -150,28 +138,16 @@ class FindWindow : public FindFixture {
     toolkit::StatusBar& StatusBar1 = main.Get<toolkit::StatusBar>("StatusBar1");
     toolkit::MenuItem& mnuSearchFindNext = main.Menu("mnuSearchFindNext");
     EntryLists entries;
-    std::vector<int> clickedRows;
+    FilterChoice filter;
+    std::vector<int> shownRows;
     DayPanels panels{{main, cboDate, SourceListView, TargetListView, StatusBar1,
                       main.Menu("mnuContext"), main.Menu("mnuContextCopyTarget")},
                      entries,
+                     filter,
                      settings,
                      system.locale,
-                     [this](std::int32_t id) { return strings.GetInterfaceString(id); }};
-    FindCommands commands{{.mainWindow = main,
-                           .cboDate = cboDate,
-                           .SourceListView = SourceListView,
-                           .TargetListView = TargetListView,
-                           .StatusBar1 = StatusBar1,
-                           .mnuSearchFindNext = mnuSearchFindNext,
-                           .entries = entries,
-                           .panels = panels,
-                           .common = common,
-                           .profile = profile,
-                           .settings = settings,
-                           .strings = strings,
-                           .language = language,
-                           .files = system.files,
-                           .codePages = system.codePages}};
+                     shared.TextSource()};
+    FindCommands commands{shared, main, entries, panels, filter};
     frmFilters& filters = commands.FilterDialog();
     toolkit::ComboBox& cboFilter = filters.Get<toolkit::ComboBox>("cboFilter");
     toolkit::ComboBox& cboContains = filters.Get<toolkit::ComboBox>("cboContains");

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "log/LogReader.h"
-#include "settings/SettingsTable.h"
 #include "support/platform/MemoryPlatform.h"
 #include "support/toolkit/MemoryToolkit.h"
 #include "windows/main/LogFileReading.h"
@@ -64,41 +63,38 @@ inline constexpr toolkit::FormDesign kLogDesign = {.name = "frmTest",
 class LogWindow : public testing::Test {
   protected:
     LogWindow() {
+        system.files.AddFolder("C:\\Ordalyn");
+        shared.common.SetCommanderIni("C:\\tc\\wincmd.ini");
+        SetRotation("-1");
         SourceListView.AddColumn("Time", 884, EntryRows::kTime);
         SourceListView.AddColumn("Source", 10019, EntryRows::kOperation);
         TargetListView.AddColumn("Target", 10890, EntryRows::kTarget);
         for (int i = 0; i < 3; ++i)
             StatusBar1.AddPanel(1000);
-        settings.LongDate = 0;
-        settings.TwoPanels = 1;
-        panels.SetReactions({.rowClicked = [this](int row) { clickedRows.push_back(row); },
-                             .applyFilter = [this] { ++filters; },
-                             .dayChosen = [this](bool single) { daysChosen.push_back(single); }});
+        panels.RowShown.Subscribe([this](int row) { shownRows.push_back(row); });
+        panels.DayShown.Subscribe([this] { daysShown.push_back(panels.SelectedDay()); });
+        reading.FileOpened.Subscribe(
+            [this](const std::string& path) { remembered.push_back(path); });
+        system.dialogs.onOpenFile = [this](const platform::Dialogs::OpenRequest& request) {
+            dialogFolders.push_back(request.initialFolder);
+            return chosenFile;
+        };
     }
 
-    static std::string Text(std::int32_t id) {
-        switch (id) {
-            case 3009:
-                return "Are you sure?";
-            case 3015:
-                return "There is an error in file";
-            case 3016:
-                return "Line:";
-            case 3250:
-                return "Reading... Please wait.";
-            case 4005:
-                return "All dates";
-            case 4006:
-                return "All files";
-            case 4010:
-                return "%i Operation(s)";
-            default:
-                return "?";
-        }
-    }
     void SinglePanel() {
         settings.TwoPanels = 0;
         SourceListView.AddColumn("Target", 10890, EntryRows::kTarget);
+    }
+    // What the file manager's settings say.
+    void SetRotation(const std::string& limit, const std::string& logFile = kLog) {
+        system.files.Set("C:\\tc\\wincmd.ini", "[Configuration]\r\nLogFile=" + logFile +
+                                                   "\r\nLogRotateLimit=" + limit +
+                                                   "\r\nLogKeepCount=3\r\n");
+    }
+    void UseLanguageFile(const std::string& lines) {
+        system.files.Set("C:\\Ordalyn\\other.lng", "[UserLanguage]\r\n" + lines + "\r\n");
+        settings.UseDefaultLanguage = 0;
+        settings.LanguageFile = "C:\\Ordalyn\\other.lng";
     }
     // Makes a log of these lines the entries and builds the date list.
     void Load(const std::vector<std::string>& lines, bool selectLast = true) {
@@ -124,11 +120,21 @@ class LogWindow : public testing::Test {
     std::vector<std::string> Sources() const { return Column(SourceListView, 1); }
     std::vector<std::string> Targets() const { return Column(TargetListView, 0); }
     const std::string& Status(int panel) const { return StatusBar1.PanelText(panel); }
+    // What the window's caption says, each behind program and version.
+    std::vector<std::string> Titles() const {
+        std::vector<std::string> titles;
+        for (const std::string& caption : MemoryToolkit::Of(form).captions)
+            titles.push_back(caption.substr(std::string("Ordalyn 1.00 RC 1 - ").size()));
+        return titles;
+    }
+    void ForgetTitles() { MemoryToolkit::Mutable(form).captions.clear(); }
 
     static constexpr const char* kLog = "C:\\logs\\x.log";
 
     MemoryToolkit tools;
     MemoryPlatform system;
+    SharedObjects shared{system.services, tools};
+    mAppSpecific& settings = *shared.settings;
     toolkit::Form form{tools, kLogDesign};
     toolkit::ComboBox& cboDate = form.Get<toolkit::ComboBox>("cboDate");
     toolkit::ComboBox& cboFiles = form.Get<toolkit::ComboBox>("cboFiles");
@@ -138,55 +144,26 @@ class LogWindow : public testing::Test {
     toolkit::MenuItem& mnuViewRefresh = form.Menu("mnuViewRefresh");
     toolkit::MenuItem& mnuContextCopyTarget = form.Menu("mnuContextCopyTarget");
 
-    SettingsValues settings;
     EntryLists entries;
+    FilterChoice filter;
     LogReader reader{system.files, system.codePages, entries};
-    std::vector<int> clickedRows;
-    int filters = 0;
-    std::vector<bool> daysChosen;
-    std::string countText = Text(4010);
+    std::vector<int> shownRows;
+    std::vector<std::int32_t> daysShown;
     DayPanels panels{{form, cboDate, SourceListView, TargetListView, StatusBar1,
                       form.Menu("mnuContext"), mnuContextCopyTarget},
                      entries,
+                     filter,
                      settings,
                      system.locale,
-                     [this](std::int32_t id) { return id == 4010 ? countText : Text(id); }};
+                     shared.TextSource()};
     FakeProgress progress;
-    std::vector<std::string> titles;
+    MainTitle title{form};
     std::vector<std::string> remembered;
     std::vector<std::string> dialogFolders;
     std::optional<std::string> chosenFile;
-    LogFileReading reading{
-        reader,
-        entries,
-        {.form = form,
-         .SourceListView = SourceListView,
-         .panels = panels,
-         .progress = progress,
-         .strings = Text,
-         .chooseFile =
-             [this](const std::string& folder) {
-                 dialogFolders.push_back(folder);
-                 return chosenFile;
-             },
-         .setTitle = [this](const std::string& t) { titles.push_back(t); },
-         .rememberFile = [this](const std::string& path) { remembered.push_back(path); },
-         .enableWindows = [this](bool enabled) { form.SetEnabled(enabled); },
-         .messageTitle = "Ordalyn"}};
-    RotationSettings rotation{
-        .logFileAbsent = false, .logFile = kLog, .rotateLimit = "-1", .keepCount = "3"};
-    LogFileSet files{system.files,
-                     entries,
-                     reading,
-                     {.form = form,
-                      .cboFiles = cboFiles,
-                      .SourceListView = SourceListView,
-                      .mnuViewRefresh = mnuViewRefresh,
-                      .panels = panels,
-                      .rotation = [this] { return rotation; },
-                      .strings = Text,
-                      .setTitle = [this](const std::string& t) { titles.push_back(t); },
-                      .messageTitle = "Ordalyn"}};
+    LogFileReading reading{shared, form, reader, entries, panels, progress, title};
+    LogFileSet files{
+        shared, {form, cboFiles, SourceListView, mnuViewRefresh}, entries, reading, panels, title};
 };
 
 }  // namespace ordalyn::test

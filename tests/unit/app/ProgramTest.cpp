@@ -289,6 +289,7 @@ TEST_F(ProgramEnd, TheMainWindowIsSavedBeforeTheDialogsSaveTheirs) {
 
 TEST_F(ProgramEnd, TheWindowsAreUnloadedInAFixedOrder) {
     Start();
+    Choose("mnuSearchFind");
     tools.closedForms.clear();
     Main().UserClosed();
     EXPECT_THAT(tools.closedForms,
@@ -299,6 +300,7 @@ TEST_F(ProgramEnd, ADialogThatWaitsForAnAnswerIsUnloadedFirst) {
     for (const auto& [menu, form] :
          {std::pair("mnuHelpAbout", "frmAbout"), std::pair("mnuViewOptions", "frmOptions")}) {
         Start();
+        Choose("mnuSearchFind");
         tools.closedForms.clear();
         tools.modalScripts.push_back([this](toolkit::Form&) { Main().UserClosed(); });
         Choose(menu);
@@ -310,6 +312,7 @@ TEST_F(ProgramEnd, ADialogThatWaitsForAnAnswerIsUnloadedFirst) {
 
 TEST_F(ProgramEnd, TheProgressWindowIsUnloadedBeforeTheDialogsThatOutliveIt) {
     Start();
+    Choose("mnuSearchFind");
     tools.closedForms.clear();
     std::vector<std::string> closed;
     tools.onDoEvents = [&] {

@@ -17,7 +17,7 @@ class DayRowsTest : public testing::Test {
     void Build() { index.Build(entries.EntryDates()); }
     void ExpectRows(std::int32_t day, const testing::Matcher<std::vector<std::int32_t>>& tags,
                     bool failed) {
-        const DayRowsResult rows = DayRows(entries, index.DayStarts(), day);
+        const DayRowsResult rows = DayRows(entries, index, day);
         EXPECT_THAT(rows.tags, tags);
         EXPECT_EQ(rows.failed, failed);
     }
@@ -89,7 +89,7 @@ TEST_F(DayRowsTest, AnOldIndexStopsOutsideTheStorage) {
     Build();
     entries.Clear();  // storage 0 to 2000
     Add("C", "t: c");
-    const DayRowsResult rows = DayRows(entries, index.DayStarts(), 0);
+    const DayRowsResult rows = DayRows(entries, index, 0);
     EXPECT_EQ(rows.tags.size(), 2001U);
     EXPECT_EQ(rows.tags.back(), 2000);
     EXPECT_TRUE(rows.failed);

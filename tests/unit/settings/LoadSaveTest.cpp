@@ -69,8 +69,6 @@ TEST(SettingsTable, AKeyIsFoundInAnyLetterCaseAndAnUnknownOneThrows) {
 
 TEST_F(LoadSettings, ValuesAreTheDefaultsBeforeLoading) {
     ExpectDefaults();
-    EXPECT_EQ(settings.FilterText, "");
-    EXPECT_EQ(settings.ColumnNo, 0);
     EXPECT_EQ(settings.OptionsPage, 0);
 }
 

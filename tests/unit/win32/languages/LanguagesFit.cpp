@@ -12,8 +12,8 @@
 #include "support/platform/MemoryPlatform.h"
 #include "unit/win32/languages/TextFit.h"
 #include "windows/about/frmAbout.h"
-#include "windows/find/FindCommands.h"
-#include "windows/main/SharedObjects.h"
+#include "windows/common/SharedObjects.h"
+#include "windows/main/FindCommands.h"
 #include "windows/main/frmMain.h"
 #include "windows/options/frmOptions.h"
 #include "windows/panels/DayPanels.h"
@@ -76,27 +76,15 @@ class ProgramAt {
     toolkit::ListView& TargetListView = main.Get<toolkit::ListView>("TargetListView");
     toolkit::StatusBar& StatusBar1 = main.Get<toolkit::StatusBar>("StatusBar1");
     EntryLists entries;
+    FilterChoice filter;
     DayPanels panels{{main, cboDate, SourceListView, TargetListView, StatusBar1,
                       main.Menu("mnuContext"), main.Menu("mnuContextCopyTarget")},
                      entries,
+                     filter,
                      *shared.settings,
                      system.locale,
-                     [this](std::int32_t id) { return Text(id); }};
-    FindCommands commands{{.mainWindow = main,
-                           .cboDate = cboDate,
-                           .SourceListView = SourceListView,
-                           .TargetListView = TargetListView,
-                           .StatusBar1 = StatusBar1,
-                           .mnuSearchFindNext = main.Menu("mnuSearchFindNext"),
-                           .entries = entries,
-                           .panels = panels,
-                           .common = shared.common,
-                           .profile = *shared.profile,
-                           .settings = *shared.settings,
-                           .strings = *shared.strings,
-                           .language = *shared.language,
-                           .files = system.files,
-                           .codePages = system.codePages}};
+                     shared.TextSource()};
+    FindCommands commands{shared, main, entries, panels, filter};
 };
 
 class LanguagesFit : public testing::TestWithParam<std::tuple<std::string, int>> {

@@ -42,27 +42,31 @@ class FilterDialog : public FindWindow {
                                      .language = language,
                                      .history = history,
                                      .keywords = {common, profile, system.files, system.codePages},
-                                     .applyFilter = [this] { ++applied; }});
+                                     .filter = filter,
+                                     .panels = panels});
     }
     InputHistory history{profile, common, strings};
-    int applied = 0;
 };
 
 // Loading.
 
 TEST_F(FilterDialog, StartsEmptyWithContainsAndSource) {
     EXPECT_EQ(cboFilter.Text(), "");
-    EXPECT_EQ(settings.FilterText, "");
+    EXPECT_EQ(filter.FilterText, "");
     EXPECT_EQ(cboContains.ListIndex(), 0);
     EXPECT_EQ(cboSource.ListIndex(), 0);
     EXPECT_FALSE(filters.Visible());
 }
 
 TEST_F(FilterDialog, LoadingForgetsAFilterTextAndFiltersNothing) {
-    settings.FilterText = "left over";
+    filter = {"left over", "left over", true, true};
+    shownRows.clear();
     const auto another = LoadAnother();
-    EXPECT_EQ(settings.FilterText, "");
-    EXPECT_EQ(applied, 0);
+    EXPECT_EQ(filter.boxText, "");
+    EXPECT_EQ(filter.FilterText, "");
+    EXPECT_FALSE(filter.target);
+    EXPECT_FALSE(filter.doesNotContain);
+    EXPECT_THAT(shownRows, IsEmpty());  // no fill
 }
 
 TEST_F(FilterDialog, HasItsTexts) {
@@ -178,7 +182,7 @@ TEST_F(FilterDialog, ItsBoxesLookAsTheOptionsSay) {
 TEST_F(FilterDialog, LoadingTheInterfaceAnewKeepsChoicesAndFilterAndFiltersNothing) {
     Filter("d:\\", true, true);
     EXPECT_THAT(Rows(), ElementsAre(1));
-    clickedRows.clear();
+    shownRows.clear();
     system.files.Set(
         "C:\\Ordalyn\\de.lng",
         "[UserLanguage]\r\n4033=Enth\xE4lt\r\n4034=Ohne\r\n4001=Quelle\r\n4002=Ziel\r\n"
@@ -190,12 +194,12 @@ TEST_F(FilterDialog, LoadingTheInterfaceAnewKeepsChoicesAndFilterAndFiltersNothi
     EXPECT_EQ(cboSource.Text(), "Ziel");
     EXPECT_EQ(cboContains.List(0), "Enthält");
     EXPECT_EQ(cboFilter.Text(), "d:\\");
-    EXPECT_EQ(settings.FilterText, "d:\\");
+    EXPECT_EQ(filter.FilterText, "d:\\");
     EXPECT_EQ(filters.Caption(), "Filtern");
     EXPECT_EQ(filters.Get<toolkit::CommandButton>("cmdCancel").Caption(), "Abbrechen");
     EXPECT_EQ(Toolbar1.ButtonAt(1).toolTip, "Anwenden");
     EXPECT_EQ(Toolbar1.ButtonAt(3).menu[0].text, "Leeren");
-    EXPECT_THAT(clickedRows, IsEmpty());  // no fill
+    EXPECT_THAT(shownRows, IsEmpty());  // no fill
     EXPECT_THAT(Rows(), ElementsAre(1));
 }
 
@@ -205,7 +209,7 @@ TEST_F(FilterDialog, EnterAppliesTheTextAndRemembersIt) {
     cboFilter.UserEdited("copy");
     EXPECT_EQ(Rows().size(), 4U);  // typing alone does nothing
     Enter();
-    EXPECT_EQ(settings.FilterText, "copy");
+    EXPECT_EQ(filter.FilterText, "copy");
     EXPECT_THAT(Rows(), ElementsAre(0, 1, 2));
     EXPECT_THAT(History(), ElementsAre("copy"));
     EXPECT_EQ(Stored("Filter1"), "copy");
@@ -218,7 +222,7 @@ TEST_F(FilterDialog, OtherKeysAndEnterElsewhereApplyNothing) {
     tools.PressIn(filters, cboFilter, toolkit::key::Tab);
     tools.PressIn(filters, cboFilter, toolkit::key::Enter, {.control = true});
     tools.PressIn(filters, cboContains, toolkit::key::Enter);
-    EXPECT_EQ(settings.FilterText, "");
+    EXPECT_EQ(filter.FilterText, "");
 }
 
 TEST_F(FilterDialog, SixtyFiveTextsLoseTheOldest) {
@@ -234,7 +238,7 @@ TEST_F(FilterDialog, AnItemOfTheHistoryAppliesAndIsNotAddedAgain) {
     Filter("copy");
     Filter("delete");
     cboFilter.UserSelected(1);
-    EXPECT_EQ(settings.FilterText, "copy");
+    EXPECT_EQ(filter.FilterText, "copy");
     EXPECT_THAT(Rows(), ElementsAre(0, 1, 2));
     EXPECT_THAT(History(), ElementsAre("delete", "copy"));
     EXPECT_EQ(Stored("Filter1"), "delete");
@@ -258,7 +262,7 @@ TEST_F(FilterDialog, TheThirdButtonRemovesTheFilter) {
     Filter("delete");
     Toolbar1.UserClickedButton(2);
     EXPECT_EQ(cboFilter.Text(), "");
-    EXPECT_EQ(settings.FilterText, "");
+    EXPECT_EQ(filter.FilterText, "");
     EXPECT_THAT(Rows(), ElementsAre(0, 1, 2, 3));
     EXPECT_EQ(Status(3), "Filter:   ");
     EXPECT_EQ(Status(1), "4 Operation(s)  ");
@@ -281,11 +285,11 @@ TEST_F(FilterDialog, OtherChoicesOfABoxApplyAtOnce) {
 }
 
 TEST_F(FilterDialog, OtherChoicesOfABoxDoNothingWithoutAFilter) {
-    clickedRows.clear();
+    shownRows.clear();
     cboFilter.UserEdited("copy");
     cboSource.UserSelected(1);
     cboContains.UserSelected(1);
-    EXPECT_THAT(clickedRows, IsEmpty());
+    EXPECT_THAT(shownRows, IsEmpty());
     EXPECT_EQ(Rows().size(), 4U);
 }
 
@@ -295,7 +299,7 @@ TEST_F(FilterDialog, CancelAndEscapeHideItAndTheFilterStays) {
     filters.Get<toolkit::CommandButton>("cmdCancel").UserClicked();
     EXPECT_FALSE(filters.Visible());
     EXPECT_FALSE(filters.Unloaded());
-    EXPECT_EQ(settings.FilterText, "copy");
+    EXPECT_EQ(filter.FilterText, "copy");
     EXPECT_THAT(Rows(), ElementsAre(0, 1, 2));
     EXPECT_EQ(Stored("FiltersPosition"), "(absent)");  // only hiding does not save the place
     Show();
@@ -313,7 +317,7 @@ TEST_F(FilterDialog, TheCloseBoxHidesItAndSavesThePlace) {
     EXPECT_FALSE(filters.Unloaded());
     EXPECT_EQ(Stored("FiltersPosition"), "10,20,9000,800");
     EXPECT_EQ(Stored("FiltersWindowState"), "(absent)");
-    EXPECT_EQ(settings.FilterText, "copy");
+    EXPECT_EQ(filter.FilterText, "copy");
     EXPECT_EQ(cboFilter.Text(), "copy");
 }
 
@@ -359,7 +363,7 @@ TEST_F(FilterDialog, ItsWordsAreLoadedAtTheFirstActivationOnly) {
 TEST_F(FilterDialog, AnOperationIsLookedForBehindTheClockTime) {
     Show();
     Toolbar1.UserChoseMenuEntry(0, EntryOf("Copy"));
-    EXPECT_EQ(settings.FilterText, ": Copy");
+    EXPECT_EQ(filter.FilterText, ": Copy");
     EXPECT_EQ(cboFilter.Text(), "Copy");
     EXPECT_THAT(Rows(), ElementsAre(0, 2));  // not the one with Copy in its path
     EXPECT_EQ(Status(3), "Filter: Copy  ");
@@ -372,7 +376,7 @@ TEST_F(FilterDialog, AnOutcomeIsLookedForEverywhere) {
     Put("LoggingID", "1802,1901");
     Show();
     Toolbar1.UserChoseMenuEntry(0, EntryOf("Failed"));
-    EXPECT_EQ(settings.FilterText, "Failed");
+    EXPECT_EQ(filter.FilterText, "Failed");
     EXPECT_THAT(Rows(), ElementsAre(2, 3));
 }
 
@@ -380,7 +384,7 @@ TEST_F(FilterDialog, EnterAfterAWordLooksForTheWordAlone) {
     Show();
     Toolbar1.UserChoseMenuEntry(0, EntryOf("Copy"));
     Enter();
-    EXPECT_EQ(settings.FilterText, "Copy");
+    EXPECT_EQ(filter.FilterText, "Copy");
     EXPECT_THAT(Rows(), ElementsAre(0, 1, 2));
     EXPECT_THAT(History(), ElementsAre("Copy"));
 }
@@ -388,7 +392,7 @@ TEST_F(FilterDialog, EnterAfterAWordLooksForTheWordAlone) {
 TEST_F(FilterDialog, ASeparatorChoosesNothing) {
     Show();
     Toolbar1.UserChoseMenuEntry(0, EntryOf("-"));
-    EXPECT_EQ(settings.FilterText, "");
+    EXPECT_EQ(filter.FilterText, "");
     EXPECT_EQ(cboFilter.Text(), "");
 }
 

@@ -91,8 +91,8 @@ TEST_F(FindDialogStart, WithoutHistoryThereIsNothingToSearchOrClear) {
     EXPECT_FALSE(dialog.Get<toolkit::CommandButton>("cmdClearList").Enabled());
     EXPECT_FALSE(mnuSearchFindNext.Enabled());
     EXPECT_TRUE(dialog.Get<toolkit::OptionButton>("optColumn", 0).Checked());
-    EXPECT_EQ(dialog.StartItem, 0);
-    EXPECT_EQ(settings.ColumnNo, 0);
+    EXPECT_EQ(commands.Search().StartItem(), 0);
+    EXPECT_EQ(commands.Search().Options().ColumnNo, 0);
 }
 
 TEST_F(FindDialogStart, TakesUpTheHistoryAndTheOptionsOfTheLastRun) {
@@ -107,7 +107,7 @@ TEST_F(FindDialogStart, TakesUpTheHistoryAndTheOptionsOfTheLastRun) {
     EXPECT_TRUE(dialog.Get<toolkit::OptionButton>("optColumn", 1).Checked());
     EXPECT_TRUE(dialog.Get<toolkit::CheckBox>("chkWholeWord").Checked());
     EXPECT_TRUE(dialog.Get<toolkit::CheckBox>("chkSelectedDate").Checked());
-    EXPECT_EQ(settings.ColumnNo, 1);
+    EXPECT_EQ(commands.Search().Options().ColumnNo, 1);
     EXPECT_TRUE(dialog.Get<toolkit::CommandButton>("cmdFindNext").Enabled());
     EXPECT_TRUE(mnuSearchFindNext.Enabled());
     EXPECT_FALSE(dialog.Get<toolkit::CommandButton>("cmdClearList").Enabled());  // not active yet
@@ -133,7 +133,7 @@ TEST_F(FindDialog, SearchFindShowsItWithItsTextSelected) {
     FindNext();
     Show();
     EXPECT_TRUE(dialog.Visible());
-    EXPECT_EQ(dialog.StartItem, 0);
+    EXPECT_EQ(commands.Search().StartItem(), 0);
     EXPECT_EQ(MemoryToolkit::Of(cboFindWhat).selectionStart, 0U);
     EXPECT_EQ(MemoryToolkit::Of(cboFindWhat).selectionLength, 4U);
     EXPECT_EQ(tools.focus, &cboFindWhat);
@@ -211,7 +211,7 @@ TEST_F(FindDialog, SearchesFindOneAfterTheOtherAndThenReportThatThereAreNoMore) 
     Type("copy");
     FindNext();
     EXPECT_EQ(SelectedEntry(), 0);
-    EXPECT_EQ(dialog.StartItem, 1);
+    EXPECT_EQ(commands.Search().StartItem(), 1);
     FindNext();
     EXPECT_EQ(SelectedEntry(), 2);
     FindNext();
@@ -223,7 +223,7 @@ TEST_F(FindDialog, SearchesFindOneAfterTheOtherAndThenReportThatThereAreNoMore) 
     EXPECT_EQ(tools.messages[0].icon, toolkit::MessageIcon::Information);
     EXPECT_EQ(tools.messages[0].buttons, toolkit::MessageButtons::Ok);
     EXPECT_EQ(SelectedEntry(), 3);
-    EXPECT_EQ(dialog.StartItem, 0);
+    EXPECT_EQ(commands.Search().StartItem(), 0);
     FindNext();
     EXPECT_EQ(SelectedEntry(), 0);
 }
@@ -257,7 +257,7 @@ TEST_F(FindDialog, WithoutATextTheMenuBeeps) {
     commands.FindNext();
     EXPECT_EQ(tools.beeps, 1);
     EXPECT_THAT(tools.messages, IsEmpty());
-    EXPECT_EQ(dialog.StartItem, 0);
+    EXPECT_EQ(commands.Search().StartItem(), 0);
 }
 
 TEST_F(FindDialog, ANewTextBeginsWithTheFirstEntryAgain) {
@@ -266,7 +266,7 @@ TEST_F(FindDialog, ANewTextBeginsWithTheFirstEntryAgain) {
     FindNext();
     EXPECT_EQ(SelectedEntry(), 2);
     Type("cop");
-    EXPECT_EQ(dialog.StartItem, 0);
+    EXPECT_EQ(commands.Search().StartItem(), 0);
     FindNext();
     EXPECT_EQ(SelectedEntry(), 0);
 }
@@ -275,19 +275,23 @@ TEST_F(FindDialog, WholeWordAndColumnBeginWithTheFirstEntryAgainTheSelectedDateD
     ShowDay(1);
     Type("copy");
     FindNext();
-    EXPECT_EQ(dialog.StartItem, 1);
+    EXPECT_EQ(commands.Search().StartItem(), 1);
     chkSelectedDate.UserToggled();
-    EXPECT_EQ(dialog.StartItem, 1);
+    EXPECT_EQ(commands.Search().StartItem(), 1);
     chkWholeWord.UserToggled();
-    EXPECT_EQ(dialog.StartItem, 0);
-    dialog.StartItem = 5;
+    EXPECT_EQ(commands.Search().StartItem(), 0);
+    FindNext();
+    EXPECT_NE(commands.Search().StartItem(), 0);
     optTarget.UserToggled();
-    EXPECT_EQ(dialog.StartItem, 0);
-    EXPECT_EQ(settings.ColumnNo, 1);
-    dialog.StartItem = 5;
+    EXPECT_EQ(commands.Search().StartItem(), 0);
+    EXPECT_EQ(commands.Search().Options().ColumnNo, 1);
+    chkWholeWord.UserToggled();
+    Type("copies");
+    FindNext();
+    EXPECT_NE(commands.Search().StartItem(), 0);
     optSource.UserToggled();
-    EXPECT_EQ(dialog.StartItem, 0);
-    EXPECT_EQ(settings.ColumnNo, 0);
+    EXPECT_EQ(commands.Search().StartItem(), 0);
+    EXPECT_EQ(commands.Search().Options().ColumnNo, 0);
 }
 
 TEST_F(FindDialog, SearchesTheChosenColumn) {
@@ -370,7 +374,7 @@ TEST_F(FindDialog, TheButtonRemembersTheTextAlsoWhenItIsNotFound) {
 TEST_F(FindDialog, RememberingDoesNotBeginTheSearchAnew) {
     Type("copy");
     FindNext();
-    EXPECT_EQ(dialog.StartItem, 1);
+    EXPECT_EQ(commands.Search().StartItem(), 1);
     EXPECT_EQ(cboFindWhat.Text(), "copy");
 }
 

@@ -16,7 +16,7 @@ constexpr const char* kLine = "01.03.2024 10:15:30: Copy C:\\a.txt -> D:\\a.txt"
 
 TEST_F(LogFileReadingTest, ReadsShowsAndFinishesInOrder) {
     Load({kLine, "", "02.03.2024 10:00:00: Delete x"});
-    EXPECT_THAT(titles, ElementsAre(kLog));
+    EXPECT_THAT(Titles(), ElementsAre(kLog));
     EXPECT_THAT(progress.steps, ElementsAre("compact", "show Reading... Please wait. 4", "hide"));
     EXPECT_EQ(progress.lastValue, 4);  // it starts at 1 and grows with each line
     EXPECT_EQ(reader.CurrentLogFile(), kLog);
@@ -37,11 +37,11 @@ TEST_F(LogFileReadingTest, TrimsThreeListsButNotTheFiles) {
 TEST_F(LogFileReadingTest, AppendingToTheListShowsTheTallFormAndChangesNoPanel) {
     Load({kLine});
     progress.steps.clear();
-    titles.clear();
+    ForgetTitles();
     Write("C:\\logs\\x.1.log", {kLine, kLine});
     reading.ReadLogFile(false, "C:\\logs\\x.1.log", false, false);
     EXPECT_THAT(progress.steps, ElementsAre("tall x.1.log", "show Reading... Please wait. 3"));
-    EXPECT_THAT(titles, IsEmpty());
+    EXPECT_THAT(Titles(), IsEmpty());
     EXPECT_EQ(entries.EntryDates().ListCount(), 2);
     EXPECT_EQ(entries.EntryFiles().List(2), "x.1.log");
     EXPECT_EQ(SourceListView.RowCount(), 1);
@@ -59,13 +59,13 @@ TEST_F(LogFileReadingTest, TheOpenDialogStartsInTheCurrentLogsFolder) {
 
 TEST_F(LogFileReadingTest, CancellingTheOpenDialogLeavesTheViewUntouched) {
     Load({kLine});
-    titles.clear();
+    ForgetTitles();
     progress.steps.clear();
     chosenFile.reset();
     reading.ReadLogFile(true, "", true, true);
     EXPECT_EQ(reader.CurrentLogFile(), kLog);
     EXPECT_EQ(SourceListView.RowCount(), 1);
-    EXPECT_THAT(titles, IsEmpty());
+    EXPECT_THAT(Titles(), IsEmpty());
     EXPECT_THAT(progress.steps, IsEmpty());
     EXPECT_THAT(remembered, IsEmpty());
 }
@@ -178,7 +178,7 @@ TEST_F(LogFileReadingTest, RefreshAppendsAndSelectsTheLastDayAndRow) {
     EXPECT_THAT(Sources(), ElementsAre("Move a ", "Delete c"));
     EXPECT_EQ(SourceListView.SelectedRow(), 1);
     EXPECT_EQ(TargetListView.SelectedRow(), 1);
-    EXPECT_EQ(clickedRows.back(), 1);
+    EXPECT_EQ(shownRows.back(), 1);
     EXPECT_EQ(reader.LineCount(), 5);
     EXPECT_EQ(entries.EntryFiles().ListCount(), 0);
     EXPECT_THAT(progress.steps, IsEmpty());
@@ -241,13 +241,8 @@ TEST_F(LogFileReadingTest, AFileThatCannotBeOpenedLeavesTheWindowsUsable) {
 
 TEST_F(LogFileReadingTest, ARefreshBeyondTheStorageOfTheFilesIsAnError) {
     // A list of files that has never grown has two slots: a third entry has none to name its file.
-    panels.SetReactions({.rowClicked =
-                             [this](int row) {
-                                 static_cast<void>(
-                                     entries.EntryFiles().List(SourceListView.Tag(row)));
-                             },
-                         .applyFilter = {},
-                         .dayChosen = {}});
+    panels.RowShown.Subscribe(
+        [this](int row) { static_cast<void>(entries.EntryFiles().List(SourceListView.Tag(row))); });
     Load(std::vector<std::string>(2, kLine));
     system.files.Append(kLog, std::string(kLine) + "\r\n");
     reading.ReadAppendedLines(kLog);

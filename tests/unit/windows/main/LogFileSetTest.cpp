@@ -32,7 +32,7 @@ TEST_F(LogFileSetTest, OffersAllFilesTheLiveLogAndItsSiblings) {
 TEST_F(LogFileSetTest, NumberedSiblingsAreThoseThatExist) {
     Write("C:\\logs\\x.1.log", {});
     Write("C:\\logs\\x.3.log", {});
-    rotation.rotateLimit = "1000";
+    SetRotation("1000");
     files.BuildLogFileList();
     EXPECT_THAT(Files(), ElementsAre("All files", "x.log", "x.1.log", "x.3.log"));
 }
@@ -40,7 +40,7 @@ TEST_F(LogFileSetTest, NumberedSiblingsAreThoseThatExist) {
 TEST_F(LogFileSetTest, WithoutRotationTheListIsHiddenWhateverExists) {
     files.BuildLogFileList();
     ASSERT_TRUE(cboFiles.Visible());
-    rotation.rotateLimit = "0";
+    SetRotation("0");
     files.BuildLogFileList();
     EXPECT_FALSE(cboFiles.Visible());
 }
@@ -55,8 +55,7 @@ TEST_F(LogFileSetTest, ALiveLogAloneIsNotShown) {
 
 TEST_F(LogFileSetTest, WithoutALogFileTheListIsEmptyAndStaysAsItWas) {
     files.BuildLogFileList();
-    rotation.logFileAbsent = true;
-    rotation.logFile = "vxz20261116000503zxv";
+    system.files.Set("C:\\tc\\wincmd.ini", "[Configuration]\r\n");
     files.BuildLogFileList();
     EXPECT_THAT(Files(), IsEmpty());
     EXPECT_TRUE(cboFiles.Visible());
@@ -76,7 +75,7 @@ TEST_F(LogFileSetTest, AChosenSiblingIsReadAloneAndCannotGrow) {
 }
 
 TEST_F(LogFileSetTest, TheLiveLogIsKnownInAnyLetterCase) {
-    rotation.logFile = "C:\\logs\\X.LOG";
+    SetRotation("-1", "C:\\logs\\X.LOG");
     files.BuildLogFileList();
     EXPECT_THAT(Files(), ElementsAre("All files", "X.LOG", "x_old.log", "xa.log"));
     cboFiles.UserSelected(2);
@@ -107,12 +106,12 @@ TEST_F(LogFileSetTest, AllFilesReadsTheSiblingsInOrderAndTheLiveLogLast) {
     EXPECT_THAT(names, ElementsAre("x_old.log", "xa.log", "xa.log", "x.log"));
     // The days are merged by position: the date that two files share is one run here.
     EXPECT_THAT(Dates(), ElementsAre("All dates", "01.03.2024", "02.03.2024", "03.03.2024"));
-    EXPECT_EQ(panels.SelectedDay(), DayPanels::kAllDates);
+    EXPECT_EQ(panels.SelectedDay(), kAllDates);
     EXPECT_THAT(progress.steps,
                 ElementsAre("tall x_old.log", "show Reading... Please wait. 2", "tall xa.log",
                             "show Reading... Please wait. 3", "tall x.log",
                             "show Reading... Please wait. 2", "hide"));
-    EXPECT_THAT(titles, ElementsAre("All files"));
+    EXPECT_THAT(Titles(), ElementsAre("All files"));
     EXPECT_FALSE(mnuViewRefresh.Enabled());
     EXPECT_EQ(reader.CurrentLogFile(), kLog);
     EXPECT_EQ(reader.LineCount(), 2);
@@ -171,7 +170,7 @@ TEST_F(LogFileSetTest, AStoppedReadShowsTheLiveLogAloneAndLeavesRefreshDisabled)
     EXPECT_TRUE(reading.CancelReading);
     EXPECT_FALSE(mnuViewRefresh.Enabled());
     EXPECT_EQ(cboFiles.ListIndex(), 1);
-    EXPECT_EQ(titles.back(), kLog);
+    EXPECT_EQ(Titles().back(), kLog);
     EXPECT_FALSE(progress.visible);
     EXPECT_EQ(tools.focus, &SourceListView);
     EXPECT_TRUE(form.Enabled());
@@ -205,7 +204,7 @@ TEST_F(LogFileSetTest, ABadSiblingIsReportedAndTheOthersAreStillRead) {
     ASSERT_EQ(tools.messages.size(), 1U);
     EXPECT_THAT(tools.messages[0].text, testing::HasSubstr("x_old.log"));
     EXPECT_EQ(entries.EntryDates().ListCount(), 2);
-    EXPECT_THAT(titles, ElementsAre("All files"));
+    EXPECT_THAT(Titles(), ElementsAre("All files"));
 }
 
 TEST_F(LogFileSetTest, ALogFromElsewhereLeavesNoFileSelected) {

@@ -49,6 +49,7 @@ class Layout : public testing::Test {
   protected:
     Layout() {
         system.files.AddFolder("C:\\Ordalyn");
+        layout.RowMoved.Subscribe([this](int row) { selected.push_back(row); });
         settings.TwoPanels = 1;
         settings.StatusBarVisible = 1;
         settings.VSplitPosition = 4000;
@@ -87,16 +88,14 @@ class Layout : public testing::Test {
     toolkit::MenuItem& mnuViewStatusBar = form.Menu("mnuViewStatusBar");
     toolkit::MenuItem& mnuViewTwoPanels = form.Menu("mnuViewTwoPanels");
     toolkit::MenuItem& mnuViewVerticalPanels = form.Menu("mnuViewVerticalPanels");
-    cSplitter splitter;
     SettingsValues settings;
     std::vector<int> selected;
     MainWindowLayout layout{{form, cboDate, container, bar, source, target, StatusBar1,
                              mnuViewStatusBar, mnuViewTwoPanels, mnuViewVerticalPanels},
-                            splitter,
                             settings,
                             {15, 12},
-                            [] { return std::string("Target"); },
-                            [this](int row) { selected.push_back(row); }};
+                            [] { return std::string("Target"); }};
+    cSplitter& splitter = layout.Splitter();
     // Inside of the window below the combo boxes, above the status bar.
     toolkit::Twips Inside() const {
         return form.ClientSize().height - 315 - 4 * 12 - StatusBar1.Height();
@@ -312,11 +311,9 @@ TEST_F(Layout, ASinglePanelStoresNothing) {
 TEST_F(Layout, OverflowInThePixelArithmeticIsAnError) {
     MainWindowLayout huge{{form, cboDate, container, bar, source, target, StatusBar1,
                            mnuViewStatusBar, mnuViewTwoPanels, mnuViewVerticalPanels},
-                          splitter,
                           settings,
                           {1000000000, 15},
-                          [] { return std::string(); },
-                          [](int) {}};
+                          [] { return std::string(); }};
     EXPECT_THROW(huge.ChangePanelsOrientation(false), Overflow);
     const Rect before = container.Bounds();
     huge.WindowResized();  // a resize ignores every error
@@ -333,17 +330,11 @@ TEST_F(Layout, AfterAStartWithOnePanelATooLargePositionIsHalved) {
 }
 
 TEST_F(Layout, AFailingReactionDoesNotKeepTheWindowFromBeingLaidOut) {
-    MainWindowLayout failing{{form, cboDate, container, bar, source, target, StatusBar1,
-                              mnuViewStatusBar, mnuViewTwoPanels, mnuViewVerticalPanels},
-                             splitter,
-                             settings,
-                             {15, 12},
-                             [] { return std::string("Target"); },
-                             [](int) { throw SubscriptOutOfRange(); }};
-    failing.ArrangeFirstTime();
+    layout.RowMoved.Subscribe([](int) { throw SubscriptOutOfRange(); });
+    layout.ArrangeFirstTime();
     FillBoth();
     source.SelectRow(0);
-    failing.ToggleTwoPanels();
+    layout.ToggleTwoPanels();
     EXPECT_EQ(source.Height(), Inside());
     EXPECT_EQ(tools.focus, &source);
 }

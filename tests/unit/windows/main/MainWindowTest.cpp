@@ -365,11 +365,14 @@ TEST_F(MainWindow, SwitchingToOnePanelKeepsSelectionAndRows) {
 TEST_F(MainWindow, FilterAndFindAreWired) {
     Start();
     Status().UserClickedPanel(2);
+    auto& cboFilter = dynamic_cast<toolkit::ComboBox&>(const_cast<toolkit::Control&>(*tools.focus));
     tools.Press(Main(), 'F', kCtrl);
     const std::string unfiltered = Status().PanelText(3);
     Date().UserSelected(0);
     EXPECT_EQ(Status().PanelText(3), unfiltered);
-    program->Shared().settings->FilterText = "Delete";
+    cboFilter.UserEdited("Delete");
+    tools.PressIn(dynamic_cast<toolkit::Form&>(*cboFilter.Container()), cboFilter,
+                  toolkit::key::Enter);
     Date().UserSelected(1);
     EXPECT_EQ(Source().RowCount(), 1);
     EXPECT_EQ(Source().Text(0, 1), "Delete C:\\b.txt");

@@ -1,6 +1,6 @@
 // The order in which the shared objects come and go. None of them does anything then that others
 // could see, so it is told by the memory that they live in.
-#include "windows/main/SharedObjects.h"
+#include "windows/common/SharedObjects.h"
 
 #include "support/windows/ProgramWindow.h"
 #include "unit/windows/main/MemoryWatch.h"
@@ -28,8 +28,7 @@ class SharedObjectsOrder : public ProgramWindow {
   protected:
     std::vector<Block> InOrderOfRelease() {
         const SharedObjects& shared = program->Shared();
-        return {{"splitter", shared.splitter.get()},
-                {"recentFiles", shared.recentFiles.get()},
+        return {{"recentFiles", shared.recentFiles.get()},
                 {"commonDialog", shared.commonDialog.get()},
                 {"registry", shared.registry.get()},
                 {"profile", shared.profile.get()},
@@ -44,15 +43,14 @@ TEST_F(SharedObjectsOrder, TheyAreMadeInAFixedOrder) {
                  {"commonDialog", shared.commonDialog.get()},
                  {"profile", shared.profile.get()},
                  {"defaultStrings", shared.defaultStrings.get()},
-                 {"recentFiles", shared.recentFiles.get()},
-                 {"splitter", shared.splitter.get()}},
+                 {"recentFiles", shared.recentFiles.get()}},
                 MemoryWatch::Taken);
 }
 
 TEST_F(SharedObjectsOrder, TheyAreMadeBeforeTheMainWindow) {
     const MemoryWatch watch;
     program = std::make_unique<Program>(system.services, tools);
-    ExpectOrder({{"splitter", program->Shared().splitter.get()}, {"main window", &Main()}},
+    ExpectOrder({{"recentFiles", program->Shared().recentFiles.get()}, {"main window", &Main()}},
                 MemoryWatch::Taken);
 }
 

@@ -22,17 +22,17 @@ const std::vector<std::string> kThreeDays = {
 TEST_F(DayPanelsTest, ListsEveryRunOfADateWithAllDatesOnTop) {
     Load(kThreeDays);
     EXPECT_THAT(Dates(), ElementsAre("All dates", "01.03.2024", "02.03.2024", "01.03.2024"));
-    EXPECT_EQ(panels.FirstDayItem(), 1);
+    EXPECT_EQ(panels.Days().FirstDayItem(), 1);
     std::vector<std::int32_t> starts;
-    for (std::int32_t i = 0; i <= panels.DayStarts().ListCount(); ++i)
-        starts.push_back(panels.DayStarts().List(i));
+    for (std::int32_t i = 0; i <= panels.Days().DayStarts().ListCount(); ++i)
+        starts.push_back(panels.Days().DayStarts().List(i));
     EXPECT_THAT(starts, ElementsAre(0, 2, 3, 4));
 }
 
 TEST_F(DayPanelsTest, ASingleDateStandsAloneAndIsShown) {
     Load({"01.03.2024 10:00:00: Copy a -> b"});
     EXPECT_THAT(Dates(), ElementsAre("01.03.2024"));
-    EXPECT_EQ(panels.FirstDayItem(), 0);
+    EXPECT_EQ(panels.Days().FirstDayItem(), 0);
     EXPECT_EQ(panels.SelectedDay(), 0);
     EXPECT_EQ(SourceListView.RowCount(), 1);
 }
@@ -47,7 +47,7 @@ TEST_F(DayPanelsTest, AFullReadSelectsTheLastDay) {
 TEST_F(DayPanelsTest, OtherwiseTheFirstItemIsSelected) {
     Load(kThreeDays, false);
     EXPECT_EQ(cboDate.ListIndex(), 0);
-    EXPECT_EQ(panels.SelectedDay(), DayPanels::kAllDates);
+    EXPECT_EQ(panels.SelectedDay(), kAllDates);
     EXPECT_EQ(SourceListView.RowCount(), 4);
 }
 
@@ -77,7 +77,7 @@ TEST_F(DayPanelsTest, ASinglePanelShowsTheTargetsAsItsThirdColumn) {
 
 TEST_F(DayPanelsTest, LeadingCommentsBelongToTheFirstDay) {
     Load({"; hello", ";x", "01.03.2024 10:00:00: Copy a -> b"});
-    EXPECT_EQ(panels.DayStarts().List(0), 0);
+    EXPECT_EQ(panels.Days().DayStarts().List(0), 0);
     EXPECT_THAT(Column(SourceListView, 0), ElementsAre("", "", "10:00:00"));
     EXPECT_THAT(Sources(), ElementsAre(" hello", "x", "Copy a "));
     // Kept as it is: the day's date is looked for at its first entry, and a comment has none.
@@ -89,13 +89,13 @@ TEST_F(DayPanelsTest, LeadingCommentsBelongToTheFirstDay) {
 TEST_F(DayPanelsTest, ALogWithoutAnyDateEmptiesTheListAndLeavesThePanels) {
     Load(kThreeDays);
     cboDate.UserSelected(0);
-    clickedRows.clear();
+    shownRows.clear();
     Load({"; only", "; comments"});
     EXPECT_THAT(Dates(), IsEmpty());
     EXPECT_EQ(cboDate.ListIndex(), -1);
     EXPECT_EQ(SourceListView.RowCount(), 4);
     EXPECT_EQ(SourceListView.Text(0, 1), "Copy C:\\a.txt ");
-    EXPECT_THAT(clickedRows, IsEmpty());
+    EXPECT_THAT(shownRows, IsEmpty());
 }
 
 TEST_F(DayPanelsTest, GivesTheFocusToTheSourcePanel) {
@@ -110,7 +110,7 @@ TEST_F(DayPanelsTest, CountsTheOperationsInTheStatusBar) {
 }
 
 TEST_F(DayPanelsTest, TheCountStandsWhereverItsMarkDoesInEitherCase) {
-    countText = "%I (%i) of %I %d %";
+    UseLanguageFile("4010=%I (%i) of %I %d %");
     Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024 10:00:01: Copy c -> d"});
     EXPECT_EQ(Status(1), "2 (2) of 2 %d %  ");
 }
@@ -137,28 +137,40 @@ TEST_F(DayPanelsTest, ATextThatIsNoDateStaysAsItIs) {
     EXPECT_EQ(Status(2), "10:00:00  ");
 }
 
-TEST_F(DayPanelsTest, AllDatesLeaveTheDateToTheRowThatIsClicked) {
+TEST_F(DayPanelsTest, WithAllDatesTheDateIsThatOfTheRow) {
     Load(kThreeDays);
-    StatusBar1.SetPanelText(2, "untouched");
     cboDate.UserSelected(0);
+    EXPECT_EQ(Status(2), "Friday, March 1, 2024  ");
+    SourceListView.UserSelected(2);
+    EXPECT_EQ(Status(2), "Saturday, March 2, 2024  ");
+    TargetListView.UserSelected(0);
+    EXPECT_EQ(Status(2), "Friday, March 1, 2024  ");
+}
+
+TEST_F(DayPanelsTest, ASingleDayKeepsItsDateWhateverRowIsClicked) {
+    Load(kThreeDays);
+    cboDate.UserSelected(1);
+    StatusBar1.SetPanelText(2, "untouched");
+    SourceListView.UserSelected(1);
     EXPECT_EQ(Status(2), "untouched");
 }
 
 TEST_F(DayPanelsTest, AFillClicksTheFirstRow) {
     Load(kThreeDays);
-    clickedRows.clear();
+    shownRows.clear();
     cboDate.UserSelected(1);
-    EXPECT_THAT(clickedRows, ElementsAre(0));
+    EXPECT_THAT(shownRows, ElementsAre(0));
     EXPECT_EQ(SourceListView.SelectedRow(), 0);
 }
 
 TEST_F(DayPanelsTest, PickingTheShownDayAgainOnlyFilters) {
     Load(kThreeDays);
     const int fills = MemoryToolkit::Of(SourceListView).fills;
-    filters = 0;
+    filter = {.boxText = "xyz", .FilterText = "xyz"};
     cboDate.UserSelected(3);
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).fills, fills);
-    EXPECT_EQ(filters, 1);
+    EXPECT_EQ(Status(3), "Filter: xyz  ");
+    EXPECT_EQ(SourceListView.RowCount(), 0);
 }
 
 TEST_F(DayPanelsTest, BuildingTheListRefillsTheSameDay) {
@@ -168,24 +180,16 @@ TEST_F(DayPanelsTest, BuildingTheListRefillsTheSameDay) {
     EXPECT_GT(MemoryToolkit::Of(SourceListView).fills, fills);
 }
 
-TEST_F(DayPanelsTest, FiltersAndTellsTheFindDialogAfterEveryChoice) {
+TEST_F(DayPanelsTest, FiltersAndTellsWhoListensAfterEveryChoice) {
     Load(kThreeDays);
-    filters = 0;
-    daysChosen.clear();
+    filter = {.boxText = "copy", .FilterText = "copy"};
+    daysShown.clear();
+    std::vector<int> rows;
+    panels.DayShown.Subscribe([&] { rows.push_back(SourceListView.RowCount()); });
     cboDate.UserSelected(0);
     cboDate.UserSelected(1);
-    EXPECT_EQ(filters, 2);
-    EXPECT_THAT(daysChosen, ElementsAre(false, true));
-}
-
-TEST_F(DayPanelsTest, IgnoredClicksDoNothing) {
-    Load(kThreeDays);
-    {
-        const toolkit::ScopedFlag ignore(panels.IgnoreComboClick());
-        cboDate.SetListIndex(0);
-    }
-    EXPECT_EQ(panels.SelectedDay(), 2);
-    EXPECT_FALSE(panels.IgnoreComboClick());
+    EXPECT_THAT(daysShown, ElementsAre(kAllDates, 0));
+    EXPECT_THAT(rows, ElementsAre(1, 1));
 }
 
 TEST_F(DayPanelsTest, PanelsAreHiddenAndTheHourglassShowsWhileFilling) {
@@ -209,8 +213,8 @@ TEST_F(DayPanelsTest, AFillStopsAtAnEntryWithoutTimeAndLeavesThePanelsHidden) {
     EXPECT_FALSE(SourceListView.Visible());
     EXPECT_FALSE(TargetListView.Visible());
     // The rest of the choice still happens, and the next fill brings everything back.
-    EXPECT_EQ(filters, 1);
-    EXPECT_THAT(daysChosen, ElementsAre(true));
+    EXPECT_EQ(Status(3), "Filter:   ");
+    EXPECT_THAT(daysShown, ElementsAre(0));
     Load({"02.03.2024 10:00:00: Copy a -> b"});
     EXPECT_TRUE(SourceListView.Visible());
     EXPECT_TRUE(TargetListView.Visible());
@@ -261,11 +265,9 @@ TEST_F(DayPanelsTest, ANewDateFormatRelabelsWithoutRefilling) {
     Load(kThreeDays);
     SourceListView.SelectRow(0);
     const int fills = MemoryToolkit::Of(SourceListView).fills;
-    filters = 0;
-    daysChosen.clear();
+    daysShown.clear();
     panels.ApplyNewDateFormat(1);
-    EXPECT_EQ(filters, 0);  // no day was chosen
-    EXPECT_THAT(daysChosen, IsEmpty());
+    EXPECT_THAT(daysShown, IsEmpty());  // no day was chosen
     EXPECT_THAT(Dates(), ElementsAre("All dates", "Friday, March 1, 2024",
                                      "Saturday, March 2, 2024", "Friday, March 1, 2024"));
     EXPECT_EQ(cboDate.ListIndex(), 3);
@@ -274,25 +276,26 @@ TEST_F(DayPanelsTest, ANewDateFormatRelabelsWithoutRefilling) {
     panels.ApplyNewDateFormat(0);
     EXPECT_EQ(Dates().front(), "All dates");
     EXPECT_EQ(Status(2), "Friday, March 1, 2024  ");
-    EXPECT_FALSE(panels.IgnoreComboClick());
+    cboDate.UserSelected(1);  // clicks count again
+    EXPECT_THAT(daysShown, ElementsAre(0));
 }
 
 TEST_F(DayPanelsTest, SelectEntryRowSelectsInBothPanelsAndScrolls) {
     Load(kThreeDays);
     cboDate.UserSelected(0);
-    clickedRows.clear();
-    panels.SelectEntryRow(3);
+    shownRows.clear();
+    panels.SelectEntryRow(2);
     EXPECT_EQ(SourceListView.SelectedRow(), 2);
     EXPECT_EQ(TargetListView.SelectedRow(), 2);
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).visibleRow, 2);
     EXPECT_EQ(MemoryToolkit::Of(TargetListView).visibleRow, 2);
-    EXPECT_THAT(clickedRows, ElementsAre(2));
+    EXPECT_THAT(shownRows, ElementsAre(2));
 }
 
 TEST_F(DayPanelsTest, SelectEntryRowLeavesTheHiddenPanelAlone) {
     SinglePanel();
     Load(kThreeDays);
-    panels.SelectEntryRow(1);
+    panels.SelectEntryRow(0);
     EXPECT_EQ(TargetListView.SelectedRow(), -1);
     EXPECT_THROW(panels.SelectEntryRow(99), SubscriptOutOfRange);
 }
@@ -325,9 +328,7 @@ TEST_F(DayPanelsTest, ANewDateFormatOverOldDaysKeepsTheirPlaces) {
 }
 
 TEST_F(DayPanelsTest, AReactionThatFailsLeavesWholeRowsAndTheNormalPointer) {
-    panels.SetReactions({.rowClicked = [](int) { throw SubscriptOutOfRange(); },
-                         .applyFilter = {},
-                         .dayChosen = {}});
+    panels.RowShown.Subscribe([](int) { throw SubscriptOutOfRange(); });
     Load(kThreeDays);
     EXPECT_EQ(tools.pointer, toolkit::Pointer::Default);
     EXPECT_TRUE(SourceListView.Visible());

@@ -1,4 +1,4 @@
-#include "windows/main/SharedObjects.h"
+#include "windows/common/SharedObjects.h"
 
 #include "base/Attempt.h"
 #include "base/CheckedMath.h"
@@ -21,12 +21,10 @@ SharedObjects::SharedObjects(const platform::Services& allServices, toolkit::Too
                                                  *defaultStrings);
     language = std::make_unique<FormLanguage>(*settings, *strings);
     recentFiles = std::make_unique<cRecentFiles>(*profile, common, *strings);
-    splitter = std::make_unique<cSplitter>();
     Attempt([this] { settings->LoadSettings(); });
 }
 
 void SharedObjects::Release() {
-    splitter.reset();
     recentFiles.reset();
     commonDialog.reset();
     registry.reset();
@@ -37,9 +35,12 @@ void SharedObjects::Release() {
     defaultStrings.reset();
 }
 
+TextById SharedObjects::TextSource() {
+    return [this](std::int32_t id) { return Text(id); };
+}
+
 Texts SharedObjects::FormTexts() {
-    return {[this](std::int32_t id) { return strings->GetInterfaceString(id); },
-            [this](toolkit::Form& form) { language->ApplyLanguage(form); }};
+    return {TextSource(), [this](toolkit::Form& form) { language->ApplyLanguage(form); }};
 }
 
 }  // namespace ordalyn

@@ -35,9 +35,9 @@ TEST_F(Commands, ChoosingADayFiltersItWithoutFillingItTwice) {
     Load({"01.03.2024 10:00:00: Copy a -> b", "02.03.2024 10:00:00: Move a -> b",
           "02.03.2024 10:00:01: Copy a -> b"});
     Filter("copy");
-    clickedRows.clear();
+    shownRows.clear();
     ShowDay(1);
-    EXPECT_THAT(clickedRows, ElementsAre(0));
+    EXPECT_THAT(shownRows, ElementsAre(0));
     EXPECT_THAT(Rows(), ElementsAre(0));
     ShowDay(2);
     EXPECT_THAT(Rows(), ElementsAre(2));
@@ -51,6 +51,7 @@ TEST_F(Commands, AnotherLanguageReachesTheFindDialogAndTheStatusBar) {
     settings.UseDefaultLanguage = 0;
     settings.LanguageFile = "C:\\Ordalyn\\de.lng";
     commands.LanguageChanged();
+    panels.LanguageChanged();
     EXPECT_EQ(commands.FindDialog().Caption(), "Suchen");
     EXPECT_EQ(commands.FindDialog().Get<toolkit::CommandButton>("cmdFindNext").Caption(),
               "&Weitersuchen");

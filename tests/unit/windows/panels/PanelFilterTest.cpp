@@ -1,5 +1,6 @@
 // Narrowing the panels to the filter.
 #include "base/Errors.h"
+#include "search/EntryFilter.h"
 #include "support/windows/FindWindow.h"
 
 namespace ordalyn::test {
@@ -94,8 +95,8 @@ TEST_F(Filtering, TheStatusBarTellsOfAnEmptyFilter) {
 
 TEST_F(Filtering, TheStatusBarShowsTheBoxNotWhatIsTested) {
     cboFilter.SetText("typed but not applied");
-    settings.FilterText = "copy";
-    commands.ApplyFilter(false);
+    filter.FilterText = "copy";
+    panels.ApplyFilter(false);
     EXPECT_EQ(Status(3), "Filter: typed but not applied  ");
     EXPECT_THAT(Rows(), ElementsAre(4));
 }
@@ -120,24 +121,24 @@ TEST_F(Filtering, ANewFilterSeesTheRowsThatTheOldOneRemoved) {
 TEST_F(Filtering, WithoutRefillingNarrowsWhatIsShown) {
     ShowDay(0);
     Filter("copy");
-    settings.FilterText = "move";
-    commands.ApplyFilter(false);
+    filter.FilterText = "move";
+    panels.ApplyFilter(false);
     EXPECT_THAT(Rows(), ElementsAre(2));
 }
 
 TEST_F(Filtering, PickingTheSameDayAgainFiltersAgainWithoutRefilling) {
     ShowDay(0);
     Filter("copy");
-    settings.FilterText = "move";
+    filter.FilterText = "move";
     ShowDay(0);
     EXPECT_THAT(Rows(), ElementsAre(2));
 }
 
 TEST_F(Filtering, TheSelectionMovesUpWithItsEntryInBothPanels) {
     ShowDay(0);
-    panels.SelectEntryRow(5);  // entry 4
-    settings.FilterText = "copy";
-    commands.ApplyFilter(false);
+    panels.SelectEntryRow(4);  // entry 4
+    filter.FilterText = "copy";
+    panels.ApplyFilter(false);
     EXPECT_EQ(SourceListView.SelectedRow(), 2);
     EXPECT_EQ(TargetListView.SelectedRow(), 2);
     EXPECT_EQ(SelectedEntry(), 4);
@@ -147,9 +148,9 @@ TEST_F(Filtering, TheSelectionMovesUpWithItsEntryInBothPanels) {
 
 TEST_F(Filtering, NothingIsSelectedWhenTheSelectedRowGoes) {
     ShowDay(0);
-    panels.SelectEntryRow(4);  // entry 3
-    settings.FilterText = "copy";
-    commands.ApplyFilter(false);
+    panels.SelectEntryRow(3);  // entry 3
+    filter.FilterText = "copy";
+    panels.ApplyFilter(false);
     EXPECT_EQ(SourceListView.SelectedRow(), -1);
     EXPECT_EQ(TargetListView.SelectedRow(), -1);
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).selectedRow, -1);
@@ -159,21 +160,21 @@ TEST_F(Filtering, NothingIsSelectedWhenTheSelectedRowGoes) {
 TEST_F(Filtering, RemovingRowsDoesNotScroll) {
     ShowDay(0);
     const int fills = MemoryToolkit::Of(SourceListView).fills;
-    panels.SelectEntryRow(5);
-    settings.FilterText = "copy";
-    commands.ApplyFilter(false);
+    panels.SelectEntryRow(4);
+    filter.FilterText = "copy";
+    panels.ApplyFilter(false);
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).fills, fills);       // not shown anew from the top
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).visibleRow, 5 - 1);  // as it was
 }
 
 TEST_F(Filtering, RowsAreClickedOnlyByTheFill) {
     ShowDay(0);
-    clickedRows.clear();
+    shownRows.clear();
     Filter("copy");
-    EXPECT_THAT(clickedRows, ElementsAre(0));
-    settings.FilterText = "move";
-    commands.ApplyFilter(false);
-    EXPECT_THAT(clickedRows, ElementsAre(0));
+    EXPECT_THAT(shownRows, ElementsAre(0));
+    filter.FilterText = "move";
+    panels.ApplyFilter(false);
+    EXPECT_THAT(shownRows, ElementsAre(0));
 }
 
 TEST_F(Filtering, AnEmptyFilterTextRemovesNothingWhateverTheBoxesSay) {
@@ -198,8 +199,8 @@ TEST_F(Filtering, ThePanelsAreShownAgain) {
 
 TEST_F(Filtering, ThePanelsAreHiddenWhileRowsGo) {
     ShowDay(0);
-    settings.FilterText = "copy";
-    commands.ApplyFilter(false);
+    filter.FilterText = "copy";
+    panels.ApplyFilter(false);
     EXPECT_EQ(Rows().size(), 3U);
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).updatesInSight, 0);
     EXPECT_EQ(MemoryToolkit::Of(TargetListView).updatesInSight, 0);
@@ -215,16 +216,17 @@ TEST_F(Filtering, AFillThatStopsIsFilteredAsFarAsItGot) {
 }
 
 TEST_F(Filtering, AnEntryOutsideTheListsIsAnError) {
-    EXPECT_THROW(EntriesThatPass(entries, {0, 1, 100000}, "copy", false, false),
-                 SubscriptOutOfRange);
-    EXPECT_THROW(EntriesThatPass(entries, {-1}, "copy", true, false), SubscriptOutOfRange);
+    filter = {.boxText = "copy", .FilterText = "copy"};
+    EXPECT_THROW(EntriesThatPass(entries, {0, 1, 100000}, filter), SubscriptOutOfRange);
+    filter.target = true;
+    EXPECT_THROW(EntriesThatPass(entries, {-1}, filter), SubscriptOutOfRange);
 }
 
 TEST_F(Filtering, AnErrorLeavesThePanelsVisible) {
     SourceListView.Fill(SourceListView.Source(),
                         std::make_shared<const std::vector<std::int32_t>>(1, 100000));
-    settings.FilterText = "copy";
-    EXPECT_THROW(commands.ApplyFilter(false), SubscriptOutOfRange);
+    filter.FilterText = "copy";
+    EXPECT_THROW(panels.ApplyFilter(false), SubscriptOutOfRange);
     EXPECT_TRUE(SourceListView.Visible());
     EXPECT_TRUE(TargetListView.Visible());
 }
@@ -242,11 +244,11 @@ TEST_F(Filtering, CommentsAreEntriesLikeOthers) {
 // selected.
 TEST_F(Filtering, EqualsRemovingRowByRow) {
     ShowDay(0);
-    for (std::int32_t selected = 1; selected <= 7; ++selected) {
-        panels.RefillPanels();
+    for (int selected = 0; selected < 7; ++selected) {
+        panels.ApplyFilter(true);
         panels.SelectEntryRow(selected);
         std::vector<std::int32_t> expected = Rows();
-        std::int32_t expectedSelection = selected - 1;
+        std::int32_t expectedSelection = selected;
         for (auto row = static_cast<std::int32_t>(expected.size()) - 1; row >= 0; --row) {
             const std::int32_t entry = expected[static_cast<std::size_t>(row)];
             if (entry == 1 || entry == 2 || entry == 4)  // the lines with "copy"
@@ -257,11 +259,11 @@ TEST_F(Filtering, EqualsRemovingRowByRow) {
             else if (expectedSelection > row)
                 --expectedSelection;
         }
-        settings.FilterText = "copy";
-        commands.ApplyFilter(false);
+        filter.FilterText = "copy";
+        panels.ApplyFilter(false);
         EXPECT_EQ(Rows(), expected);
         EXPECT_EQ(SourceListView.SelectedRow(), expectedSelection) << selected;
-        settings.FilterText.clear();
+        filter.FilterText.clear();
     }
 }
 

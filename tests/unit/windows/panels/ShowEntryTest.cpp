@@ -1,5 +1,5 @@
 // Finding entries and taking the panels to them.
-#include "windows/find/EntrySearch.h"
+#include "search/EntrySearch.h"
 
 #include "base/Errors.h"
 #include "support/windows/FindWindow.h"
@@ -29,11 +29,7 @@ class Search : public FindWindow {
     }
     void AllDates() { ShowDay(0); }
 
-    EntrySearch search{{.entries = entries,
-                        .panels = panels,
-                        .cboDate = cboDate,
-                        .SourceListView = SourceListView,
-                        .settings = settings}};
+    EntrySearch search{entries, panels.Days(), panels};
 };
 
 TEST_F(Search, AnswersTheEntryBehindTheOneFound) {
@@ -99,13 +95,13 @@ TEST_F(Search, OnlyTheValueOneMeansWholeWordOrSelectedDate) {
 
 TEST_F(Search, TheFoundRowIsSelectedAndVisibleInBothPanels) {
     AllDates();
-    clickedRows.clear();
+    shownRows.clear();
     Find("Delete");
     EXPECT_EQ(SourceListView.SelectedRow(), 6);
     EXPECT_EQ(TargetListView.SelectedRow(), 6);
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).visibleRow, 6);
     EXPECT_EQ(MemoryToolkit::Of(TargetListView).visibleRow, 6);
-    EXPECT_THAT(clickedRows, ElementsAre(6));
+    EXPECT_THAT(shownRows, ElementsAre(6));
 }
 
 TEST_F(Search, GoesToTheDayOfTheEntry) {
@@ -143,7 +139,7 @@ TEST_F(Search, ADayThatIsShownIsNotChosenAgain) {
 
 TEST_F(Search, ALogOfOneDayHasNoItemForAllDates) {
     Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024 10:00:01: Move a -> b"});
-    EXPECT_EQ(panels.FirstDayItem(), 0);
+    EXPECT_EQ(panels.Days().FirstDayItem(), 0);
     EXPECT_EQ(Find("move"), 2);
     EXPECT_EQ(SourceListView.SelectedRow(), 1);
     EXPECT_EQ(cboDate.ListIndex(), 0);
@@ -231,10 +227,11 @@ TEST_F(Search, OfAnEmptyLogFindsNothing) {
     DayPanels noPanels{{main, cboDate, SourceListView, TargetListView, StatusBar1,
                         main.Menu("mnuContext"), main.Menu("mnuContextCopyTarget")},
                        none,
+                       filter,
                        settings,
                        system.locale,
-                       [](std::int32_t) { return std::string(); }};
-    EntrySearch noSearch{{none, noPanels, cboDate, SourceListView, settings}};
+                       shared.TextSource()};
+    EntrySearch noSearch{none, noPanels.Days(), noPanels};
     EXPECT_EQ(noSearch.FindString("x", 0, 0, 0, 1), -1);
 }
 
@@ -258,9 +255,7 @@ TEST_F(Search, ALogWithoutDatesHasNothingWithinTheSelectedOne) {
 }
 
 TEST_F(Search, ARowStaysFoundWhenItsReactionFails) {
-    panels.SetReactions({.rowClicked = [](int) { throw SubscriptOutOfRange(); },
-                         .applyFilter = {},
-                         .dayChosen = {}});
+    panels.RowShown.Subscribe([](int) { throw SubscriptOutOfRange(); });
     AllDates();
     EXPECT_EQ(Find("Delete"), 7);
     EXPECT_EQ(SelectedEntry(), 6);

@@ -16,7 +16,6 @@
 #include "toolkit/Toolkit.h"
 #include "windows/common/FormLanguage.h"
 #include "windows/common/Texts.h"
-#include "windows/main/cSplitter.h"
 
 namespace ordalyn {
 
@@ -39,6 +38,8 @@ class SharedObjects {
     void Release();
 
     Texts FormTexts();
+    TextById TextSource();
+    std::string Text(std::int32_t id) const { return strings->GetInterfaceString(id); }
 
     const platform::Services services;
     toolkit::Toolkit& toolkit;
@@ -52,7 +53,6 @@ class SharedObjects {
     std::unique_ptr<InterfaceStrings> strings;
     std::unique_ptr<FormLanguage> language;
     std::unique_ptr<cRecentFiles> recentFiles;
-    std::unique_ptr<cSplitter> splitter;
 };
 
 }  // namespace ordalyn

@@ -1,0 +1,19 @@
+// EntryFilter: which entries a filter lets pass.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "log/EntryLists.h"
+#include "search/FilterChoice.h"
+
+namespace ordalyn {
+
+// Which of these entries stay, in their order. The filter's text must not be empty. A target filter
+// leaves no entry without a target, deliberately, whether it asks for a text or against it. Throws
+// SubscriptOutOfRange for an entry outside the lists.
+std::vector<std::int32_t> EntriesThatPass(const EntryLists& entries,
+                                          const std::vector<std::int32_t>& candidates,
+                                          const FilterChoice& filter);
+
+}  // namespace ordalyn

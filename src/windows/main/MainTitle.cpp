@@ -1,0 +1,13 @@
+#include "windows/main/MainTitle.h"
+
+#include "hostconfig/mAppCommon.h"
+#include "windows/about/Version.h"
+
+namespace ordalyn {
+
+void MainTitle::SetTitle(std::string_view text) {
+    mainWindow_.SetCaption(std::string(mAppCommon::kProgramTitle) + " " +
+                           GetVersionText(" RC 1 - ") + std::string(text));
+}
+
+}  // namespace ordalyn
