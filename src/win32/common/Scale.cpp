@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include "win32/common/DeviceContext.h"
+
 namespace ordalyn::win32 {
 
 namespace {
 
 int ScreenDpi(int index) {
-    const HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, index);
-    ReleaseDC(nullptr, screen);
-    return dpi > 0 ? dpi : 96;
+    const int dpi = GetDeviceCaps(WindowDc(nullptr).Get(), index);
+    return dpi > 0 ? dpi : USER_DEFAULT_SCREEN_DPI;
 }
 
 }  // namespace

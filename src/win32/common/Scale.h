@@ -21,7 +21,7 @@ class Scale {
     toolkit::Twips TwipsX(int pixels) const { return Twips(pixels, dpiX_); }
     toolkit::Twips TwipsY(int pixels) const { return Twips(pixels, dpiY_); }
     // Pixels of a picture or gap that has this many pixels at 96 DPI.
-    int Nominal(int pixels) const { return MulDiv(pixels, dpiY_, 96); }
+    int Nominal(int pixels) const { return MulDiv(pixels, dpiY_, USER_DEFAULT_SCREEN_DPI); }
 
     // Edges are rounded, not sizes, so that neighbours in twips are neighbours on the screen.
     RECT Pixels(const toolkit::Rect& rect) const;

@@ -1,5 +1,6 @@
 #include "win32/controls/Areas.h"
 
+#include "win32/common/DeviceContext.h"
 #include "win32/controls/WindowClasses.h"
 #include "win32/drawing/FocusMark.h"
 
@@ -31,9 +32,7 @@ void LabelWindow::MarkFocus() {
     // Along the border of a box that only shows its colour it would hardly be seen.
     if (control().Caption().empty())
         InflateRect(&inside, -2, -2);
-    const HDC dc = GetDC(handle());
-    DrawFocusMark(dc, inside, Resolve(control().BackColor()));
-    ReleaseDC(handle(), dc);
+    DrawFocusMark(WindowDc(handle()).Get(), inside, Resolve(control().BackColor()));
 }
 
 LRESULT LabelWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -84,9 +83,7 @@ LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return TRUE;
         case WM_PAINT:
             if (Bare()) {
-                PAINTSTRUCT paint;
-                EraseBackground(BeginPaint(handle(), &paint));
-                EndPaint(handle(), &paint);
+                EraseBackground(PaintDc(handle()).Get());
                 return 0;
             }
             break;

@@ -1,6 +1,6 @@
 #include "win32/controls/Bars.h"
 
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
 

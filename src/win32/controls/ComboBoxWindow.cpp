@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "win32/common/Wide.h"
+#include "win32/common/DeviceContext.h"
+#include "win32/common/WideText.h"
 #include "win32/controls/TextBoxWindow.h"
 
 namespace ordalyn::win32 {
@@ -77,12 +78,12 @@ Rect ComboBoxWindow::SetFont(const toolkit::Font& font) {
 void ComboBoxWindow::MeasureItems() {
     if (editable_ || handle() == nullptr)
         return;
-    const HDC dc = GetDC(handle());
-    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
     TEXTMETRICW metrics = {};
-    GetTextMetricsW(dc, &metrics);
-    SelectObject(dc, before);
-    ReleaseDC(handle(), dc);
+    {
+        const WindowDc dc(handle());
+        const SelectedObject font(dc.Get(), reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
+        GetTextMetricsW(dc.Get(), &metrics);
+    }
     Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), metrics.tmHeight + 2);
     Send(CB_SETITEMHEIGHT, 0, metrics.tmHeight);
 }
@@ -206,19 +207,17 @@ void ComboBoxWindow::OnCommand(int code, int) {
 void ComboBoxWindow::WidenList() {
     RECT box = {};
     GetWindowRect(handle(), &box);
-    const HDC dc = GetDC(handle());
-    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
+    const WindowDc dc(handle());
+    const SelectedObject font(dc.Get(), reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
     int widest = box.right - box.left;
     constexpr int kMeasured = 200;  // enough to look right, and quick for long lists
     for (int i = 0; i < box_.ListCount() && i < kMeasured; ++i) {
         const std::wstring text = WideForDisplay(box_.List(i));
         SIZE size = {};
-        GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+        GetTextExtentPoint32W(dc.Get(), text.c_str(), static_cast<int>(text.size()), &size);
         widest = std::max<int>(
             widest, size.cx + GetSystemMetrics(SM_CXVSCROLL) + desktop().scale.Nominal(8));
     }
-    SelectObject(dc, before);
-    ReleaseDC(handle(), dc);
     MONITORINFO screen = {};
     screen.cbSize = sizeof screen;
     GetMonitorInfoW(MonitorFromWindow(handle(), MONITOR_DEFAULTTONEAREST), &screen);
@@ -249,9 +248,7 @@ LRESULT ComboBoxWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_PAINT:
             if (flat_) {
-                PAINTSTRUCT paint;
-                PaintFlat(BeginPaint(handle(), &paint));
-                EndPaint(handle(), &paint);
+                PaintFlat(PaintDc(handle()).Get());
                 return 0;
             }
             break;
@@ -279,7 +276,7 @@ void ComboBoxWindow::PaintFlat(HDC dc) {
     RECT area = {};
     if (!GetComboBoxInfo(handle(), &parts) || !GetClientRect(handle(), &area))
         return;
-    const int before = SaveDC(dc);
+    const SavedDc saved(dc);
     // The frames of the lists have the same colour; every theme makes it stand out.
     FrameRect(dc, &area, GetSysColorBrush(COLOR_WINDOWFRAME));
     InflateRect(&area, -1, -1);
@@ -297,7 +294,6 @@ void ComboBoxWindow::PaintFlat(HDC dc) {
     }
     ExcludeClipRect(dc, item.left, item.top, item.right, item.bottom);
     FillRect(dc, &area, BackBrush());
-    RestoreDC(dc, before);
 }
 
 void ComboBoxWindow::DrawFlatButton(HDC dc, const RECT& button, bool pressed) const {
@@ -333,9 +329,8 @@ void ComboBoxWindow::DrawClosedItem(HDC dc, const RECT& area) {
     item.hDC = dc;
     item.rcItem = area;
     InflateRect(&item.rcItem, -1, -1);
-    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
+    const SelectedObject font(dc, reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
     OnDrawItem(item);
-    SelectObject(dc, before);
 }
 
 void ComboBoxWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {

@@ -1,5 +1,7 @@
 #include "win32/controls/Desktop.h"
 
+#include "win32/common/Handles.h"
+
 namespace ordalyn::win32 {
 
 using toolkit::Pointer;
@@ -11,30 +13,29 @@ namespace {
 FrameMargins MeasureMargins(HINSTANCE program, bool resizable) {
     constexpr DWORD kExtendedFrameBounds = 9;
     using GetAttribute = HRESULT(WINAPI*)(HWND, DWORD, void*, DWORD);
-    const HMODULE library = LoadLibraryW(L"dwmapi.dll");
-    if (library == nullptr)
+    const Library library(LoadLibraryW(L"dwmapi.dll"));
+    if (!library)
         return {};
     const auto getAttribute =
-        reinterpret_cast<GetAttribute>(GetProcAddress(library, "DwmGetWindowAttribute"));
+        reinterpret_cast<GetAttribute>(GetProcAddress(library.Get(), "DwmGetWindowAttribute"));
     FrameMargins margins;
     if (getAttribute != nullptr) {
         const DWORD frame = resizable ? DWORD{WS_THICKFRAME} : 0;
-        const HWND probe =
+        const OwnedWindow window(
             CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_LAYERED | WS_EX_TRANSPARENT,
-                            L"STATIC", L"", WS_POPUP | WS_CAPTION | WS_SYSMENU | frame, -20000,
-                            -20000, 400, 300, nullptr, nullptr, program, nullptr);
+                            WC_STATICW, L"", WS_POPUP | WS_CAPTION | WS_SYSMENU | frame, -20000,
+                            -20000, 400, 300, nullptr, nullptr, program, nullptr));
+        const HWND probe = window.Get();
         SetLayeredWindowAttributes(probe, 0, 0, LWA_ALPHA);
         ShowWindow(probe, SW_SHOWNA);
         RECT whole = {};
         RECT visible = {};
         GetWindowRect(probe, &whole);
         const HRESULT result = getAttribute(probe, kExtendedFrameBounds, &visible, sizeof visible);
-        DestroyWindow(probe);
         if (SUCCEEDED(result))
             margins = {visible.left - whole.left, visible.top - whole.top,
                        whole.right - visible.right, whole.bottom - visible.bottom};
     }
-    FreeLibrary(library);
     const auto plausible = [](int margin) { return margin >= 0 && margin <= 64; };
     const bool good = plausible(margins.left) && plausible(margins.top) &&
                       plausible(margins.right) && plausible(margins.bottom);
@@ -64,17 +65,17 @@ HCURSOR CursorFor(Pointer pointer) {
     const auto load = [](LPCWSTR name) { return LoadCursorW(nullptr, name); };
     switch (pointer) {
         case Pointer::Hourglass:
-            return load(reinterpret_cast<LPCWSTR>(IDC_WAIT));
+            return load(IDC_WAIT);
         case Pointer::SizeEastWest:
-            return load(reinterpret_cast<LPCWSTR>(IDC_SIZEWE));
+            return load(IDC_SIZEWE);
         case Pointer::SizeNorthSouth:
-            return load(reinterpret_cast<LPCWSTR>(IDC_SIZENS));
+            return load(IDC_SIZENS);
         case Pointer::Hand:
-            return load(reinterpret_cast<LPCWSTR>(IDC_HAND));
+            return load(IDC_HAND);
         case Pointer::Default:
             break;
     }
-    return load(reinterpret_cast<LPCWSTR>(IDC_ARROW));
+    return load(IDC_ARROW);
 }
 
 void RefreshPointer() {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "toolkit/Basics.h"
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
 
@@ -29,7 +29,7 @@ void LastHandler::Tell() noexcept {
     ReleaseCapture();
     constexpr UINT kLook = MB_OK | MB_ICONERROR | MB_TASKMODAL;
     try {
-        MessageBoxW(GetActiveWindow(), Wide(Describe()).c_str(), L"Ordalyn", kLook);
+        MessageBoxW(GetActiveWindow(), ToWide(Describe()).c_str(), L"Ordalyn", kLook);
     } catch (...) {
         // There is no memory for the error's own words.
         MessageBoxW(nullptr, L"Out of memory", L"Ordalyn", kLook);

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/Text.h"
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
 
@@ -231,7 +231,7 @@ int ListViewWindow::FindRow(const NMLVFINDITEMW& request) const {
     if ((request.lvfi.flags & LVFI_STRING) == 0 || request.lvfi.psz == nullptr || count == 0 ||
         list_.ColumnCount() == 0)
         return -1;
-    const std::string wanted = Narrow(request.lvfi.psz);
+    const std::string wanted = FromWide(request.lvfi.psz);
     const int start = std::clamp(request.iStart, 0, count - 1);
     for (int step = 0; step < std::min(count, kRowsSearched); ++step) {
         const int row = static_cast<int>((std::int64_t{start} + step) % count);

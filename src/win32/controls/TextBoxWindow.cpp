@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
 

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <cwchar>
 
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 #include "win32/drawing/FocusMark.h"
 #include "win32/drawing/ToolBarPictures.h"
 
@@ -23,7 +23,7 @@ std::uint32_t RedGreenBlue(int systemColor) {
            GetBValue(color);
 }
 
-HBITMAP MakeBitmap(const Picture& picture) {
+Bitmap MakeBitmap(const Picture& picture) {
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = picture.size;
@@ -32,8 +32,8 @@ HBITMAP MakeBitmap(const Picture& picture) {
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
     void* bits = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    if (bitmap != nullptr)
+    Bitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (bitmap)
         std::memcpy(bits, picture.pixels.data(), picture.pixels.size() * sizeof(std::uint32_t));
     return bitmap;
 }
@@ -43,27 +43,26 @@ HBITMAP MakeBitmap(const Picture& picture) {
 ToolBarWindow::ToolBarWindow(Desktop& desktop, ToolBar& bar, ControlPeer& container)
     : Peer(desktop, bar, {TOOLBARCLASSNAMEW, kStyle}, &container), bar_(bar) {
     const int size = PictureSize();
-    pictures_ = ImageList_Create(size, size, ILC_COLOR32, 4, 4);
+    pictures_.Reset(ImageList_Create(size, size, ILC_COLOR32, 4, 4));
     Send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
     Send(TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS);
     Send(TB_SETBITMAPSIZE, 0, MAKELPARAM(size, size));
-    Send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_));
+    Send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_.Get()));
 }
 
+// The window, which is destroyed after the pictures, is not to touch them any more.
 ToolBarWindow::~ToolBarWindow() {
     Send(TB_SETIMAGELIST, 0, 0);
-    ImageList_Destroy(pictures_);
 }
 
 void ToolBarWindow::AddPicture(const std::string& name) {
     const PictureColors colors = {RedGreenBlue(COLOR_BTNTEXT), RedGreenBlue(COLOR_HIGHLIGHT)};
-    const HBITMAP bitmap = MakeBitmap(DrawToolBarPicture(name, PictureSize(), colors));
-    ImageList_Add(pictures_, bitmap, nullptr);
-    DeleteObject(bitmap);
+    const Bitmap bitmap = MakeBitmap(DrawToolBarPicture(name, PictureSize(), colors));
+    ImageList_Add(pictures_.Get(), bitmap.Get(), nullptr);
 }
 
-void ToolBarWindow::DrawPicturesAnew() {
-    ImageList_RemoveAll(pictures_);
+void ToolBarWindow::RedrawPictures() {
+    ImageList_RemoveAll(pictures_.Get());
     for (const std::string& name : names_)
         AddPicture(name);
     InvalidateRect(handle(), nullptr, TRUE);
@@ -140,14 +139,14 @@ std::optional<LRESULT> ToolBarWindow::OnNotify(NMHDR& header) {
 void ToolBarWindow::OpenMenu(int index) {
     if (index < 0 || index >= bar_.ButtonCount() || bar_.ButtonAt(index + 1).menu.empty())
         return;
-    const HMENU menu = CreatePopupMenu();
+    const Menu menu(CreatePopupMenu());
     int id = 0;
     for (const ToolBar::MenuEntry& entry : bar_.ButtonAt(index + 1).menu) {
         ++id;
         if (entry.text == "-" && entry.key.empty())
-            AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+            AppendMenuW(menu.Get(), MF_SEPARATOR, 0, nullptr);
         else
-            AppendMenuW(menu, MF_STRING, static_cast<UINT_PTR>(id),
+            AppendMenuW(menu.Get(), MF_STRING, static_cast<UINT_PTR>(id),
                         WideForDisplay(CaptionShowing(entry.text)).c_str());
     }
     RECT button = {};
@@ -155,9 +154,8 @@ void ToolBarWindow::OpenMenu(int index) {
     MapWindowPoints(handle(), nullptr, reinterpret_cast<POINT*>(&button), 2);
     TPMPARAMS keepClear = {sizeof keepClear, button};
     const std::weak_ptr<const void> alive = Lifetime();
-    const int chosen = TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_VERTICAL, button.left,
+    const int chosen = TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD | TPM_VERTICAL, button.left,
                                         button.bottom, handle(), &keepClear);
-    DestroyMenu(menu);
     // Messages were handled meanwhile: the bar may have gone or its menu may have changed.
     if (alive.expired() || chosen < 1 ||
         static_cast<std::size_t>(chosen) > bar_.ButtonAt(index + 1).menu.size())
@@ -169,7 +167,8 @@ LRESULT ToolBarWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_KEYDOWN:
         case WM_CHAR:
-            // What keys do is decided by the control; the class does it on some systems only.
+            // What keys do is decided by the control. The class acts on them itself on Windows, not
+            // on Wine.
             return 0;
         case WM_SETFOCUS:
         case WM_KILLFOCUS: {
@@ -181,7 +180,7 @@ LRESULT ToolBarWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         case WM_SYSCOLORCHANGE: {
             const LRESULT answer = Window::OnMessage(message, wParam, lParam);
-            DrawPicturesAnew();
+            RedrawPictures();
             return answer;
         }
         default:

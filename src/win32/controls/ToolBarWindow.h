@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "toolkit/ToolBar.h"
+#include "win32/common/Handles.h"
 #include "win32/controls/Window.h"
 
 namespace ordalyn::win32 {
@@ -29,11 +30,11 @@ class ToolBarWindow : public Peer<toolkit::ToolBarPeer> {
   private:
     int PictureSize() const { return desktop().scale.Nominal(16); }
     void AddPicture(const std::string& name);
-    void DrawPicturesAnew();
+    void RedrawPictures();
     LRESULT Draw(const NMTBCUSTOMDRAW& drawing) const;
 
     toolkit::ToolBar& bar_;
-    HIMAGELIST pictures_;
+    ImageList pictures_;
     std::vector<std::string> names_;  // of the pictures
     int buttons_ = 0;
 };

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/Errors.h"
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
 
@@ -319,7 +319,7 @@ Rect Window::PlaceWindow(const Rect& wanted) {
 Rect Window::ShowFont(const toolkit::Font& font) {
     // The old font must outlive the message.
     const std::shared_ptr<FontHandle> before = std::exchange(font_, desktop_.fonts.Get(font));
-    Send(WM_SETFONT, reinterpret_cast<WPARAM>(font_->get()), TRUE);
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(font_->Get()), TRUE);
     return wanted_;
 }
 

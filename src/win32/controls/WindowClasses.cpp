@@ -11,10 +11,11 @@ void RegisterWindowClasses(HINSTANCE program) {
     description.style = CS_DBLCLKS;
     description.lpfnWndProc = DefWindowProcW;
     description.hInstance = program;
-    description.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
+    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     for (const wchar_t* name : {kFormClass, kPictureClass}) {
         description.lpszClassName = name;
-        RegisterClassExW(&description);  // fails when it is registered already, which is as good
+        RegisterClassExW(
+            &description);  // fails when it is registered already, which is just as good
     }
 }
 

@@ -21,20 +21,13 @@ COLORREF Resolve(toolkit::Color color) {
     return static_cast<COLORREF>(color) & 0xFFFFFFU;
 }
 
-ColorBrush::~ColorBrush() {
-    if (brush_ != nullptr)
-        DeleteObject(brush_);
-}
-
 HBRUSH ColorBrush::For(toolkit::Color color) {
     const COLORREF wanted = Resolve(color);
-    if (brush_ == nullptr || color_ != wanted) {
-        if (brush_ != nullptr)
-            DeleteObject(brush_);
-        brush_ = CreateSolidBrush(wanted);
+    if (!brush_ || color_ != wanted) {
+        brush_.Reset(CreateSolidBrush(wanted));
         color_ = wanted;
     }
-    return brush_;
+    return brush_.Get();
 }
 
 }  // namespace ordalyn::win32

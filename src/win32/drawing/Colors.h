@@ -3,7 +3,7 @@
 #pragma once
 
 #include "toolkit/Basics.h"
-#include "win32/common/Win32.h"
+#include "win32/common/Handles.h"
 
 namespace ordalyn::win32 {
 
@@ -12,15 +12,11 @@ COLORREF Resolve(toolkit::Color color);
 // A brush of the latest colour that was asked for.
 class ColorBrush {
   public:
-    ColorBrush() = default;
-    ~ColorBrush();
-    ColorBrush(const ColorBrush&) = delete;
-    ColorBrush& operator=(const ColorBrush&) = delete;
     // Valid until the next call.
     HBRUSH For(toolkit::Color color);
 
   private:
-    HBRUSH brush_ = nullptr;
+    Brush brush_;
     COLORREF color_ = 0;
 };
 

@@ -5,7 +5,7 @@
 #include <cwchar>
 #include <string>
 
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
 
@@ -20,7 +20,7 @@ std::wstring DialogFontName() {
 }
 
 LOGFONTW Description(const toolkit::Font& font, int dpi) {
-    std::wstring name = Wide(font.name);
+    std::wstring name = ToWide(font.name);
     double points = font.size;
     if (name.empty()) {
         name = DialogFontName();
@@ -49,7 +49,8 @@ std::shared_ptr<FontHandle> Fonts::Get(const toolkit::Font& font) {
         if (made == font)
             return handle.lock();
     }
-    auto handle = std::make_shared<FontHandle>(Description(font, dpi_));
+    const LOGFONTW description = Description(font, dpi_);
+    auto handle = std::make_shared<FontHandle>(CreateFontIndirectW(&description));
     made_.emplace_back(font, handle);
     return handle;
 }

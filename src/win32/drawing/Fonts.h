@@ -6,21 +6,9 @@
 #include <vector>
 
 #include "toolkit/Basics.h"
-#include "win32/common/Win32.h"
+#include "win32/common/Handles.h"
 
 namespace ordalyn::win32 {
-
-class FontHandle {
-  public:
-    explicit FontHandle(const LOGFONTW& description) : handle_(CreateFontIndirectW(&description)) {}
-    ~FontHandle() { DeleteObject(handle_); }
-    FontHandle(const FontHandle&) = delete;
-    FontHandle& operator=(const FontHandle&) = delete;
-    HFONT get() const { return handle_; }
-
-  private:
-    HFONT handle_;
-};
 
 class Fonts {
   public:

@@ -7,7 +7,7 @@
 #include "win32/services/Win32Services.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
-    const ordalyn::platform::win32::Win32Services services;
+    const ordalyn::win32::Win32Services services;
     ordalyn::win32::Win32Toolkit toolkit(instance);
     ordalyn::Program(services.All(), toolkit).Run();
     return 0;

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 #include "win32/controls/Buttons.h"
 
 namespace ordalyn::win32 {

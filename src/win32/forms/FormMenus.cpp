@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "win32/common/Wide.h"
+#include "win32/common/Handles.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
 
@@ -12,7 +13,7 @@ using toolkit::Shortcut;
 namespace {
 
 // Ids go up from menu to menu, so that a choice that waits in the message queue while its menu is
-// built anew does not become another one.
+// rebuilt does not become another one.
 constexpr int kFirstId = 0x8000;
 constexpr int kLastId = 0xEFFF;  // above are the system's own
 
@@ -95,12 +96,6 @@ std::string ShortcutText(const Shortcut& shortcut) {
     return text + key;
 }
 
-// A bar that belongs to a window goes with it.
-FormMenus::~FormMenus() {
-    if (bar_ != nullptr && IsMenu(bar_))
-        DestroyMenu(bar_);
-}
-
 int FormMenus::NextId() const {
     lastId_ = lastId_ < kFirstId || lastId_ >= kLastId ? kFirstId : lastId_ + 1;
     return lastId_;
@@ -126,12 +121,15 @@ void FormMenus::Insert(HMENU menu, MenuItem& item, Places& places) const {
         info.fMask |= MIIM_STRING;
         info.dwTypeData = text.data();
     }
+    Menu subMenu;
     if (!item.Items().empty()) {
         info.fMask |= MIIM_SUBMENU;
-        info.hSubMenu = CreatePopupMenu();
-        Fill(info.hSubMenu, item, places);
+        subMenu.Reset(CreatePopupMenu());
+        Fill(subMenu.Get(), item, places);
+        info.hSubMenu = subMenu.Get();
     }
-    InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
+    if (InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info))
+        subMenu.Release();  // it belongs to the menu that it is in
     places[static_cast<int>(info.wID)] = {&item, menu};
 }
 
@@ -147,7 +145,8 @@ void FormMenus::Flush(HWND window) {
         return;
     changed_ = false;
     Places places;
-    const HMENU bar = CreateMenu();
+    Menu newBar(CreateMenu());
+    const HMENU bar = newBar.Get();
     for (const auto& item : form_.Menus()) {
         if (item->Visible())
             Insert(bar, *item, places);
@@ -155,13 +154,10 @@ void FormMenus::Flush(HWND window) {
     const HMENU before = GetMenu(window);
     places_ = std::move(places);
     if (before == nullptr || !LookTheSame(before, bar)) {
+        // A bar belongs to the window that it is set for, and goes with it.
         const bool any = GetMenuItemCount(bar) > 0;
-        SetMenu(window, any ? bar : nullptr);
-        if (before != nullptr)
-            DestroyMenu(before);
-        bar_ = any ? bar : nullptr;
-        if (!any)
-            DestroyMenu(bar);
+        SetMenu(window, any ? newBar.Release() : nullptr);
+        const Menu replaced(before);
         return;
     }
     // Only what lies below the bar has changed: the bar stays as it is, without flicker.
@@ -175,19 +171,17 @@ void FormMenus::Flush(HWND window) {
         RemoveMenu(bar, position, MF_BYPOSITION);
         const HMENU old = GetSubMenu(before, i);
         SetMenuItemInfoW(before, position, TRUE, &info);
-        // The system frees the sub-menu that is replaced, or leaves that to us.
-        if (old != nullptr && IsMenu(old))
-            DestroyMenu(old);
+        // Windows frees the sub-menu that is replaced, Wine leaves that to its caller.
+        const Menu replaced(IsMenu(old) ? old : nullptr);
         const auto found = places_.find(static_cast<int>(info.wID));
         if (found != places_.end())
             found->second.menu = before;
     }
-    DestroyMenu(bar);
 }
 
 void FormMenus::Update(HWND window, MenuItem& item) {
     if (changed_ || window == nullptr)
-        return;  // it will be read anew anyway
+        return;  // the whole menu is rebuilt anyway
     const auto found = std::find_if(places_.begin(), places_.end(),
                                     [&](const auto& entry) { return entry.second.item == &item; });
     if (found == places_.end())
@@ -215,14 +209,13 @@ MenuItem* FormMenus::Find(int id) const {
 
 MenuItem* FormMenus::PopUp(HWND window, MenuItem& item) const {
     Places places;
-    const HMENU menu = CreatePopupMenu();
-    Fill(menu, item, places);
+    const Menu menu(CreatePopupMenu());
+    Fill(menu.Get(), item, places);
     POINT at = {};
     GetCursorPos(&at);
     const UINT side = RightToLeft() ? TPM_RIGHTALIGN : TPM_LEFTALIGN;
-    const int id =
-        TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON | side, at.x, at.y, window, nullptr);
-    DestroyMenu(menu);
+    const int id = TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD | TPM_RIGHTBUTTON | side, at.x, at.y,
+                                    window, nullptr);
     const auto found = places.find(id);
     return found == places.end() ? nullptr : found->second.item;
 }

@@ -15,7 +15,6 @@ namespace ordalyn::win32 {
 class FormMenus {
   public:
     explicit FormMenus(toolkit::Form& form) : form_(form) {}
-    ~FormMenus();
     FormMenus(const FormMenus&) = delete;
     FormMenus& operator=(const FormMenus&) = delete;
 
@@ -39,7 +38,6 @@ class FormMenus {
     bool RightToLeft() const { return form_.RightToLeft(); }
 
     toolkit::Form& form_;
-    HMENU bar_ = nullptr;
     Places places_;
     bool changed_ = false;
     mutable int lastId_ = 0;

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 #include "win32/controls/Buttons.h"
 #include "win32/controls/WindowClasses.h"
 #include "win32/forms/FormKeys.h"
@@ -304,15 +304,16 @@ void FormWindow::ShowDefaultButton(CommandButtonWindow* button) {
     }
 }
 
-void FormWindow::TakeDroppedFiles(HDROP drop) {
+void FormWindow::TakeDroppedFiles(DroppedFiles dropped) {
+    const HDROP drop = dropped.Get();
     std::vector<std::string> files;
     const UINT count = DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
     for (UINT i = 0; i < count; ++i) {
         std::wstring path(DragQueryFileW(drop, i, nullptr, 0) + std::size_t{1}, L'\0');
         path.resize(DragQueryFileW(drop, i, path.data(), static_cast<UINT>(path.size())));
-        files.push_back(Narrow(path));
+        files.push_back(FromWide(path));
     }
-    DragFinish(drop);
+    dropped.Reset();
     // A form that waits for a modal one takes nothing from the user.
     if (!IsWindowEnabled(handle()))
         return;
@@ -373,7 +374,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 form_.UserClosed();
             return 0;
         case WM_DROPFILES:
-            TakeDroppedFiles(reinterpret_cast<HDROP>(wParam));
+            TakeDroppedFiles(DroppedFiles(reinterpret_cast<HDROP>(wParam)));
             return 0;
         case WM_SYSCOLORCHANGE:
         case WM_THEMECHANGED:

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "toolkit/Form.h"
+#include "win32/common/Handles.h"
 #include "win32/controls/Window.h"
 #include "win32/forms/FormMenus.h"
 
@@ -74,7 +75,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void ReportBounds();
     void ActivationChanged(bool active, bool minimised);
     void RestoreFocus();
-    void TakeDroppedFiles(HDROP drop);
+    void TakeDroppedFiles(DroppedFiles dropped);
     void SystemColorsChanged(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT CommandChosen(UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -91,7 +92,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     bool activationPosted_ = false;
     CommandButtonWindow* defaultButton_ = nullptr;
     CommandButtonWindow* cancelButton_ = nullptr;
-    HWND toolTips_ = nullptr;
+    HWND toolTips_ = nullptr;  // owned by the form's window, goes with it
     ModalRun* modal_ = nullptr;
 };
 

@@ -1,14 +1,11 @@
 #include "win32/services/Win32Clipboard.h"
 
-#include <windows.h>
-
-#include <algorithm>
 #include <cstring>
 
 #include "win32/common/Handles.h"
-#include "win32/common/WindowsText.h"
+#include "win32/common/WideText.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
 namespace {
 
@@ -21,9 +18,8 @@ constexpr DWORD kPauseMilliseconds = 20;
 class OpenedClipboard {
   public:
     OpenedClipboard()
-        : window_(CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
-                                  GetModuleHandleW(nullptr), nullptr),
-                  nullptr) {
+        : window_(CreateWindowExW(0, WC_STATICW, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                  GetModuleHandleW(nullptr), nullptr)) {
         for (int attempt = 0; attempt < kAttempts && !open_; ++attempt) {
             if (attempt > 0)
                 Sleep(kPauseMilliseconds);
@@ -40,18 +36,18 @@ class OpenedClipboard {
     explicit operator bool() const { return open_; }
 
   private:
-    Owned<HWND, DestroyWindow> window_;
+    OwnedWindow window_;
     bool open_ = false;
 };
 
-// A block with the text and its terminating NUL; null when there is no memory.
-HGLOBAL TextBlock(const std::wstring& text) {
+// A block with the text and its terminating NUL; none when there is no memory.
+GlobalBlock TextBlock(const std::wstring& text) {
     const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
-    const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, size);
-    if (block == nullptr)
-        return nullptr;
-    std::memcpy(GlobalLock(block), text.c_str(), size);
-    GlobalUnlock(block);
+    GlobalBlock block(GlobalAlloc(GMEM_MOVEABLE, size));
+    if (!block)
+        return block;
+    std::memcpy(GlobalLock(block.Get()), text.c_str(), size);
+    GlobalUnlock(block.Get());
     return block;
 }
 
@@ -66,15 +62,11 @@ bool Win32Clipboard::SetText(std::string_view text) {
     const OpenedClipboard clipboard;
     if (!clipboard || !EmptyClipboard())
         return false;
-    std::wstring wide = ToWide(text);
-    std::replace(wide.begin(), wide.end(), L'\0', L' ');
-    const HGLOBAL block = TextBlock(wide);
-    if (block == nullptr)
+    GlobalBlock block = TextBlock(WideForDisplay(text));
+    if (!block || SetClipboardData(CF_UNICODETEXT, block.Get()) == nullptr)
         return false;
-    if (SetClipboardData(CF_UNICODETEXT, block) != nullptr)
-        return true;
-    GlobalFree(block);  // it belongs to the system only when it was taken
-    return false;
+    block.Release();  // it belongs to the system only when it was taken
+    return true;
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

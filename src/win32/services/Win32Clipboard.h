@@ -3,12 +3,12 @@
 
 #include "platform/Platform.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
-class Win32Clipboard : public Clipboard {
+class Win32Clipboard : public platform::Clipboard {
   public:
     bool Clear() override;
     bool SetText(std::string_view text) override;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -1,33 +1,16 @@
 #include "win32/services/Win32CodePages.h"
 
-#include <windows.h>
-
 #include "base/Text.h"
-#include "win32/common/WindowsText.h"
+#include "win32/common/WideText.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
+
+using namespace platform;
 
 namespace {
 
 UINT Resolve(unsigned codePage) {
     return codePage == CodePages::kSystem || !IsValidCodePage(codePage) ? GetACP() : codePage;
-}
-
-std::wstring Decode(std::string_view bytes, UINT codePage) {
-    const int length = static_cast<int>(bytes.size());
-    const int needed = MultiByteToWideChar(codePage, 0, bytes.data(), length, nullptr, 0);
-    std::wstring text(static_cast<std::size_t>(needed), L'\0');
-    MultiByteToWideChar(codePage, 0, bytes.data(), length, text.data(), needed);
-    return text;
-}
-
-std::string Encode(std::wstring_view text, UINT codePage) {
-    const int length = static_cast<int>(text.size());
-    const int needed =
-        WideCharToMultiByte(codePage, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
-    std::string bytes(static_cast<std::size_t>(needed), '\0');
-    WideCharToMultiByte(codePage, 0, text.data(), length, bytes.data(), needed, nullptr, nullptr);
-    return bytes;
 }
 
 }  // namespace
@@ -65,4 +48,4 @@ unsigned Win32CodePages::OfCharacterSet(std::int32_t characterSet) {
     return TranslateCharsetInfo(source, &info, TCI_SRCCHARSET) ? info.ciACP : kSystem;
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -4,27 +4,21 @@
 #include <cmath>
 #include <vector>
 
-#include "win32/common/WindowsText.h"
+#include "win32/common/Scale.h"
+#include "win32/common/WideText.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
+
+using namespace platform;
 
 namespace {
 
 // Size of the 8-bit record that has the three fields that came with version 5 of the library.
 constexpr std::size_t kRecordWithLaterFields = 88;
 
-int ScreenDpi() {
-    const HDC screen = GetDC(nullptr);
-    if (screen == nullptr)
-        return USER_DEFAULT_SCREEN_DPI;
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dpi;
-}
-
 LOGFONTW ToLogFont(const Dialogs::FontRequest& request) {
     LOGFONTW font{};
-    font.lfHeight = -static_cast<LONG>(std::lround(request.size * ScreenDpi() / 72.0));
+    font.lfHeight = -static_cast<LONG>(std::lround(request.size * Scale().DpiY() / 72.0));
     font.lfWeight = request.weight;
     font.lfItalic = request.italic ? TRUE : FALSE;
     font.lfUnderline = request.underline ? TRUE : FALSE;
@@ -118,4 +112,4 @@ int Win32Dialogs::LibraryMajorVersion() {
     return HIWORD(static_cast<const VS_FIXEDFILEINFO*>(data)->dwFileVersionMS);
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

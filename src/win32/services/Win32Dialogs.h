@@ -2,17 +2,10 @@
 #pragma once
 
 #include "platform/Platform.h"
-// after the names that it makes macros of
-#include <windows.h>
 
-#include <commdlg.h>
+namespace ordalyn::win32 {
 
-#undef ChooseColor
-#undef ChooseFont
-
-namespace ordalyn::platform::win32 {
-
-class Win32Dialogs : public Dialogs {
+class Win32Dialogs : public platform::Dialogs {
   public:
     std::optional<std::string> OpenFile(const OpenRequest& request) override;
     std::optional<std::uint32_t> ChooseColor(const ColorRequest& request,
@@ -21,4 +14,4 @@ class Win32Dialogs : public Dialogs {
     int LibraryMajorVersion() override;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

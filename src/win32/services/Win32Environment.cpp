@@ -1,11 +1,11 @@
 #include "win32/services/Win32Environment.h"
 
-#include <windows.h>
-
 #include "platform/CommandLine.h"
-#include "win32/common/WindowsText.h"
+#include "win32/common/WideText.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
+
+using namespace platform;
 
 std::string Win32Environment::Expand(std::string_view text) {
     const std::wstring source = ToWide(text);
@@ -61,4 +61,4 @@ LocalTime Win32Environment::Now() {
     return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -3,15 +3,15 @@
 
 #include "platform/Platform.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
-class Win32Environment : public Environment {
+class Win32Environment : public platform::Environment {
   public:
     std::string Expand(std::string_view text) override;
     std::string Variable(std::string_view name) override;
     std::string CommandLine() override;
     std::string ProgramPath() override;
-    LocalTime Now() override;
+    platform::LocalTime Now() override;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -1,7 +1,5 @@
 #include "win32/services/Win32Files.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -9,9 +7,12 @@
 #include "base/Text.h"
 #include "platform/Wildcard.h"
 #include "win32/common/Handles.h"
-#include "win32/common/WindowsText.h"
+#include "win32/common/Paths.h"
+#include "win32/common/WideText.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
+
+using namespace platform;
 
 namespace {
 
@@ -20,8 +21,8 @@ constexpr std::size_t kLargestTransfer = 1U << 30U;
 
 class Win32ReadableFile : public ReadableFile {
   public:
-    Win32ReadableFile(std::string path, HANDLE handle)
-        : path_(std::move(path)), handle_(handle, INVALID_HANDLE_VALUE) {}
+    Win32ReadableFile(std::string path, FileHandle handle)
+        : path_(std::move(path)), handle_(std::move(handle)) {}
 
     std::size_t Read(char* buffer, std::size_t capacity) override {
         DWORD count = 0;
@@ -54,28 +55,28 @@ class Replacement {
     Replacement(const std::wstring& target, const std::string& path, DWORD attributes)
         : target_(target), path_(path) {
         // Counts up past files that other instances or a crash have left.
-        for (int number = 0; handle_ == INVALID_HANDLE_VALUE; ++number) {
+        for (int number = 0; !handle_; ++number) {
             name_ = target + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" +
                     std::to_wstring(number) + L".tmp";
-            handle_ = CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes,
-                                  nullptr);
+            handle_.Reset(CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                      attributes, nullptr));
             const DWORD error = GetLastError();
-            if (handle_ == INVALID_HANDLE_VALUE && (error != ERROR_FILE_EXISTS || number > 100))
+            if (!handle_ && (error != ERROR_FILE_EXISTS || number > 100))
                 throw FileError(path, error);
         }
     }
     ~Replacement() {
-        Close();
+        handle_.Reset();
         if (!placed_)
             DeleteFileW(name_.c_str());
     }
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
-    void Write(std::string_view bytes) { WriteAll(handle_, bytes, path_); }
+    void Write(std::string_view bytes) { WriteAll(handle_.Get(), bytes, path_); }
 
     void TakePlace() {
-        Close();
+        handle_.Reset();
         // Replacing keeps the old file's rights and works while others read it, but needs an old
         // file; moving needs none, and it also completes a replacement that has come half-way.
         if (!ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
@@ -87,22 +88,16 @@ class Replacement {
     }
 
   private:
-    void Close() {
-        if (handle_ != INVALID_HANDLE_VALUE)
-            CloseHandle(handle_);
-        handle_ = INVALID_HANDLE_VALUE;
-    }
-
     std::wstring target_;
     std::string path_;
     std::wstring name_;
-    HANDLE handle_ = INVALID_HANDLE_VALUE;
+    FileHandle handle_;
     bool placed_ = false;
 };
 
 // The attributes that the new file takes over from the old one. Throws when the old one cannot be
-// replaced: some systems would let a rename replace a folder or a write-protected file, others
-// leave files behind when they find out late that a file is locked.
+// replaced: Wine's rename would replace a folder or a write-protected file, and Windows' replacing
+// leaves files behind when it finds out late that a file is locked.
 DWORD AttributesOfReplaceable(const std::wstring& target, const std::string& path) {
     const DWORD attributes = GetFileAttributesW(target.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
@@ -110,8 +105,7 @@ DWORD AttributesOfReplaceable(const std::wstring& target, const std::string& pat
     if (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))
         throw FileError(path, ERROR_ACCESS_DENIED);
     const FileHandle probe(
-        CreateFileW(target.c_str(), DELETE, kFullSharing, nullptr, OPEN_EXISTING, 0, nullptr),
-        INVALID_HANDLE_VALUE);
+        CreateFileW(target.c_str(), DELETE, kFullSharing, nullptr, OPEN_EXISTING, 0, nullptr));
     if (!probe)
         throw FileError(path, GetLastError());
     const DWORD kept = attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
@@ -121,20 +115,19 @@ DWORD AttributesOfReplaceable(const std::wstring& target, const std::string& pat
 }  // namespace
 
 std::unique_ptr<ReadableFile> Win32Files::OpenForReading(std::string_view path) {
-    const HANDLE handle = CreateFileW(ToPath(path).c_str(), GENERIC_READ, kFullSharing, nullptr,
-                                      OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
-    if (handle == INVALID_HANDLE_VALUE)
+    FileHandle handle(CreateFileW(ToPath(path).c_str(), GENERIC_READ, kFullSharing, nullptr,
+                                  OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!handle)
         throw FileError(std::string(path), GetLastError());
-    return std::make_unique<Win32ReadableFile>(std::string(path), handle);
+    return std::make_unique<Win32ReadableFile>(std::string(path), std::move(handle));
 }
 
 bool Win32Files::Exists(std::string_view path) {
-    // A search for a name that ends in a separator finds nothing on some systems and the folder on
-    // others.
+    // A search for a name that ends in a separator finds nothing on Windows and the folder on Wine.
     if (path.empty() || path.back() == '\\' || path.back() == '/')
         return false;
     WIN32_FIND_DATAW found{};
-    const SearchHandle search(FindFirstFileW(ToPath(path).c_str(), &found), INVALID_HANDLE_VALUE);
+    const SearchHandle search(FindFirstFileW(ToPath(path).c_str(), &found));
     return static_cast<bool>(search);
 }
 
@@ -145,7 +138,7 @@ std::vector<std::string> Win32Files::List(std::string_view folder, std::string_v
     all += '*';
     std::vector<std::string> names;
     WIN32_FIND_DATAW found{};
-    const SearchHandle search(FindFirstFileW(ToPath(all).c_str(), &found), INVALID_HANDLE_VALUE);
+    const SearchHandle search(FindFirstFileW(ToPath(all).c_str(), &found));
     if (!search)
         return names;
     do {
@@ -171,4 +164,4 @@ void Win32Files::Replace(std::string_view path, std::string_view bytes) {
     replacement.TakePlace();
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

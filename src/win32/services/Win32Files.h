@@ -3,14 +3,14 @@
 
 #include "platform/Platform.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
-class Win32Files : public Files {
+class Win32Files : public platform::Files {
   public:
-    std::unique_ptr<ReadableFile> OpenForReading(std::string_view path) override;
+    std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
     void Replace(std::string_view path, std::string_view bytes) override;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

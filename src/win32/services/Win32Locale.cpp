@@ -1,17 +1,15 @@
 #include "win32/services/Win32Locale.h"
 
-#include <windows.h>
-
-#include <oleauto.h>
-
 #include <cmath>
 
-#include "win32/common/WindowsText.h"
+#include "win32/common/WideText.h"
+// after windows.h
+#include <oleauto.h>
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
 std::optional<std::string> Win32Locale::LongDate(std::string_view text) {
-    std::wstring wide = ToWide(text);  // some headers of the call ask for text that can be written
+    std::wstring wide = ToWide(text);  // the call takes text that can be written
     DATE date = 0;
     if (FAILED(VarDateFromStr(wide.data(), LOCALE_USER_DEFAULT, 0, &date)))
         return std::nullopt;
@@ -35,4 +33,4 @@ std::optional<std::string> Win32Locale::LongDate(std::string_view text) {
     return FromWide(formatted);
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

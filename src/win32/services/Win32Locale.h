@@ -3,11 +3,11 @@
 
 #include "platform/Platform.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
-class Win32Locale : public Locale {
+class Win32Locale : public platform::Locale {
   public:
     std::optional<std::string> LongDate(std::string_view text) override;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -1,14 +1,13 @@
 #include "win32/services/Win32Profile.h"
 
-#include <windows.h>
+#include "win32/common/Paths.h"
+#include "win32/common/WideText.h"
 
-#include "win32/common/WindowsText.h"
-
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
 namespace {
 
-// Calls `fill(buffer, size)`, which answers the number of characters that it has put there.
+// Calls `fill(buffer, size)`, which returns the number of characters that it has put there.
 template <typename Text, typename Fill>
 Text Filled(std::size_t size, Fill&& fill) {
     Text buffer(size == 0 ? 1 : size, typename Text::value_type{});
@@ -37,6 +36,14 @@ std::wstring ReadSectionNamesWide(const std::wstring& file, std::size_t size) {
     return Filled<std::wstring>(size, [&](wchar_t* buffer, DWORD room) {
         return GetPrivateProfileSectionNamesW(buffer, room, file.c_str());
     });
+}
+
+std::wstring AnsiToWide(std::string_view bytes) {
+    return Decode(bytes, CP_ACP);
+}
+
+std::string WideToAnsi(std::wstring_view text) {
+    return Encode(text, CP_ACP);
 }
 
 // A file's name for the 8-bit calls. They look for a bare name in the system's own folder, so it
@@ -165,4 +172,4 @@ void Win32UnicodeProfile::DeleteSection(std::string_view section, std::string_vi
     WritePrivateProfileStringW(ToWide(section).c_str(), nullptr, nullptr, ToFullPath(file).c_str());
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -3,9 +3,9 @@
 
 #include "platform/Platform.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
-class Win32AnsiProfile : public ProfileCalls {
+class Win32AnsiProfile : public platform::ProfileCalls {
   public:
     std::string ReadEntry(std::string_view section, std::string_view key,
                           std::string_view otherwise, std::string_view file,
@@ -22,7 +22,7 @@ class Win32AnsiProfile : public ProfileCalls {
     void DeleteSection(std::string_view section, std::string_view file) override;
 };
 
-class Win32UnicodeProfile : public ProfileCalls {
+class Win32UnicodeProfile : public platform::ProfileCalls {
   public:
     std::string ReadEntry(std::string_view section, std::string_view key,
                           std::string_view otherwise, std::string_view file,
@@ -39,4 +39,4 @@ class Win32UnicodeProfile : public ProfileCalls {
     void DeleteSection(std::string_view section, std::string_view file) override;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

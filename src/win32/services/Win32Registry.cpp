@@ -1,17 +1,15 @@
 #include "win32/services/Win32Registry.h"
 
-#include <windows.h>
-
 #include <vector>
 
 #include "win32/common/Handles.h"
-#include "win32/common/WindowsText.h"
+#include "win32/common/WideText.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
+
+using namespace platform;
 
 namespace {
-
-using KeyHandle = Owned<HKEY, RegCloseKey>;
 
 // The predefined handles are numbers of 32 bits, extended with their sign.
 HKEY RootKey(std::uint32_t root) {
@@ -23,10 +21,10 @@ bool IsText(DWORD type) {
     return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
 }
 
-HKEY OpenKey(std::uint32_t root, std::string_view subKey, REGSAM access) {
+KeyHandle OpenKey(std::uint32_t root, std::string_view subKey, REGSAM access) {
     HKEY key = nullptr;
     const LSTATUS result = RegOpenKeyExW(RootKey(root), ToWide(subKey).c_str(), 0, access, &key);
-    return result == ERROR_SUCCESS ? key : nullptr;
+    return KeyHandle(result == ERROR_SUCCESS ? key : nullptr);
 }
 
 std::optional<Registry::Value> QueryValue(HKEY key, std::string_view name, std::size_t size) {
@@ -51,7 +49,7 @@ std::optional<Registry::Value> Win32Registry::Query(std::uint32_t root, std::str
                                                     std::string_view name, std::size_t size) {
     constexpr REGSAM kOtherView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
     for (const REGSAM view : {REGSAM{0}, kOtherView}) {
-        const KeyHandle key(OpenKey(root, subKey, KEY_QUERY_VALUE | view), nullptr);
+        const KeyHandle key = OpenKey(root, subKey, KEY_QUERY_VALUE | view);
         if (!key)
             continue;
         if (std::optional<Value> value = QueryValue(key.Get(), name, size))
@@ -66,7 +64,7 @@ bool Win32Registry::Set(std::uint32_t root, std::string_view subKey, std::string
     if (RegCreateKeyExW(RootKey(root), ToWide(subKey).c_str(), 0, nullptr, 0, KEY_SET_VALUE,
                         nullptr, &created, nullptr) != ERROR_SUCCESS)
         return false;
-    const KeyHandle key(created, nullptr);
+    const KeyHandle key(created);
     std::wstring text = IsText(value.type) ? ToWide(value.data) : std::wstring();
     if (!text.empty() && text.back() != L'\0')
         text += L'\0';
@@ -87,4 +85,4 @@ bool Win32Registry::DeleteKey(std::uint32_t root, std::string_view subKey) {
     return RegDeleteKeyW(RootKey(root), ToWide(subKey).c_str()) == ERROR_SUCCESS;
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -3,9 +3,9 @@
 
 #include "platform/Platform.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
-class Win32Registry : public Registry {
+class Win32Registry : public platform::Registry {
   public:
     // Looks in the registry's view of this program first, then in that of programs of the other
     // width: on 64-bit systems a 32-bit file manager keeps its keys apart.
@@ -16,4 +16,4 @@ class Win32Registry : public Registry {
     bool DeleteKey(std::uint32_t root, std::string_view subKey) override;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -1,8 +1,8 @@
 #include "win32/services/Win32Services.h"
 
-#include <windows.h>
+#include "win32/common/Win32.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
 Win32Services::Win32Services()
     : all_{ansiProfile_, unicodeProfile_, codePages_, files_,    environment_,
@@ -10,4 +10,4 @@ Win32Services::Win32Services()
     SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

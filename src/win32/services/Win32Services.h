@@ -15,7 +15,7 @@
 #include "win32/services/Win32Registry.h"
 #include "win32/services/Win32Shell.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
 class Win32Services {
   public:
@@ -24,7 +24,7 @@ class Win32Services {
     Win32Services(const Win32Services&) = delete;
     Win32Services& operator=(const Win32Services&) = delete;
 
-    const Services& All() const { return all_; }
+    const platform::Services& All() const { return all_; }
 
   private:
     Win32AnsiProfile ansiProfile_;
@@ -37,7 +37,7 @@ class Win32Services {
     Win32Clipboard clipboard_;
     Win32Registry registry_;
     Win32Dialogs dialogs_;
-    Services all_;
+    platform::Services all_;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -1,13 +1,10 @@
 #include "win32/services/Win32Shell.h"
 
-#include <windows.h>
-
+#include "win32/common/WideText.h"
+// after windows.h
 #include <objbase.h>
-#include <shellapi.h>
 
-#include "win32/common/WindowsText.h"
-
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
 namespace {
 
@@ -29,10 +26,10 @@ class ComScope {
 
 }  // namespace
 
-void Win32Shell::Open(WindowHandle owner, std::string_view target) {
+void Win32Shell::Open(platform::WindowHandle owner, std::string_view target) {
     const ComScope com;
     ShellExecuteW(reinterpret_cast<HWND>(owner), L"open", ToWide(target).c_str(), nullptr, nullptr,
                   SW_SHOWNORMAL);
 }
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

@@ -3,11 +3,11 @@
 
 #include "platform/Platform.h"
 
-namespace ordalyn::platform::win32 {
+namespace ordalyn::win32 {
 
-class Win32Shell : public Shell {
+class Win32Shell : public platform::Shell {
   public:
-    void Open(WindowHandle owner, std::string_view target) override;
+    void Open(platform::WindowHandle owner, std::string_view target) override;
 };
 
-}  // namespace ordalyn::platform::win32
+}  // namespace ordalyn::win32

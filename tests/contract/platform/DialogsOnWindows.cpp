@@ -5,12 +5,7 @@
 #include <thread>
 
 #include "contract/platform/Subject.h"
-#include "win32/common/WindowsText.h"
-
-// Behind the interfaces: the system's header makes macros of some of their names.
-#include <windows.h>
-#undef ChooseColor
-#undef ChooseFont
+#include "win32/common/WideText.h"
 
 namespace ordalyn::contract {
 
@@ -72,7 +67,7 @@ std::string InstalledFont() {
         },
         reinterpret_cast<LPARAM>(&name), 0);
     ReleaseDC(nullptr, screen);
-    return platform::win32::FromWide(name);
+    return win32::FromWide(name);
 }
 
 class DialogsOnWindows : public testing::Test {

@@ -2,10 +2,7 @@
 #include "contract/platform/Subject.h"
 #include "hostconfig/cRegistry.h"
 #include "hostconfig/mAppCommon.h"
-#include "win32/common/WindowsText.h"
-
-// Behind the interfaces: the system's header makes macros of some of their names.
-#include <windows.h>
+#include "win32/common/WideText.h"
 
 namespace ordalyn::contract {
 
@@ -28,8 +25,8 @@ class RegistryViewsOnWindows : public testing::Test {
         if (RegCreateKeyExW(HKEY_LOCAL_MACHINE, kKey, 0, nullptr, 0, KEY_SET_VALUE | view, nullptr,
                             &key, nullptr) != ERROR_SUCCESS)
             return false;
-        const std::wstring wide = platform::win32::ToWide(text);
-        EXPECT_EQ(RegSetValueExW(key, platform::win32::ToWide(name).c_str(), 0, REG_SZ,
+        const std::wstring wide = win32::ToWide(text);
+        EXPECT_EQ(RegSetValueExW(key, win32::ToWide(name).c_str(), 0, REG_SZ,
                                  reinterpret_cast<const BYTE*>(wide.c_str()),
                                  static_cast<DWORD>((wide.size() + 1) * sizeof(wchar_t))),
                   ERROR_SUCCESS);

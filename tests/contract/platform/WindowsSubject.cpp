@@ -1,19 +1,17 @@
 #include <thread>
 
 #include "contract/platform/Subject.h"
-#include "win32/common/WindowsText.h"
+#include "win32/common/Paths.h"
+#include "win32/common/WideText.h"
 #include "win32/services/Win32Services.h"
-
-// Behind the interfaces: the system's header makes macros of some of their names.
-#include <windows.h>
 
 namespace ordalyn::contract {
 
 namespace {
 
-using platform::win32::FromWide;
-using platform::win32::ToPath;
-using platform::win32::ToWide;
+using win32::FromWide;
+using win32::ToPath;
+using win32::ToWide;
 
 constexpr const wchar_t* kRegistryKey = L"Software\\OrdalynContract";
 
@@ -156,7 +154,7 @@ class WindowsSubject : public Subject {
         return FromWide(text);
     }
 
-    platform::win32::Win32Services services_;
+    win32::Win32Services services_;
     std::wstring folder_;
     std::vector<std::wstring> variables_;
 };

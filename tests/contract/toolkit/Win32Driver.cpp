@@ -6,7 +6,7 @@
 #include "contract/toolkit/Win32Sight.h"
 #include "contract/toolkit/Win32Watch.h"
 #include "contract/toolkit/Win32Windows.h"
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 // after windows.h
 #include <shellapi.h>
 #include <shlobj.h>
@@ -281,7 +281,7 @@ class Win32Driver : public Win32Sight {
             return;
         std::wstring names;
         for (const std::string& path : paths)
-            names += win32::Wide(path) + L'\0';
+            names += win32::ToWide(path) + L'\0';
         names += L'\0';
         const SIZE_T size = sizeof(DROPFILES) + names.size() * sizeof(wchar_t);
         const HGLOBAL memory = GlobalAlloc(GHND, size);
@@ -357,7 +357,7 @@ class Win32Driver : public Win32Sight {
         Ask(edit, EM_SETSEL, 0, -1);
         if (text.empty())
             PostMessageW(edit, WM_CHAR, VK_BACK, 1);
-        for (const wchar_t unit : win32::Wide(text))
+        for (const wchar_t unit : win32::ToWide(text))
             PostMessageW(edit, WM_CHAR, unit, 1);
         Settle();
     }

@@ -1,7 +1,7 @@
 #include "contract/toolkit/Win32Sight.h"
 
 #include "contract/toolkit/Win32Windows.h"
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::contract {
 
@@ -41,7 +41,7 @@ std::vector<MenuSeen> Seen(HMENU menu) {
         info.dwTypeData = text;
         info.cch = static_cast<UINT>(std::size(text));
         GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &info);
-        const std::string all = win32::Narrow(text);
+        const std::string all = win32::FromWide(text);
         const std::size_t tab = all.find('\t');
         seen.push_back({all.substr(0, tab),
                         tab == std::string::npos ? std::string() : all.substr(tab + 1),
@@ -117,7 +117,7 @@ std::vector<std::string> Win32Sight::ItemsOf(const ComboBox& box) {
         Ask(HandleOf(box), CB_GETLBTEXT, static_cast<WPARAM>(i),
             reinterpret_cast<LPARAM>(text.data()));
         text.pop_back();
-        items.push_back(win32::Narrow(text));
+        items.push_back(win32::FromWide(text));
     }
     return items;
 }
@@ -138,7 +138,7 @@ std::string Win32Sight::Cell(const ListView& list, int row, int column) {
     item.cchTextMax = static_cast<int>(std::size(text));
     Ask(HandleOf(list), LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
         reinterpret_cast<LPARAM>(&item));
-    return win32::Narrow(text);
+    return win32::FromWide(text);
 }
 
 int Win32Sight::SelectedRow(const ListView& list) {
@@ -158,7 +158,7 @@ std::string Win32Sight::ColumnCaption(const ListView& list, int column) {
     asked.cchTextMax = static_cast<int>(std::size(text));
     Ask(HandleOf(list), LVM_GETCOLUMNW, static_cast<WPARAM>(column),
         reinterpret_cast<LPARAM>(&asked));
-    return win32::Narrow(text);
+    return win32::FromWide(text);
 }
 
 int Win32Sight::ColumnPixels(const ListView& list, int column) {
@@ -178,7 +178,7 @@ std::vector<std::string> Win32Sight::PanelTexts(const StatusBar& bar) {
     for (int i = 0; i < count; ++i) {
         wchar_t text[512] = {};
         Ask(HandleOf(bar), SB_GETTEXTW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-        texts.push_back(win32::Narrow(text));
+        texts.push_back(win32::FromWide(text));
     }
     return texts;
 }
@@ -193,7 +193,7 @@ std::vector<std::string> Win32Sight::TabCaptions(const TabStrip& strip) {
         item.pszText = text;
         item.cchTextMax = static_cast<int>(std::size(text));
         Ask(HandleOf(strip), TCM_GETITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
-        captions.push_back(win32::Narrow(text));
+        captions.push_back(win32::FromWide(text));
     }
     return captions;
 }

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "contract/toolkit/Win32Windows.h"
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 
 namespace ordalyn::contract {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 #include "win32/controls/Window.h"
 #include "win32/forms/Win32Toolkit.h"
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "toolkit/Form.h"
-#include "win32/common/Wide.h"
+#include "win32/common/WideText.h"
 #include "win32/forms/Win32Toolkit.h"
 
 namespace ordalyn::test {
