@@ -102,7 +102,7 @@ void ComboBoxWindow::TakeFocus() {
 }
 
 void ComboBoxWindow::SetText(std::string_view text) {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     Select(-1);
     ShowCaption(text);
 }
@@ -115,7 +115,7 @@ void ComboBoxWindow::SelectText(std::size_t start, std::size_t length) {
 
 // The control thinks about its looks with each item, for which a log of many years has no time.
 void ComboBoxWindow::AddItems(const std::vector<std::string>& texts) {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     // Drawing that is switched on again would show a hidden window.
     const bool drawn = (GetWindowLongW(handle(), GWL_STYLE) & WS_VISIBLE) != 0;
     if (drawn)
@@ -129,7 +129,7 @@ void ComboBoxWindow::AddItems(const std::vector<std::string>& texts) {
 }
 
 void ComboBoxWindow::InsertItem(int index, std::string_view text) {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     const std::wstring shown = WideForDisplay(text);
     const int selected = SelectedIndex();
     Send(CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(shown.c_str()));
@@ -138,7 +138,7 @@ void ComboBoxWindow::InsertItem(int index, std::string_view text) {
 }
 
 void ComboBoxWindow::SetItem(int index, std::string_view text) {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     const std::wstring shown = WideForDisplay(text);
     const int selected = SelectedIndex();
     const std::wstring typed = editable_ ? WideForDisplay(box_.Text()) : std::wstring();
@@ -151,7 +151,7 @@ void ComboBoxWindow::SetItem(int index, std::string_view text) {
 }
 
 void ComboBoxWindow::RemoveItem(int index) {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     // Removing the selected item leaves the text of an editable box, which is no item's any more.
     const std::wstring typed = editable_ ? WideForDisplay(box_.Text()) : std::wstring();
     const bool selected = SelectedIndex() == index;
@@ -164,21 +164,21 @@ void ComboBoxWindow::RemoveItem(int index) {
 }
 
 void ComboBoxWindow::RemoveAllItems() {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     Send(CB_RESETCONTENT);
     if (editable_)
         ShowCaption("");
 }
 
 void ComboBoxWindow::SetListIndex(int index) {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     Select(index);
     if (editable_ && index < 0)
         ShowCaption("");
 }
 
 void ComboBoxWindow::OnCommand(int code, int) {
-    if (setting_)
+    if (changingByCode_)
         return;
     switch (code) {
         case CBN_SELCHANGE:
@@ -228,7 +228,7 @@ void ComboBoxWindow::WidenList() {
 // Opening a list selects the item that fits the typed text, and closing it without a choice keeps
 // whatever was highlighted; neither is told otherwise.
 void ComboBoxWindow::ReportWhatIsShown() {
-    if (handle() == nullptr || setting_ || IsDroppedDown())
+    if (handle() == nullptr || changingByCode_ || IsDroppedDown())
         return;
     const int selected = SelectedIndex();
     if (!editable_) {

@@ -46,7 +46,7 @@ class ComboBoxWindow : public Peer<toolkit::ComboBoxPeer> {
     toolkit::ComboBox& box_;
     bool editable_;
     bool flat_ = false;
-    bool setting_ = false;
+    bool changingByCode_ = false;  // what the control reports then is no user's doing
 };
 
 }  // namespace ordalyn::win32

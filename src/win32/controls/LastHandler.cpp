@@ -22,10 +22,10 @@ std::string Describe() {
 
 }  // namespace
 
-void LastHandler::Tell() noexcept {
-    if (telling_)
+void LastHandler::Report() noexcept {
+    if (reporting_)
         return;
-    const toolkit::ScopedFlag telling(telling_);
+    const toolkit::ScopedFlag reporting(reporting_);
     ReleaseCapture();
     constexpr UINT kLook = MB_OK | MB_ICONERROR | MB_TASKMODAL;
     try {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "base/Text.h"
 #include "win32/common/WideText.h"
@@ -56,10 +57,10 @@ void ListViewWindow::SetVisible(bool visible) {
     if (handle() == nullptr)
         return;
     if (visible) {
-        hiding_ = false;
+        hidePosted_ = false;
         ShowWindowIf(true);
     } else if (IsWindowVisible(GetParent(handle()))) {
-        hiding_ = true;
+        hidePosted_ = true;
         PostMessageW(handle(), kHideNow, 0, 0);
     } else {
         ShowWindowIf(false);
@@ -147,7 +148,7 @@ void ListViewWindow::FlattenColumnHeaders() {
     if (header == nullptr)
         return;
     const LONG style = GetWindowLongW(header, GWL_STYLE);
-    SetWindowLongW(header, GWL_STYLE, style ^ HDS_BUTTONS);
+    SetWindowLongW(header, GWL_STYLE, style & ~HDS_BUTTONS);
     SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
                  SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
@@ -164,16 +165,16 @@ void ListViewWindow::ChangeState(int row, UINT mask, UINT state) {
 // Only the row that is selected is touched: asking the control for it, or addressing all rows, can
 // take a look at each of a million.
 void ListViewWindow::ClearSelection(UINT states) {
-    lifted_ = -1;
-    if (selected_ >= 0)
-        ChangeState(selected_, states, 0);
-    selected_ = -1;
+    liftedRow_ = -1;
+    if (selectedRow_ >= 0)
+        ChangeState(selectedRow_, states, 0);
+    selectedRow_ = -1;
 }
 
 void ListViewWindow::ResetRows(int count) {
     if (handle() == nullptr)
         return;
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     // Nobody is to see the steps.
     const bool visible = IsWindowVisible(handle()) != 0;
     if (visible)
@@ -191,20 +192,20 @@ void ListViewWindow::ResetRows(int count) {
 void ListViewWindow::UpdateRows(int count) {
     if (handle() == nullptr)
         return;
-    const ScopedFlag setting(setting_);
-    if (selected_ >= count)
+    const ScopedFlag byCode(changingByCode_);
+    if (selectedRow_ >= count)
         ClearSelection(kSelection);
     Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LVSICF_NOSCROLL);
     InvalidateRect(handle(), nullptr, TRUE);
 }
 
 void ListViewWindow::SelectRow(int row) {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     ClearSelection(kSelection);
     if (row < 0)
         return;
     ChangeState(row, kSelection, kSelection);
-    selected_ = row;
+    selectedRow_ = row;
 }
 
 void ListViewWindow::EnsureVisible(int row) {
@@ -215,7 +216,7 @@ void ListViewWindow::SetGridLines(bool shown) {
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, shown ? LVS_EX_GRIDLINES : 0);
 }
 
-// What the control asks and tells.
+// What the control asks for and reports.
 
 void ListViewWindow::GiveText(LVITEMW& item) const {
     if ((item.mask & LVIF_TEXT) == 0)
@@ -249,39 +250,48 @@ void ListViewWindow::ItemChanged(const NMLISTVIEW& change) {
     const bool was = (change.uOldState & LVIS_SELECTED) != 0;
     const bool is = (change.uNewState & LVIS_SELECTED) != 0;
     if (is && !was && change.iItem >= 0) {
-        selected_ = change.iItem;
-        lifted_ = -1;
-        if (!setting_)
+        selectedRow_ = change.iItem;
+        liftedRow_ = -1;
+        if (!changingByCode_)
             list_.UserSelected(change.iItem);
-    } else if (was && !is && (change.iItem < 0 || change.iItem == selected_)) {
-        selected_ = -1;
-        if (!setting_)
-            list_.UserSelected(-1);  // until the next one is told, or for good beside the rows
+    } else if (was && !is && (change.iItem < 0 || change.iItem == selectedRow_)) {
+        selectedRow_ = -1;
+        if (!changingByCode_)
+            list_.UserSelected(-1);  // until the next row is reported, or for good beside the rows
     }
 }
 
-// Before it selects a row, the control may go through all rows to find the one to deselect. It
-// finds none when that is done for it; what is selected then is told, also when it is the same row
-// again. When nothing gets selected after all, the row comes back.
-LRESULT ListViewWindow::SelectingMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    const std::weak_ptr<const void> alive = Lifetime();
-    const int before = selected_;
-    {
-        const ScopedFlag setting(setting_);
-        ClearSelection(LVIS_SELECTED);
+// Before it selects a row, the control may go through all rows, which can be a million, to find the
+// one to deselect. As long as one of these lives that row is deselected already, and nothing is
+// looked for. The user's choice is then reported even when it is the same row again. When the
+// control has selected no row by the end, the lifted one is selected as before.
+class ListViewWindow::LiftedSelection {
+  public:
+    explicit LiftedSelection(ListViewWindow& list) : list_(list), listAlive_(list.Lifetime()) {
+        const int row = list.selectedRow_;
+        const ScopedFlag byCode(list.changingByCode_);
+        list.ClearSelection(LVIS_SELECTED);
+        list.liftedRow_ = row;
     }
-    lifted_ = before;
-    const LRESULT answer = Window::OnMessage(message, wParam, lParam);
-    if (!alive.expired() && handle() != nullptr && lifted_ >= 0 && lifted_ < list_.RowCount()) {
-        const ScopedFlag setting(setting_);
-        ChangeState(lifted_, LVIS_SELECTED, LVIS_SELECTED);
-        lifted_ = -1;
+    ~LiftedSelection() {
+        if (listAlive_.expired() || list_.handle() == nullptr)
+            return;
+        const int row = std::exchange(list_.liftedRow_, -1);
+        if (row < 0 || row >= list_.list_.RowCount())
+            return;
+        const ScopedFlag byCode(list_.changingByCode_);
+        list_.ChangeState(row, LVIS_SELECTED, LVIS_SELECTED);
     }
-    return answer;
-}
+    LiftedSelection(const LiftedSelection&) = delete;
+    LiftedSelection& operator=(const LiftedSelection&) = delete;
 
-bool ListViewWindow::MaySelect(UINT message, WPARAM wParam, LPARAM lParam) const {
-    if (selected_ < 0)
+  private:
+    ListViewWindow& list_;
+    std::weak_ptr<const void> listAlive_;
+};
+
+bool ListViewWindow::ChangesSelection(UINT message, WPARAM wParam, LPARAM lParam) const {
+    if (selectedRow_ < 0)
         return false;
     switch (message) {
         case WM_LBUTTONDOWN:
@@ -318,8 +328,8 @@ std::optional<LRESULT> ListViewWindow::OnNotify(NMHDR& header) {
 LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case kHideNow:
-            if (hiding_) {
-                hiding_ = false;
+            if (hidePosted_) {
+                hidePosted_ = false;
                 ShowWindowIf(false);
             }
             return 0;
@@ -336,8 +346,9 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         default:
             break;
     }
-    if (MaySelect(message, wParam, lParam))
-        return SelectingMessage(message, wParam, lParam);
+    std::optional<LiftedSelection> lifted;
+    if (ChangesSelection(message, wParam, lParam))
+        lifted.emplace(*this);
     return Window::OnMessage(message, wParam, lParam);
 }
 

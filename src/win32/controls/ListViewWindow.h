@@ -36,6 +36,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
+    class LiftedSelection;
     struct Width {
         toolkit::Twips twips;
         int pixels;
@@ -46,16 +47,18 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void ItemChanged(const NMLISTVIEW& change);
     void ChangeState(int row, UINT mask, UINT state);
     void ClearSelection(UINT states);
-    bool MaySelect(UINT message, WPARAM wParam, LPARAM lParam) const;
-    LRESULT SelectingMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    // Whether the message may make the control deselect the selected row and select one.
+    bool ChangesSelection(UINT message, WPARAM wParam, LPARAM lParam) const;
 
     toolkit::ListView& list_;
     std::vector<Width> widths_;
-    std::vector<int> positions_;  // as last seen, for when the window has gone
-    bool setting_ = false;        // what changes now is changed by code
-    bool hiding_ = false;
-    int selected_ = -1;  // the row that is shown selected
-    int lifted_ = -1;    // a row deselected for the control's sake, until it selects another
+    std::vector<int> positions_;   // as last seen, for when the window has gone
+    bool changingByCode_ = false;  // what the control reports then is no user's doing
+    bool hidePosted_ = false;      // the list is to be hidden when kHideNow arrives
+    // The row that the control shows as selected. While LiftedSelection has deselected it, none is,
+    // and liftedRow_ is the one to select again, unless the control selects another.
+    int selectedRow_ = -1;
+    int liftedRow_ = -1;
 };
 
 }  // namespace ordalyn::win32

@@ -15,7 +15,7 @@ TextBoxWindow::TextBoxWindow(Desktop& desktop, TextBox& box, ControlPeer& contai
 }
 
 void TextBoxWindow::SetText(std::string_view text) {
-    const ScopedFlag setting(setting_);
+    const ScopedFlag byCode(changingByCode_);
     ShowCaption(text);
 }
 
@@ -26,7 +26,7 @@ void TextBoxWindow::SelectText(std::size_t start, std::size_t length) {
 }
 
 void TextBoxWindow::OnCommand(int code, int) {
-    if (code == EN_CHANGE && !setting_)
+    if (code == EN_CHANGE && !changingByCode_)
         box_.UserEdited(TextOf(handle()));
 }
 

@@ -15,7 +15,7 @@ class TextBoxWindow : public Peer<toolkit::TextPeer> {
 
   private:
     toolkit::TextBox& box_;
-    bool setting_ = false;
+    bool changingByCode_ = false;  // what the control reports then is no user's doing
 };
 
 // A position for EM_SETSEL and CB_SETEDITSEL; anything behind the end means the end.

@@ -77,8 +77,11 @@ void MessageLoop::RunWaiting() {
 }
 
 void MessageLoop::Handle(const MSG& message) {
-    for (FormWindow* const form : desktop_.forms)
-        form->FlushMenus();
+    desktop_.lastHandler.Run(false, [&] {
+        for (FormWindow* const form : desktop_.forms)
+            form->FlushMenus();
+        return true;
+    });
     if (desktop_.lastHandler.Run(true, [&] { return HandleKey(message); }))
         return;
     if (!HasNoCharacter(message))
@@ -86,7 +89,7 @@ void MessageLoop::Handle(const MSG& message) {
     DispatchMessageW(&message);
 }
 
-// Answers whether the message was used up.
+// Returns whether the message was used up.
 bool MessageLoop::HandleKey(const MSG& message) {
     const bool down = IsKeyDown(message);
     const bool up = IsKeyUp(message);

@@ -264,7 +264,7 @@ class MemoryListView : public Peer<ListViewPeer> {
     void SelectRow(int row) override { shown.selectedRow = row; }
     void EnsureVisible(int row) override { shown.visibleRow = row; }
     void SetGridLines(bool gridLines) override { shown.gridLines = gridLines; }
-    void FlattenColumnHeaders() override { shown.flatHeaders = !shown.flatHeaders; }
+    void FlattenColumnHeaders() override { shown.flatHeaders = true; }
 };
 
 class MemoryStatusBar : public Peer<StatusBarPeer> {

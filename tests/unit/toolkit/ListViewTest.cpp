@@ -222,6 +222,8 @@ TEST_F(ListViewTest, GridLinesAreShown) {
     EXPECT_TRUE(On(list).gridLines);
     list.FlattenColumnHeaders();
     EXPECT_TRUE(On(list).flatHeaders);
+    list.FlattenColumnHeaders();
+    EXPECT_TRUE(On(list).flatHeaders) << "once more changes nothing";
 }
 
 }  // namespace

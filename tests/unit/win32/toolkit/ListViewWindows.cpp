@@ -175,6 +175,8 @@ TEST_F(Lists, FlatHeadersCannotBePushed) {
     ASSERT_NE(GetWindowLongW(header, GWL_STYLE) & HDS_BUTTONS, 0);
     list.FlattenColumnHeaders();
     EXPECT_EQ(GetWindowLongW(header, GWL_STYLE) & HDS_BUTTONS, 0);
+    list.FlattenColumnHeaders();
+    EXPECT_EQ(GetWindowLongW(header, GWL_STYLE) & HDS_BUTTONS, 0) << "once more changes nothing";
 }
 
 TEST_F(Lists, AListHiddenWhileItIsFilledStaysOnTheScreenWithTheFocus) {
