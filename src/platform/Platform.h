@@ -1,6 +1,6 @@
 // The services that the program asks of the operating system, as small interfaces. They know
 // nothing of logs or settings. All text is UTF-8 unless an operation says that it takes bytes.
-// platform/win32 realises them on Windows, tests/support in memory; one contract suite holds both.
+// win32/services realises them on Windows, tests/support in memory; one contract suite holds both.
 #pragma once
 
 #include <cstddef>

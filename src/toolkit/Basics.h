@@ -1,6 +1,6 @@
 // The toolkit's plain types: geometry, fonts, colours, keys, events.
 //
-// All geometry above platform/win32 is in twips (1/1440 inch at the screen's nominal resolution).
+// All geometry above win32 is in twips (1/1440 inch at the screen's nominal resolution).
 // It is kept exactly as it was set; only the realisation knows pixels.
 #pragma once
 

@@ -60,6 +60,12 @@ def test_only_the_windows_room_includes_system_headers():
     assert found == []
 
 
+def test_one_header_includes_the_systems_main_header_for_all():
+    main = re.compile(r"^\s*#\s*include\s*[<\"]windows\.h[>\"]", re.M | re.I)
+    found = [name(file) for file in code("src") if main.search(text(file))]
+    assert found == ["src/win32/common/Win32.h"]
+
+
 def test_every_include_is_in_the_table_of_rooms():
     assert check_includes.wrong_includes(PROJECT / "src") == []
 

@@ -4,8 +4,8 @@ namespace ordalyn::win32 {
 
 using namespace toolkit;
 
-// Without BS_NOTIFY: with it, the second press of a double click would be told as something else
-// than a click.
+// Without BS_NOTIFY: with it, the second press of a double click would be reported as BN_DBLCLK
+// instead of as a click.
 CommandButtonWindow::CommandButtonWindow(Desktop& desktop, Control& control, ControlPeer& container)
     : Peer(desktop, control, {WC_BUTTONW, BS_PUSHBUTTON | WS_TABSTOP}, &container) {}
 

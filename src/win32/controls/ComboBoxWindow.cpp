@@ -95,7 +95,8 @@ void ComboBoxWindow::SetBorder(BorderStyle, Appearance appearance) {
         InvalidateRect(handle(), nullptr, TRUE);
 }
 
-// The focus of an editable box is its edit field's: going there once more would be told as new.
+// The focus of an editable box is its edit field's: setting it once more would be reported
+// as new.
 void ComboBoxWindow::TakeFocus() {
     if (!HasFocus())
         Focus();
@@ -113,7 +114,7 @@ void ComboBoxWindow::SelectText(std::size_t start, std::size_t length) {
     Send(CB_SETEDITSEL, 0, MAKELPARAM(from, from + TextPosition(length, end - from)));
 }
 
-// The control thinks about its looks with each item, for which a log of many years has no time.
+// The control lays itself out again after each item, which takes too long for a log of many years.
 void ComboBoxWindow::AddItems(const std::vector<std::string>& texts) {
     const ScopedFlag byCode(changingByCode_);
     // Drawing that is switched on again would show a hidden window.
@@ -195,7 +196,7 @@ void ComboBoxWindow::OnCommand(int code, int) {
             WidenList();
             break;
         case CBN_CLOSEUP:
-            // The choice itself is told after this.
+            // The choice itself is reported after this.
             PostMessageW(handle(), kListClosed, 0, 0);
             break;
         default:
@@ -226,7 +227,7 @@ void ComboBoxWindow::WidenList() {
 }
 
 // Opening a list selects the item that fits the typed text, and closing it without a choice keeps
-// whatever was highlighted; neither is told otherwise.
+// whatever was highlighted; no notification reports either.
 void ComboBoxWindow::ReportWhatIsShown() {
     if (handle() == nullptr || changingByCode_ || IsDroppedDown())
         return;

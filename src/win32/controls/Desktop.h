@@ -44,7 +44,7 @@ class Desktop {
 };
 
 HCURSOR CursorFor(toolkit::Pointer pointer);
-// Lets the window below the mouse choose the pointer anew.
+// Lets the window below the mouse choose the pointer again.
 void RefreshPointer();
 
 }  // namespace ordalyn::win32

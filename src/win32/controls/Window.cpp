@@ -45,7 +45,7 @@ Window::Window(Desktop& desktop, Control& control, const Look& look, ControlPeer
         RaiseToTop();
 }
 
-// The control may be half destroyed: it hears nothing of the end of its window.
+// The control may be half destroyed: it is not notified of the end of its window.
 Window::~Window() {
     if (handle_ == nullptr)
         return;
@@ -134,7 +134,7 @@ LRESULT Window::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_MOUSEMOVE:
             return MouseMoved(message, wParam, lParam);
         case WM_CAPTURECHANGED:
-            // Somebody else took the mouse during a drag: it ends here.
+            // Another window took the mouse during a drag: it ends here.
             if (handlesMouse_ && pressed_ != 0) {
                 POINT at = {};
                 GetCursorPos(&at);
@@ -160,7 +160,7 @@ LRESULT Window::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return Default(message, wParam, lParam);
 }
 
-// What a child window tells its container is the child's own matter.
+// Notifications that a child window sends to its container are handled by the child's own object.
 std::optional<LRESULT> Window::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND:
@@ -199,7 +199,7 @@ std::optional<LRESULT> Window::Reflect(UINT message, WPARAM wParam, LPARAM lPara
 HBRUSH Window::OnColor(HDC dc) {
     SetTextColor(dc, Resolve(control_.ForeColor()));
     SetBkColor(dc, Resolve(control_.BackColor()));
-    // Not every system's controls draw in their own reading order.
+    // Wine's controls do not draw in their own reading order; those of Windows do.
     if (control_.RightToLeft())
         SetTextAlign(dc, GetTextAlign(dc) | TA_RTLREADING);
     return BackBrush();
@@ -248,7 +248,7 @@ LRESULT Window::MousePressed(int button, UINT message, WPARAM wParam, LPARAM lPa
     if (handlesMouse_)
         return 0;
     const LRESULT answer = Default(message, wParam, lParam);
-    // Some classes wait for the release inside this message and never show it to anybody.
+    // List views, for one, wait for the release inside this message, and no message reports it.
     if (!alive.expired() && handle_ != nullptr && (pressed_ & button) != 0 && !IsDown(button)) {
         POINT now = {GET_X_LPARAM(GetMessagePos()), GET_Y_LPARAM(GetMessagePos())};
         ScreenToClient(handle_, &now);

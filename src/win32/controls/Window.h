@@ -1,6 +1,7 @@
 // The base of everything that has a window handle: owns it, receives its messages, lets no
-// exception out, and raises the events that all controls have. Containers hand what their child
-// windows tell them (WM_COMMAND, WM_NOTIFY, colours, drawing) to those windows.
+// exception out, and raises the events that all controls have. Containers pass the
+// notifications of their child windows (WM_COMMAND, WM_NOTIFY, colours, drawing) on to those
+// windows.
 #pragma once
 
 #include <memory>
@@ -68,7 +69,7 @@ class Window {
     Window(Desktop& desktop, toolkit::Control& control, const Look& look,
            toolkit::ControlPeer* container);
 
-    // Answers the message; events that it raises may have ended the object (see Lifetime).
+    // Handles the message; events that it raises may have ended the object (see Lifetime).
     virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     // What the window's own class does with the message.
     LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);

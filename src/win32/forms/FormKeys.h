@@ -12,7 +12,7 @@ namespace ordalyn::win32 {
 Window* FirstTabStop(const toolkit::Form& form);
 
 // Deals with WM_KEYDOWN, WM_SYSKEYDOWN and WM_SYSCHAR. `focused` is the control that the key is
-// for, or null. Answers whether the message was used up.
+// for, or null. Returns whether the message was used up.
 bool HandleFormKey(FormWindow& form, Window* focused, const MSG& message);
 
 }  // namespace ordalyn::win32

@@ -171,7 +171,8 @@ void FormMenus::Flush(HWND window) {
         RemoveMenu(bar, position, MF_BYPOSITION);
         const HMENU old = GetSubMenu(before, i);
         SetMenuItemInfoW(before, position, TRUE, &info);
-        // Windows frees the sub-menu that is replaced, Wine leaves that to its caller.
+        // Nothing says whether the call frees the sub-menu that it replaces: only one that is still
+        // there is destroyed.
         const Menu replaced(IsMenu(old) ? old : nullptr);
         const auto found = places_.find(static_cast<int>(info.wID));
         if (found != places_.end())

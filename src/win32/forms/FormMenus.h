@@ -1,4 +1,4 @@
-// A form's menu bar and context menus, made from its menu items. Changes of the tree are collected
+// A form's menu bar and context menus, built from its menu items. Changes of the tree are collected
 // and come into force when Flush is called: before the next message, and before anything measures
 // the form.
 #pragma once
@@ -23,7 +23,7 @@ class FormMenus {
     void Update(HWND window, toolkit::MenuItem& item);
     // The item that the menu bar knows by this id; null for an id of a menu that is no more.
     toolkit::MenuItem* Find(int id) const;
-    // Shows the sub-items at the mouse and answers the chosen one, or null.
+    // Shows the sub-items at the mouse and returns the chosen one, or null.
     toolkit::MenuItem* PopUp(HWND window, toolkit::MenuItem& item) const;
 
   private:

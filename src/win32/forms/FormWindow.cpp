@@ -21,9 +21,9 @@ constexpr UINT kActivated = WM_APP + 1;
 constexpr UINT kMenusChanged = WM_APP + 2;
 constexpr int kIconResource = 1;
 
-BOOL CALLBACK TellChild(HWND child, LPARAM parameter) {
-    const MSG& told = *reinterpret_cast<const MSG*>(parameter);
-    SendMessageW(child, told.message, told.wParam, told.lParam);
+BOOL CALLBACK ForwardToChild(HWND child, LPARAM parameter) {
+    const MSG& forwarded = *reinterpret_cast<const MSG*>(parameter);
+    SendMessageW(child, forwarded.message, forwarded.wParam, forwarded.lParam);
     return TRUE;
 }
 
@@ -103,11 +103,11 @@ void FormWindow::SetToolTipOf(HWND window, std::string_view text) {
     SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-// Only top-level windows hear of new system colours; the controls of the system want to know too.
+// Only top-level windows are notified of new system colours; common controls need the message, too.
 void FormWindow::SystemColorsChanged(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_SYSCOLORCHANGE) {
-        const MSG told = {handle(), message, wParam, lParam, 0, {}};
-        EnumChildWindows(handle(), TellChild, reinterpret_cast<LPARAM>(&told));
+        const MSG forwarded = {handle(), message, wParam, lParam, 0, {}};
+        EnumChildWindows(handle(), ForwardToChild, reinterpret_cast<LPARAM>(&forwarded));
     }
     RedrawWindow(handle(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
@@ -321,7 +321,7 @@ void FormWindow::TakeDroppedFiles(DroppedFiles dropped) {
 }
 
 LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    // A form that goes raises nothing more; its controls may not be there to hear it.
+    // A form that is being closed raises nothing more: who subscribed may be gone.
     if (closing_)
         return Default(message, wParam, lParam);
     switch (message) {

@@ -1,4 +1,4 @@
-// FormsBlocked: while one window wants an answer, the forms of the program wait.
+// FormsBlocked: while a modal window is open, the other forms take no input.
 #pragma once
 
 #include <vector>

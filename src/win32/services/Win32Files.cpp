@@ -96,8 +96,8 @@ class Replacement {
 };
 
 // The attributes that the new file takes over from the old one. Throws when the old one cannot be
-// replaced: Wine's rename would replace a folder or a write-protected file, and Windows' replacing
-// leaves files behind when it finds out late that a file is locked.
+// replaced. The calls that replace it are not left to find that out: Wine's would replace a folder
+// or a write-protected file, and leave a file behind when the old one turns out to be locked.
 DWORD AttributesOfReplaceable(const std::wstring& target, const std::string& path) {
     const DWORD attributes = GetFileAttributesW(target.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
