@@ -2,11 +2,12 @@
 # Runs every test of the project, or the kinds that are named, and ends with the count. Benchmarks run
 # only when they are named: a limit that a busy machine misses is no failed test.
 #
-#   ./test.sh [lint] [unit] [wine] [contract] [e2e] [fuzz] [bench]
+#   ./test.sh [lint] [unit] [wine] [clang] [contract] [e2e] [fuzz] [bench]
 #
 #   lint      layout, static analysis, and rules of this code base
 #   unit      unit tests and the in-memory side of the contract suite, with sanitizers
 #   wine      unit tests and the Windows side of the contract suite, as Windows programs
+#   clang     builds the program with the second compiler, then as wine
 #   contract  both sides of the contract suite only
 #   e2e       the real program in a real window
 #   fuzz      every fuzz target for a bounded time
@@ -63,9 +64,12 @@ native_tests() {
         /usr/bin/python3 tools/run_googletest.py native $COUNTS
 }
 
+# windows_tests PRESET FOLDER ...
 windows_tests() {
-    build_tests mingw-x64
-    programs_in "${@/#/build/mingw-x64/tests/}" | grep '\.exe$' |
+    local preset=$1
+    shift
+    build_tests "$preset"
+    programs_in "${@/#/build/$preset/tests/}" | grep '\.exe$' |
         /usr/bin/python3 tools/run_googletest.py wine $COUNTS
 }
 
@@ -77,11 +81,12 @@ kind_lint() {
 }
 
 kind_unit() { native_tests unit support contract; }
-kind_wine() { windows_tests unit contract; }
+kind_wine() { windows_tests mingw-x64 unit contract; }
+kind_clang() { windows_tests mingw-x64-clang unit contract; }
 
 kind_contract() {
     native_tests contract
-    windows_tests contract
+    windows_tests mingw-x64 contract
 }
 
 kind_e2e() {
@@ -132,10 +137,10 @@ bench_real_program() {
     fi
 }
 
-[ $# -gt 0 ] || set -- lint unit wine e2e fuzz
+[ $# -gt 0 ] || set -- lint unit wine clang e2e fuzz
 for kind in "$@"; do
     case $kind in
-        lint | unit | wine | contract | e2e | fuzz | bench) ;;
+        lint | unit | wine | clang | contract | e2e | fuzz | bench) ;;
         *)
             echo "test.sh: no such kind of test: $kind" >&2
             exit 2

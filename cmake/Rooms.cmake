@@ -34,6 +34,13 @@ endfunction()
 # Every build looks at all includes first and names each one that the table does not allow.
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.h ${PROJECT_SOURCE_DIR}/src/*.cpp)
+foreach(source ${sources})
+    cmake_path(GET source PARENT_PATH folder)
+    cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src)
+    if(NOT folder IN_LIST ORDALYN_ROOMS)
+        message(FATAL_ERROR "${source} is in no room: src/${folder} is not in ${ORDALYN_ROOM_TABLE}")
+    endif()
+endforeach()
 set(checker ${PROJECT_SOURCE_DIR}/tools/check_includes.py)
 add_custom_command(
     OUTPUT includes-checked

@@ -8,3 +8,5 @@ set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+# ctest runs its programs under Wine, on a display of their own.
+set(CMAKE_CROSSCOMPILING_EMULATOR /usr/bin/python3 -B ${CMAKE_CURRENT_LIST_DIR}/../tools/run_under_wine.py)

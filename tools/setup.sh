@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing of the packages that a task needs, and says what it installs.
+# Installs what is missing of the packages that a task needs. It first says what it is about to do,
+# and that it uses sudo when it is not run as root.
 #
 #   tools/setup.sh build|run|test ...
 #
@@ -33,6 +34,10 @@ packages_for() {
     esac
 }
 
+# How root's work is announced: " with sudo", which may ask for a password, or nothing.
+with_sudo=
+[ "$(id -u)" -eq 0 ] || with_sudo=" with sudo"
+
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
@@ -48,11 +53,11 @@ install_packages() {
             missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
-    if ! command -v apt-get >/dev/null; then
+    if ! command -v apt-get >/dev/null || { [ -n "$with_sudo" ] && ! command -v sudo >/dev/null; }; then
         echo "Please install: ${missing[*]}" >&2
         exit 1
     fi
-    echo "Installing: ${missing[*]}"
+    echo "Installing$with_sudo (apt-get): ${missing[*]}"
     local log
     log=$(mktemp)
     if ! { as_root apt-get update -q &&
@@ -71,7 +76,7 @@ make_locales() {
         locale -a | grep -qi "^$name\.utf-\?8$" || missing+=("$name")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
-    echo "Making locales: ${missing[*]}"
+    echo "Making locales$with_sudo (localedef): ${missing[*]}"
     for name in "${missing[@]}"; do
         as_root localedef -i "$name" -f UTF-8 "$name.UTF-8"
     done

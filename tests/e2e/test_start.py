@@ -1,6 +1,11 @@
 """Started with a log's path: the log is shown, or the message says why not."""
 
+import re
+import struct
+
 import pytest
+
+from harness.wine import PROJECT
 
 pytestmark = pytest.mark.usefixtures("pointer_inside")
 
@@ -12,6 +17,13 @@ LOG = [
     r"02.03.2024 08:00:09: Copy: Skipped: C:\c.txt",
 ]
 READ_ERROR = "There is an error in file\n{}\nLine: {}"
+
+
+def project_version():
+    """The one place where the version stands."""
+    text = (PROJECT / "CMakeLists.txt").read_text(encoding="utf-8")
+    return tuple(map(int, re.search(r"project\(Ordalyn VERSION (\d+)\.(\d+)\.(\d+) ",
+                                    text).groups()))
 
 
 def refuse(folder, path, line):
@@ -51,8 +63,28 @@ def test_the_panels_hold_no_copies_of_the_rows(show):
 
 def test_the_title_names_the_program_and_the_log(show):
     app = show(LOG, name="my log.log")
-    assert app.main.text.startswith("Ordalyn 1.00 RC 1 - ")
+    major, minor, patch = project_version()
+    assert app.main.text.startswith(f"Ordalyn {major}.{minor}{patch} RC 1 - ")
     assert app.main.log_title == "my log.log"
+
+
+def test_the_about_box_the_version_resource_and_the_manifest_show_the_project_s_version(show, folder):
+    major, minor, patch = project_version()
+    app = show(LOG)
+    app.main.choose("Help", "About...")
+    about = app.window("About")
+    assert f"{major}.{minor}{patch}" in [label.text for label in about.controls("Static")]
+    data = (folder.program / "Ordalyn.exe").read_bytes()
+    # VS_FIXEDFILEINFO: its signature, its own version, then the file's and the product's.
+    fixed = data.index(struct.pack("<2L", 0xFEEF04BD, 0x10000))
+    numbers = struct.unpack_from("<4L", data, fixed + 8)
+    assert numbers == (major << 16 | minor, patch << 16) * 2
+    for name in ("FileVersion", "ProductVersion"):
+        at = data.index(f"{name}\0".encode("utf-16-le")) + 2 * len(name) + 2
+        found = data[at:at + 64].decode("utf-16-le", "replace").lstrip("\0").split("\0")[0]
+        assert (name, found) == (name, f"{major}.{minor}.{patch}")
+    manifest = f'name="Ordalyn" version="{major}.{minor}.{patch}.0"'
+    assert data.count(manifest.encode("ascii")) == 1
 
 
 def test_double_quotes_around_the_path_are_removed(folder):

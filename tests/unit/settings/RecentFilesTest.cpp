@@ -27,8 +27,8 @@ constexpr toolkit::FormDesign kDesign = {.name = "frmMain",
 
 class RecentFiles : public SettingsFixture {
   protected:
-    void SetUp() override { Setup(9); }
-    void Setup(std::int32_t maximum) {
+    void SetUp() override { Begin(9); }
+    void Begin(std::int32_t maximum) {
         recent.Setup(maximum, form, menu, "No Recent Files", "Clear List", "Are you sure?");
     }
     void Read() { recent.ReadList(kOwnFile, "Ordalyn", "RecentFiles"); }
@@ -101,7 +101,7 @@ TEST_F(RecentFiles, EntriesAreNumberedVisibleAndEnabled) {
 
 TEST_F(RecentFiles, FromTheTenthEntryOnTheFirstDigitIsTheAccessKey) {
     recent.RestartClass();
-    Setup(16);
+    Begin(16);
     AddAll("abcdefghijk");
     EXPECT_EQ(Item(10).Caption(), "&10 b");
     EXPECT_EQ(Item(11).Caption(), "&11 a");
@@ -109,7 +109,7 @@ TEST_F(RecentFiles, FromTheTenthEntryOnTheFirstDigitIsTheAccessKey) {
 
 TEST_F(RecentFiles, AnAmpersandOfAPathMarksNoAccessKey) {
     recent.RestartClass();
-    Setup(4);
+    Begin(4);
     recent.AddFile("C:\\R&D\\x&y.log");
     EXPECT_EQ(Item(1).Caption(), "&1 C:\\R&&D\\x&&y.log");
     EXPECT_EQ(recent.ListItems(1), "C:\\R&D\\x&y.log");
@@ -148,7 +148,7 @@ TEST_F(RecentFiles, AfterARestartTheFirstItemStillTellsOnce) {
     int chosen = 0;
     recent.FileChosen.Subscribe([&](std::int32_t) { ++chosen; });
     recent.RestartClass();
-    Setup(2);
+    Begin(2);
     recent.AddFile("a");
     menu.Items().front()->Choose();
     EXPECT_EQ(chosen, 1);
@@ -158,7 +158,7 @@ TEST_F(RecentFiles, AfterARestartTheFirstItemStillTellsOnce) {
 TEST_F(RecentFiles, SetupEmptiesTheList) {
     AddAll("abc");
     recent.RestartClass();
-    Setup(9);
+    Begin(9);
     EXPECT_EQ(List(), "");
 }
 
@@ -168,7 +168,7 @@ TEST_F(RecentFiles, ANumberOutsideTheListThrows) {
     EXPECT_THROW(recent.RemoveFile(0), SubscriptOutOfRange);
     EXPECT_THROW(recent.RemoveFile(10), SubscriptOutOfRange);
     EXPECT_THROW(recent.PutAsFirstItem(0), SubscriptOutOfRange);
-    EXPECT_THROW(Setup(0), InvalidPropertyValue);
+    EXPECT_THROW(Begin(0), InvalidPropertyValue);
 }
 
 TEST_F(RecentFiles, BeforeSetupThereIsNoList) {
@@ -364,7 +364,7 @@ TEST_F(RecentFiles, WhatIsSavedIsReadAgain) {
     recent.AddFile("D:\\Журнал операций.log");
     Save();
     recent.RestartClass();
-    Setup(9);
+    Begin(9);
     Read();
     EXPECT_EQ(List(), "D:\\Журнал операций.log C:\\Ordalyn\\a.log");
 }
@@ -373,7 +373,7 @@ TEST_F(RecentFiles, AShorterListNeitherReadsNorWritesTheRest) {
     AddAll("abcde");
     Save();
     recent.RestartClass();
-    Setup(2);
+    Begin(2);
     Read();
     EXPECT_EQ(List(), "e d");
     recent.AddFile("f");

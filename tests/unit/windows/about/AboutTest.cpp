@@ -1,6 +1,11 @@
 // The about box, help and the version text.
 #include <gmock/gmock.h>
 
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <string>
+
 #include "support/platform/MemoryPlatform.h"
 #include "support/settings/DesignIds.h"
 #include "support/toolkit/MemoryToolkit.h"
@@ -32,6 +37,19 @@ TEST(Version, HasNothingBetweenMinorAndRevision) {
     EXPECT_EQ(GetVersionText("", {1, 2, 3}), "1.23");
     EXPECT_EQ(GetVersionText("", {2, 0, 15}), "2.015");
     EXPECT_EQ(GetVersionText(" RC 1 - ", {1, 2, 3}), "1.23 RC 1 - ");
+}
+
+TEST(Version, IsThatOfTheProject) {
+    std::ifstream file(ORDALYN_SOURCE_DIR "/CMakeLists.txt");
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    std::smatch found;
+    ASSERT_TRUE(std::regex_search(text, found,
+                                  std::regex(R"(project\(Ordalyn VERSION (\d+)\.(\d+)\.(\d+) )")));
+    const VersionNumbers numbers = ProgramVersion();
+    EXPECT_EQ(std::to_string(numbers.major), found[1]);
+    EXPECT_EQ(std::to_string(numbers.minor), found[2]);
+    EXPECT_EQ(std::to_string(numbers.revision), found[3]);
+    EXPECT_EQ(GetVersionText(""), found.str(1) + "." + found.str(2) + found.str(3));
 }
 
 using Help = Dialogs;
