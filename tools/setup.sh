@@ -25,7 +25,7 @@ packages_for() {
             ;;
         test)
             echo python3-pytest python3-pytest-rerunfailures python3-pytest-xdist \
-                locales libbenchmark-dev shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev
+                locales shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev
             ;;
         *)
             echo "setup.sh: no such task: $1" >&2
