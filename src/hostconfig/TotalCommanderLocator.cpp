@@ -1,9 +1,6 @@
 #include "hostconfig/TotalCommanderLocator.h"
 
-#include <utility>
-
 #include "base/Text.h"
-#include "hostconfig/cCommonDialog.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/cRegistry.h"
 #include "hostconfig/mAppCommon.h"
@@ -16,9 +13,6 @@ constexpr std::string_view kRegistryPlaces[] = {
     "HKEY_CURRENT_USER\\Software\\Ghisler\\Total Commander",
     "HKEY_LOCAL_MACHINE\\Software\\Ghisler\\Total Commander",
 };
-constexpr std::string_view kFolderKey = "TCInstallDir";
-constexpr std::string_view kIniKey = "UserDefinedWincmd";
-constexpr std::int32_t kNoSettingsFileText = 3046;
 
 // Whether the text goes on with `part` behind its first `count` characters.
 bool HasBehind(std::string_view text, std::size_t count, std::string_view part) {
@@ -34,7 +28,7 @@ std::string_view WithoutEnclosingQuotes(std::string_view text) {
 
 }  // namespace
 
-TotalCommanderLocator::TotalCommanderLocator(Surroundings around) : around_(std::move(around)) {}
+TotalCommanderLocator::TotalCommanderLocator(const Surroundings& around) : around_(around) {}
 
 std::string TotalCommanderLocator::FindCommanderFolder() {
     std::string folder = SearchFolder();
@@ -118,21 +112,19 @@ std::string TotalCommanderLocator::SearchIni() {
 }
 
 std::string TotalCommanderLocator::AskForIni() {
-    // A program that is ended behind the question has not been answered.
-    const auto ended = [this] { return around_.owner != nullptr && around_.owner->Unloaded(); };
-    around_.toolkit.ShowMessage(around_.owner, around_.text(kNoSettingsFileText),
-                                mAppCommon::kProgramTitle, toolkit::MessageIcon::Exclamation,
-                                toolkit::MessageButtons::Ok);
-    if (ended())
-        return around_.common.NoValueMarker();
-    const platform::WindowHandle owner = around_.owner != nullptr ? around_.owner->Handle() : 0;
-    around_.dialog.ShowOpenDialog(owner, around_.common.CommanderFolder(), "Wincmd.ini",
-                                  cCommonDialog::kSettingsFiles, "", true);
-    if (!around_.dialog.Confirmed)
-        return ended() ? around_.common.NoValueMarker() : MakeFreshIni();
-    const std::string& chosen = around_.dialog.FileName;
-    WriteCommonEntry(kIniKey, around_.common.UnExpandPath(chosen));
-    return around_.common.ExpandPath(chosen);
+    const mAppCommon& common = around_.common;
+    const SettingsFileQuestion::Answer answer =
+        around_.question.AskForSettingsFile(common.CommanderFolder());
+    switch (answer.outcome) {
+        case SettingsFileQuestion::Outcome::Chosen:
+            WriteCommonEntry(kIniKey, common.UnExpandPath(answer.path));
+            return common.ExpandPath(answer.path);
+        case SettingsFileQuestion::Outcome::Cancelled:
+            return MakeFreshIni();
+        case SettingsFileQuestion::Outcome::ProgramEnded:
+            break;
+    }
+    return common.NoValueMarker();
 }
 
 std::string TotalCommanderLocator::MakeFreshIni() {

@@ -4,19 +4,15 @@
 // kept in mAppCommon; what helps the next start is kept in the program's settings file.
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "hostconfig/SettingsFileQuestion.h"
 #include "platform/Platform.h"
-#include "toolkit/Form.h"
-#include "toolkit/Toolkit.h"
 
 namespace ordalyn {
 
-class cCommonDialog;
 class cProfile;
 class cRegistry;
 class mAppCommon;
@@ -27,24 +23,26 @@ class TotalCommanderLocator {
         mAppCommon& common;
         const cRegistry& registry;
         cProfile& profile;
-        cCommonDialog& dialog;
+        SettingsFileQuestion& question;
         platform::Environment& environment;
-        toolkit::Toolkit& toolkit;
-        toolkit::Form* owner;  // of the message and the dialog; null: none
-        std::function<std::string(std::int32_t id)> text;
     };
 
-    explicit TotalCommanderLocator(Surroundings around);
+    // Entries of the common section of the program's settings file: the folder that was found last
+    // and the settings file that the user has chosen.
+    static constexpr std::string_view kFolderKey = "TCInstallDir";
+    static constexpr std::string_view kIniKey = "UserDefinedWincmd";
+
+    explicit TotalCommanderLocator(const Surroundings& around);
 
     // The folder with a trailing backslash, or the marker of absent values. Whether it exists is
     // not looked at. A folder from the environment or the registry is remembered for the next
     // start.
     std::string FindCommanderFolder();
 
-    // The path of the settings file. When it is nowhere to be found the user is told and asked for
-    // it; a user who cancels gets a fresh one in the Windows folder. Shows a message box and a
-    // dialog in that case: whatever events can change may have changed on return. The marker of
-    // absent values when the owner was unloaded meanwhile.
+    // The path of the settings file. When it is nowhere to be found the user is asked for it; a
+    // user who cancels gets a fresh one in the Windows folder. Whatever events can change may have
+    // changed on return in that case. The marker of absent values when the program has ended
+    // meanwhile.
     std::string FindCommanderIni();
 
     // The log of the command line, else the one that the settings file names; as it is, or in the

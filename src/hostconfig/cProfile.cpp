@@ -12,7 +12,6 @@ namespace ordalyn {
 
 namespace {
 
-constexpr std::string_view kExemptSectionsKey = "TCSectionsNotRedirectedByDefault";
 constexpr std::string_view kAlternateKey = "AlternateUserIni";
 constexpr std::string_view kRedirectKey = "RedirectSection";
 // Values of RedirectSection that are no file names.

@@ -22,9 +22,11 @@ namespace ordalyn {
 
 class mAppCommon;
 
-// The section of the file manager's settings that most entries are in, and the one of the program's
-// own settings that tells where to find it.
+// The section of the file manager's settings that most entries are in.
 inline constexpr std::string_view kConfigurationSection = "Configuration";
+// The sections of the program's own settings: one for the window and what it shows, one for paths
+// and limits.
+inline constexpr std::string_view kOrdalynSection = "Ordalyn";
 inline constexpr std::string_view kCommonSection = "Common";
 
 namespace test {
@@ -35,8 +37,9 @@ class cProfile {
   public:
     // In characters, one of which is for the terminating NUL: longer values are cut.
     static constexpr std::size_t kBufferSize = 4096;
-    // Sections that AlternateUserIni does not move, unless the program's settings file has another
-    // list.
+    // The entry of the program's settings file that lists the sections which AlternateUserIni does
+    // not move, and its default.
+    static constexpr std::string_view kExemptSectionsKey = "TCSectionsNotRedirectedByDefault";
     static constexpr std::string_view kDefaultExemptSections =
         "Configuration;Layout;Packer;Confirmation;Extensions;Shortcuts;PackerPlugins;"
         "FileSystemPlugins;ListerPlugins;ContentPlugins";

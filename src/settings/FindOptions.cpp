@@ -9,35 +9,41 @@ namespace ordalyn {
 
 namespace {
 
-std::optional<std::int32_t> NumberIn(const std::vector<std::string>& parts, std::size_t part) {
+std::optional<std::int32_t> NumberAt(const std::vector<std::string>& parts, std::size_t index) {
     std::optional<std::int32_t> number;
-    if (part < parts.size())
-        Attempt([&] { number = ToLong(parts[part]); });
+    if (index < parts.size())
+        Attempt([&] { number = ToLong(parts[index]); });
     return number;
 }
 
-std::optional<std::int32_t> ZeroOrOneIn(const std::vector<std::string>& parts, std::size_t part) {
-    const std::optional<std::int32_t> number = NumberIn(parts, part);
+std::optional<std::int32_t> ZeroOrOneAt(const std::vector<std::string>& parts, std::size_t index) {
+    const std::optional<std::int32_t> number = NumberAt(parts, index);
     return number == 0 || number == 1 ? number : std::nullopt;
 }
 
-std::optional<bool> FlagIn(const std::vector<std::string>& parts, std::size_t part) {
-    const std::optional<std::int32_t> number = ZeroOrOneIn(parts, part);
+std::optional<bool> FlagAt(const std::vector<std::string>& parts, std::size_t index) {
+    const std::optional<std::int32_t> number = ZeroOrOneAt(parts, index);
     return number ? std::optional(*number == 1) : std::nullopt;
+}
+
+template <typename T>
+std::string PartText(const std::optional<T>& value) {
+    return value ? std::to_string(static_cast<std::int32_t>(*value)) : std::string();
 }
 
 }  // namespace
 
-FindOptions ParseFindOptions(std::string_view entry) {
-    const std::vector<std::string> parts = Split(entry, ',');
-    return {NumberIn(parts, 0), ZeroOrOneIn(parts, 1), FlagIn(parts, 2), FlagIn(parts, 3)};
+FindOptions ParseFindOptions(std::string_view text) {
+    const std::vector<std::string> parts = Split(text, ',');
+    return {.historyIndex = NumberAt(parts, 0),
+            .column = ZeroOrOneAt(parts, 1),
+            .wholeWord = FlagAt(parts, 2),
+            .selectedDateOnly = FlagAt(parts, 3)};
 }
 
 std::string FindOptionsText(const FindOptions& options) {
-    return Join({std::to_string(options.historyItem.value_or(-1)),
-                 std::to_string(options.columnNo.value_or(0)),
-                 options.wholeWord.value_or(false) ? "1" : "0",
-                 options.selectedDateOnly.value_or(false) ? "1" : "0"},
+    return Join({PartText(options.historyIndex), PartText(options.column),
+                 PartText(options.wholeWord), PartText(options.selectedDateOnly)},
                 ",");
 }
 

@@ -1,4 +1,4 @@
-// The entry "FindOptions" of the settings file: what the find dialog keeps between runs.
+// FindOptions: what the find dialog keeps from run to run, and its text in the settings file.
 #pragma once
 
 #include <cstdint>
@@ -8,16 +8,20 @@
 
 namespace ordalyn {
 
-// A part of the entry that is missing or no such value is absent here.
+// A part that the stored text lacks, or that is none, has no value.
 struct FindOptions {
-    std::optional<std::int32_t> historyItem;  // -1: none of the earlier texts
-    std::optional<std::int32_t> columnNo;     // 0 or 1
-    std::optional<bool> wholeWord;
-    std::optional<bool> selectedDateOnly;
+    // In the list of earlier texts; -1: none of them.
+    std::optional<std::int32_t> historyIndex = std::nullopt;
+    std::optional<std::int32_t> column = std::nullopt;  // 0 source, 1 target
+    std::optional<bool> wholeWord = std::nullopt;
+    std::optional<bool> selectedDateOnly = std::nullopt;
+
+    bool operator==(const FindOptions&) const = default;
 };
 
-FindOptions ParseFindOptions(std::string_view entry);
-// Absent parts are written as they are when nothing was ever chosen.
+// Four numbers with commas between them.
+FindOptions ParseFindOptions(std::string_view text);
+// A part without a value is empty.
 std::string FindOptionsText(const FindOptions& options);
 
 }  // namespace ordalyn

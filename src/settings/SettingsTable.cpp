@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "base/Errors.h"
-#include "base/Text.h"
+#include "hostconfig/OperationWords.h"
+#include "hostconfig/TotalCommanderLocator.h"
 #include "hostconfig/cProfile.h"
 
 namespace ordalyn {
@@ -57,41 +58,71 @@ constexpr Setting kSettings[] = {
      MainWindow},
 };
 
-constexpr OtherEntry kOtherEntries[] = {
-    {"MainPosition", kOrdalynSection, kMainPlacement,
-     "left, top, width and height of the main window in twips; its last placement when normal",
-     "the main window when it closes"},
-    {"MainWindowState", kOrdalynSection, "0",
-     "state of the main window: 0 normal, 1 minimised (starts normal), 2 maximised",
-     "the main window when it closes"},
-    {"FiltersPosition", kOrdalynSection, kFiltersPlacement,
-     "placement of the filter dialog, like MainPosition", "the filter dialog when it closes"},
-    {"FindOptions", kOrdalynSection, kFindOptionsDefault,
-     "find dialog: place in the list of earlier texts (-1 none), column (0 source, 1 target), "
-     "whole word, selected date only",
-     "the find dialog when it is unloaded"},
-    {"ColumnsWidth", kOrdalynSection, "884,10019,10890", "widths of the three columns in twips",
-     "the main window when it closes"},
-    {"ColumnHeadersPosition", kOrdalynSection, "1,2,3", "places of the three columns",
-     "the main window when it closes"},
-    {"RecentFiles1, RecentFiles2, ...", kOrdalynSection, "",
-     "the log files opened last, latest first", "opening a log, clearing the list"},
-    {"Find1 to Find32", kOrdalynSection, "", "earlier find texts, latest first", "the find dialog"},
-    {"Filter1 to Filter64", kOrdalynSection, "", "earlier filter texts, latest first",
-     "the filter dialog"},
-    {"LoggingID", kOrdalynSection, "",
-     "ids of the operation words in the filter dialog's menu, in their order; \"-\" is a separator",
-     "the filter dialog, its own list when absent"},
-    {"TCSectionsNotRedirectedByDefault", kCommonSection, "",
-     "sections of wincmd.ini that an alternate settings file does not take over",
-     "the program's start, its own list when absent"},
-    {"TCInstallDir", kCommonSection, "", "the file manager's folder as it was found last",
-     "the search for the file manager"},
-    {"UserDefinedWincmd", kCommonSection, "", "the wincmd.ini that the user has chosen",
-     "the search for the file manager"},
-};
+// Entries that the rooms below read and write by keys of their own.
+constexpr OtherEntry kLoggingID = {
+    OperationWords::kLoggingIDKey, kOrdalynSection, "",
+    "ids of the operation words in the filter dialog's menu, in their order; \"-\" is a separator",
+    "the filter dialog, its own list when absent"};
+constexpr OtherEntry kExemptSections = {
+    cProfile::kExemptSectionsKey, kCommonSection, "",
+    "sections of wincmd.ini that an alternate settings file does not take over",
+    "the program's start, its own list when absent"};
+constexpr OtherEntry kCommanderFolder = {TotalCommanderLocator::kFolderKey, kCommonSection, "",
+                                         "the file manager's folder as it was found last",
+                                         "the search for the file manager"};
+constexpr OtherEntry kCommanderIni = {TotalCommanderLocator::kIniKey, kCommonSection, "",
+                                      "the wincmd.ini that the user has chosen",
+                                      "the search for the file manager"};
+
+// "frmMain" keeps its placement under "Main".
+const OtherEntry& EntryOfForm(std::string_view formName, std::string_view what) {
+    const std::string key =
+        std::string(formName.substr(std::min<std::size_t>(3, formName.size()))).append(what);
+    for (const OtherEntry* other : OtherEntries()) {
+        if (other->key == key)
+            return *other;
+    }
+    throw SubscriptOutOfRange();
+}
 
 }  // namespace
+
+namespace entry {
+
+constexpr OtherEntry MainPosition = {
+    "MainPosition", kOrdalynSection, "0,0,12030,8520",
+    "left, top, width and height of the main window in twips; its last placement when normal",
+    "the main window when it closes"};
+constexpr OtherEntry MainWindowState = {
+    "MainWindowState", kOrdalynSection, "0",
+    "state of the main window: 0 normal, 1 minimised (starts normal), 2 maximised",
+    "the main window when it closes"};
+constexpr OtherEntry FiltersPosition = {"FiltersPosition", kOrdalynSection, "3495,7740,8910,795",
+                                        "placement of the filter dialog, like MainPosition",
+                                        "the filter dialog when it closes"};
+constexpr OtherEntry FindOptions = {
+    "FindOptions", kOrdalynSection, "0,0,0,0",
+    "find dialog: place in the list of earlier texts (-1 none), column (0 source, 1 target), whole "
+    "word, selected date only",
+    "the find dialog when it is unloaded"};
+constexpr OtherEntry ColumnsWidth = {"ColumnsWidth", kOrdalynSection, "884,10019,10890",
+                                     "widths of the three columns in twips",
+                                     "the main window when it closes"};
+constexpr OtherEntry ColumnHeadersPosition = {"ColumnHeadersPosition", kOrdalynSection, "1,2,3",
+                                              "places of the three columns",
+                                              "the main window when it closes"};
+constexpr OtherEntry RecentFiles = {"RecentFiles",
+                                    kOrdalynSection,
+                                    "",
+                                    "the log files opened last, latest first",
+                                    "opening a log, clearing the list",
+                                    kAsManyAsSet};
+constexpr OtherEntry FindTexts = {
+    "Find", kOrdalynSection, "", "earlier find texts, latest first", "the find dialog", 32};
+constexpr OtherEntry FilterTexts = {
+    "Filter", kOrdalynSection, "", "earlier filter texts, latest first", "the filter dialog", 64};
+
+}  // namespace entry
 
 std::string Setting::Written(const SettingsValues& values) const {
     if (const auto* text = std::get_if<std::string SettingsValues::*>(&place))
@@ -106,17 +137,27 @@ std::span<const Setting> AllSettings() {
     return kSettings;
 }
 
-const Setting& SettingByKey(std::string_view key) {
-    const auto* found =
-        std::find_if(std::begin(kSettings), std::end(kSettings),
-                     [&](const Setting& setting) { return EqualsIgnoreCase(setting.key, key); });
-    if (found == std::end(kSettings))
-        throw SubscriptOutOfRange();
-    return *found;
+const Setting& SettingOf(Setting::Place place) {
+    return *std::find_if(std::begin(kSettings), std::end(kSettings),
+                         [&](const Setting& setting) { return setting.place == place; });
 }
 
-std::span<const OtherEntry> OtherEntries() {
-    return kOtherEntries;
+std::span<const OtherEntry* const> OtherEntries() {
+    static const OtherEntry* const all[] = {
+        &entry::MainPosition, &entry::MainWindowState, &entry::FiltersPosition,
+        &entry::FindOptions,  &entry::ColumnsWidth,    &entry::ColumnHeadersPosition,
+        &entry::RecentFiles,  &entry::FindTexts,       &entry::FilterTexts,
+        &kLoggingID,          &kExemptSections,        &kCommanderFolder,
+        &kCommanderIni};
+    return all;
+}
+
+const OtherEntry& PlacementEntry(std::string_view formName) {
+    return EntryOfForm(formName, "Position");
+}
+
+const OtherEntry& WindowStateEntry(std::string_view formName) {
+    return EntryOfForm(formName, "WindowState");
 }
 
 }  // namespace ordalyn

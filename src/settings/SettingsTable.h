@@ -12,9 +12,6 @@
 
 namespace ordalyn {
 
-// The section of window and display settings; paths and limits are in kCommonSection.
-inline constexpr std::string_view kOrdalynSection = "Ordalyn";
-
 // The values that the program works with. They hold the table's defaults until they are loaded.
 // Flags: 0 is off, any other value is on.
 struct SettingsValues {
@@ -84,23 +81,34 @@ struct Setting {
 // All settings, in the order in which they are loaded and saved.
 std::span<const Setting> AllSettings();
 
-// Throws SubscriptOutOfRange for a key (letter case ignored) that is not in the table.
-const Setting& SettingByKey(std::string_view key);
+// The setting of a value: SettingOf(&SettingsValues::TwoPanels).
+const Setting& SettingOf(Setting::Place place);
 
-// Defaults of the keys that are not single values.
-inline constexpr std::string_view kMainPlacement = "0,0,12030,8520";
-inline constexpr std::string_view kFiltersPlacement = "3495,7740,8910,795";
-inline constexpr std::string_view kFindOptionsDefault = "0,0,0,0";
-
-// What else the settings file holds: keys that other parts of the program read and write
-// themselves. Kept here so that the page about the file is complete.
+// What else the settings file holds: entries that are no single values. Those who own them read and
+// write them by these rows.
 struct OtherEntry {
-    std::string_view key;
+    std::string_view key;  // for numbered entries what stands before the number
     std::string_view section;
-    std::string_view fallback;  // empty: absent
+    std::string_view fallback;  // empty: absent, or the owner has its own
     std::string_view meaning;
     std::string_view writer;
+    // For numbered entries, which begin at 1, the largest number. kAsManyAsSet: a setting says it.
+    std::int32_t numbers = 0;
 };
-std::span<const OtherEntry> OtherEntries();
+inline constexpr std::int32_t kAsManyAsSet = -1;
+
+namespace entry {
+extern const OtherEntry MainPosition, MainWindowState, FiltersPosition, FindOptions, ColumnsWidth,
+    ColumnHeadersPosition, RecentFiles, FindTexts, FilterTexts;
+}
+
+// All of them, those that the rooms below own included, for the page about the settings file.
+std::span<const OtherEntry* const> OtherEntries();
+
+// The placement and state entries of a form, by the form's name without its first three letters:
+// "frmMain" has "MainPosition" and "MainWindowState". Throws SubscriptOutOfRange for a form
+// without.
+const OtherEntry& PlacementEntry(std::string_view formName);
+const OtherEntry& WindowStateEntry(std::string_view formName);
 
 }  // namespace ordalyn

@@ -4,7 +4,6 @@
 #include "base/Text.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/mAppCommon.h"
-#include "settings/InterfaceStrings.h"
 
 namespace ordalyn {
 
@@ -12,10 +11,6 @@ namespace {
 
 constexpr std::size_t kWholePathLength = 48;
 constexpr std::size_t kEndLength = 16;
-
-constexpr std::int32_t kNoFilesId = 108;
-constexpr std::int32_t kClearId = 109;
-constexpr std::int32_t kWarningId = 3009;
 
 std::string Key(std::string_view prefix, std::int32_t index) {
     return std::string(prefix) + std::to_string(index);
@@ -31,47 +26,12 @@ std::string End(std::string_view part) {
 
 }  // namespace
 
-cRecentFiles::cRecentFiles(cProfile& profile, const mAppCommon& common,
-                           const InterfaceStrings& strings)
-    : profile_(profile), common_(common), strings_(strings), files_(1) {}
-
-void cRecentFiles::Setup(std::int32_t lngMaxFiles, toolkit::Form& form, toolkit::MenuItem& objMenu,
-                         std::string_view strNoFilesText, std::string_view strClearText,
-                         std::string_view strWarningMsg) {
+void cRecentFiles::Setup(std::int32_t lngMaxFiles) {
     if (lngMaxFiles < 1)
         throw InvalidPropertyValue("number of recent files");
-    if (objMenu.Items().empty())
-        throw SubscriptOutOfRange();
-    form_ = &form;
-    menu_ = &objMenu;
     maximum_ = lngMaxFiles;
-    noFilesText_ = strNoFilesText;
-    clearText_ = strClearText;
-    warningText_ = strWarningMsg;
     files_.assign(static_cast<std::size_t>(maximum_) + 1, {});
     EmptyAllEntries();
-
-    toolkit::MenuItem& first = *objMenu.Items().front();
-    // The design's item outlives RestartClass: listening once more would open a file twice.
-    if (watchedItem_ != &first) {
-        watchedItem_ = &first;
-        first.Click.Subscribe([this] { FileChosen.Raise(1); });
-    }
-    for (std::int32_t number = 2; number <= maximum_; ++number)
-        objMenu.AddItem(first.Name(), "").Click.Subscribe([this, number] {
-            FileChosen.Raise(number);
-        });
-    objMenu.AddItem(first.Name(), "-");
-    objMenu.AddItem(first.Name(), clearText_).Click.Subscribe([this] { ClearChosen.Raise(); });
-}
-
-void cRecentFiles::RestartClass() {
-    if (menu_ == nullptr)
-        return;
-    while (menu_->Items().size() > 1)
-        menu_->RemoveLastItem();
-    menu_->Items().front()->SetEnabled(true);
-    menu_ = nullptr;
 }
 
 void cRecentFiles::ReadList(std::string_view strFileName, std::string_view strSection,
@@ -82,7 +42,7 @@ void cRecentFiles::ReadList(std::string_view strFileName, std::string_view strSe
                                                      common_.NoValueMarker(), strFileName,
                                                      cProfile::kBufferSize)
                                           .value_or(std::string()));
-    RefreshMenu();
+    ReportChange();
 }
 
 void cRecentFiles::SaveList(std::string_view strFileName, std::string_view strSection,
@@ -103,9 +63,7 @@ void cRecentFiles::AddFile(std::string_view strFileName) {
         Entry(i) = Entry(i - 1);
     if (maximum_ >= 1)
         Entry(1) = path;
-    RefreshMenu();
-    if (menu_ != nullptr)
-        ClearItem().SetEnabled(true);
+    ReportChange();
 }
 
 void cRecentFiles::RemoveFile(std::int32_t lngIndex, bool blnAutoRefresh) {
@@ -114,7 +72,7 @@ void cRecentFiles::RemoveFile(std::int32_t lngIndex, bool blnAutoRefresh) {
         Entry(i) = Entry(i + 1);
     Entry(maximum_) = common_.NoValueMarker();
     if (blnAutoRefresh)
-        RefreshMenu();
+        ReportChange();
 }
 
 void cRecentFiles::PutAsFirstItem(std::int32_t lngIndex) {
@@ -124,17 +82,9 @@ void cRecentFiles::PutAsFirstItem(std::int32_t lngIndex) {
     AddFile(path);
 }
 
-bool cRecentFiles::Clear() {
-    if (form_ == nullptr)
-        return false;
-    const toolkit::Answer answer = form_->toolkit().ShowMessage(
-        form_, warningText_, mAppCommon::kProgramTitle, toolkit::MessageIcon::Question,
-        toolkit::MessageButtons::YesNo, toolkit::Answer::No);
-    if (answer == toolkit::Answer::No)
-        return false;
+void cRecentFiles::RemoveAllFiles() {
     EmptyAllEntries();
-    RefreshMenu();
-    return true;
+    ReportChange();
 }
 
 const std::string& cRecentFiles::ListItems(std::int32_t lngIndex) const {
@@ -143,20 +93,14 @@ const std::string& cRecentFiles::ListItems(std::int32_t lngIndex) const {
     return files_[static_cast<std::size_t>(lngIndex)];
 }
 
-void cRecentFiles::ChangeLanguage() {
-    noFilesText_ = strings_.GetInterfaceString(kNoFilesId);
-    clearText_ = strings_.GetInterfaceString(kClearId);
-    warningText_ = strings_.GetInterfaceString(kWarningId);
-    RefreshMenu();
+bool cRecentFiles::Occupied(std::int32_t lngIndex) const {
+    RequireEntry(lngIndex);
+    return !common_.IsNoValue(ListItems(lngIndex));
 }
 
 void cRecentFiles::RequireEntry(std::int32_t index) const {
     if (index < 1 || index > maximum_)
         throw SubscriptOutOfRange();
-}
-
-bool cRecentFiles::Occupied(std::int32_t index) const {
-    return !EqualsIgnoreCase(files_[static_cast<std::size_t>(index)], common_.NoValueMarker());
 }
 
 std::int32_t cRecentFiles::IndexOf(std::string_view path) const {
@@ -172,34 +116,9 @@ void cRecentFiles::EmptyAllEntries() {
         Entry(i) = common_.NoValueMarker();
 }
 
-toolkit::MenuItem& cRecentFiles::Item(std::int32_t number) const {
-    return *menu_->Items().at(static_cast<std::size_t>(number - 1));
-}
-
-void cRecentFiles::RefreshMenu() {
-    if (menu_ == nullptr)
-        return;
-    for (std::int32_t i = 1; i <= maximum_; ++i) {
-        toolkit::MenuItem& item = Item(i);
-        const bool occupied = Occupied(i);
-        if (occupied)
-            item.SetCaption("&" + std::to_string(i) + " " +
-                            toolkit::CaptionShowing(CompactPath(Entry(i))));
-        item.SetVisible(occupied);
-        item.SetEnabled(occupied);
-    }
-    SeparatorItem().SetCaption("-");
-    ClearItem().SetCaption(clearText_);
-    if (!Occupied(1))
-        ShowEmptyList();
-}
-
-void cRecentFiles::ShowEmptyList() {
-    toolkit::MenuItem& first = Item(1);
-    first.SetCaption(noFilesText_);
-    first.SetVisible(true);
-    first.SetEnabled(false);
-    ClearItem().SetEnabled(false);
+void cRecentFiles::ReportChange() const {
+    if (changed_)
+        changed_();
 }
 
 std::string cRecentFiles::CompactPath(std::string_view path) {

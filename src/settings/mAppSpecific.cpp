@@ -1,45 +1,12 @@
 #include "settings/mAppSpecific.h"
 
 #include <algorithm>
-#include <vector>
 
-#include "base/Attempt.h"
-#include "base/CheckedMath.h"
 #include "base/Text.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/mAppCommon.h"
 
 namespace ordalyn {
-
-namespace {
-
-using toolkit::WindowState;
-
-// "frmMain" keeps its placement under "Main".
-std::string PlacementPrefix(const toolkit::Form& form) {
-    return form.Name().substr(std::min<std::size_t>(3, form.Name().size()));
-}
-
-// A number of a placement. Beyond 32 bits there is no place for a window: throws Overflow.
-toolkit::Twips PlacementNumber(const std::vector<std::string>& parts, std::size_t part) {
-    const double number = part < parts.size() ? LeadingNumber(parts[part]) : 0.0;
-    static_cast<void>(RoundToLong(number));
-    return static_cast<toolkit::Twips>(number);
-}
-
-WindowState StateToStartIn(double stored) {
-    switch (RoundToLong(stored)) {
-        case 0:
-        case 1:  // never minimised
-            return WindowState::Normal;
-        case 2:
-            return WindowState::Maximised;
-        default:
-            throw InvalidPropertyValue("window state");
-    }
-}
-
-}  // namespace
 
 mAppSpecific::mAppSpecific(cProfile& profile, mAppCommon& common)
     : profile_(profile), common_(common) {
@@ -47,14 +14,13 @@ mAppSpecific::mAppSpecific(cProfile& profile, mAppCommon& common)
         Take(setting, setting.fallback != nullptr ? setting.fallback : common_.NoValueMarker());
 }
 
-std::string mAppSpecific::ReadEntry(std::string_view section, std::string_view key,
-                                    std::string_view fallback) const {
+std::string mAppSpecific::Read(std::string_view section, std::string_view key,
+                               std::string_view fallback) const {
     return profile_.ReadValue(section, key, fallback, common_.SettingsFile(), cProfile::kBufferSize)
         .value_or(std::string());
 }
 
-void mAppSpecific::WriteEntry(std::string_view section, std::string_view key,
-                              std::string_view value) {
+void mAppSpecific::Write(std::string_view section, std::string_view key, std::string_view value) {
     profile_.WriteValue(section, key, value, common_.SettingsFile());
 }
 
@@ -70,9 +36,8 @@ void mAppSpecific::Take(const Setting& setting, std::string_view text) {
 }
 
 void mAppSpecific::Load(const Setting& setting) {
-    Take(setting,
-         ReadEntry(setting.section, setting.key,
-                   setting.fallback != nullptr ? setting.fallback : common_.NoValueMarker()));
+    Take(setting, Read(setting.section, setting.key,
+                       setting.fallback != nullptr ? setting.fallback : common_.NoValueMarker()));
     // The path helpers lie below the settings and are told what they may do.
     common_.SetUnExpandPaths(UnExpandPaths);
 }
@@ -84,72 +49,32 @@ void mAppSpecific::LoadSettings() {
 
 void mAppSpecific::Save(const Setting& setting) {
     const std::string written = setting.Written(*this);
-    WriteEntry(setting.section, setting.key,
-               setting.type == SettingType::Path ? common_.UnExpandPath(written) : written);
+    Write(setting.section, setting.key,
+          setting.type == SettingType::Path ? common_.UnExpandPath(written) : written);
 }
 
-void mAppSpecific::SaveSettings() {
+void mAppSpecific::SaveAllOf(SettingWriter writer) {
     for (const Setting& setting : AllSettings()) {
-        if (setting.writer == SettingWriter::Options)
+        if (setting.writer == writer)
             Save(setting);
     }
 }
 
-void mAppSpecific::SaveSetting(std::string_view key) {
-    Save(SettingByKey(key));
+void mAppSpecific::GiveUpLanguageFile() {
+    UseDefaultLanguage = 1;
+    SaveSetting(&SettingsValues::UseDefaultLanguage);
 }
 
-void mAppSpecific::RestoreWindowPosition(toolkit::Form& form, bool restoreState,
-                                         std::string_view defaultPlacement) {
-    const std::string prefix = PlacementPrefix(form);
-    Attempt([&] {
-        const std::vector<std::string> parts =
-            Split(ReadEntry(kOrdalynSection, prefix + "Position", defaultPlacement), ',');
-        form.Move({PlacementNumber(parts, 0), PlacementNumber(parts, 1), PlacementNumber(parts, 2),
-                   PlacementNumber(parts, 3)});
-    });
-    if (!restoreState)
-        return;
-    Attempt([&] {
-        form.SetState(
-            StateToStartIn(LeadingNumber(ReadEntry(kOrdalynSection, prefix + "WindowState", "0"))));
-    });
+std::string mAppSpecific::ReadEntry(const OtherEntry& entry) const {
+    return Read(entry.section, entry.key, entry.fallback);
 }
 
-void mAppSpecific::SaveWindowPosition(const toolkit::Form& form, bool saveState) {
-    const std::string prefix = PlacementPrefix(form);
-    const WindowState state = form.State();
-    if (state == WindowState::Normal) {
-        std::vector<std::string> parts;
-        for (const toolkit::Twips value : {form.Left(), form.Top(), form.Width(), form.Height()})
-            parts.push_back(std::to_string(TruncateToLong(double{value})));
-        WriteEntry(kOrdalynSection, prefix + "Position", Join(parts, ","));
-    }
-    if (saveState)
-        WriteEntry(kOrdalynSection, prefix + "WindowState",
-                   std::to_string(static_cast<int>(state)));
-}
-
-FindOptions mAppSpecific::LoadFindOptions() const {
-    return ParseFindOptions(ReadEntry(kOrdalynSection, "FindOptions", kFindOptionsDefault));
+void mAppSpecific::WriteEntry(const OtherEntry& entry, std::string_view value) {
+    Write(entry.section, entry.key, value);
 }
 
 void mAppSpecific::SaveFindOptions(const FindOptions& options) {
-    WriteEntry(kOrdalynSection, "FindOptions", FindOptionsText(options));
-}
-
-void mAppSpecific::ApplyFont(toolkit::Control& control, bool useSettings, double size) const {
-    toolkit::Font font;
-    font.name = FontName;
-    font.characterSet = FontScript;
-    font.size = useSettings ? static_cast<double>(FontSize) : size;
-    if (useSettings) {
-        font.bold = (FontStyle & kFontBold) != 0;
-        font.italic = (FontStyle & kFontItalic) != 0;
-        font.strikethrough = (FontStyle & kFontStrikethrough) != 0;
-        font.underline = (FontStyle & kFontUnderline) != 0;
-    }
-    Attempt([&] { control.SetFont(font); });
+    WriteEntry(entry::FindOptions, FindOptionsText(options));
 }
 
 }  // namespace ordalyn

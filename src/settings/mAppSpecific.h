@@ -8,7 +8,6 @@
 
 #include "settings/FindOptions.h"
 #include "settings/SettingsTable.h"
-#include "toolkit/Form.h"
 
 namespace ordalyn {
 
@@ -22,7 +21,9 @@ class mAppSpecific : public SettingsValues {
   public:
     mAppSpecific(cProfile& profile, mAppCommon& common);
 
-    // Lives as long as the program runs and is not stored:
+    // Values that live as long as the program runs and are not stored.
+    std::string FilterText;        // what rows are tested against; empty: no filter
+    std::int32_t ColumnNo = 0;     // the find dialog's column: 0 source, 1 target
     std::int32_t OptionsPage = 0;  // the options dialog's page that was seen last, 0-based
 
     // Reads every setting, in the table's order. A missing file or entry gives the default, an
@@ -32,37 +33,27 @@ class mAppSpecific : public SettingsValues {
     void LoadSettings();
     // Writes what the options dialog can change. A language file that was never chosen is not
     // written.
-    void SaveSettings();
-    // Writes a single setting, for those that others keep up to date. Throws SubscriptOutOfRange
-    // for a key that the settings table does not have.
-    void SaveSetting(std::string_view key);
+    void SaveSettings() { SaveAllOf(SettingWriter::Options); }
+    // Writes the settings that one writer keeps up to date, in the table's order.
+    void SaveAllOf(SettingWriter writer);
+    // Writes a single setting: SaveSetting(&SettingsValues::TwoPanels).
+    void SaveSetting(Setting::Place place) { Save(SettingOf(place)); }
 
-    // Places the form as its entry "...Position" says (the form's name without its first three
-    // letters, then "Position": left, top, width, height in twips). Parts that are missing or no
-    // numbers count as 0; nothing is corrected when the placement is off the screen. A placement
-    // that the form refuses (a negative size) leaves it where it is. With restoreState, sets its
-    // state from "...WindowState"; a stored "minimised" becomes normal, so that the program never
-    // starts minimised.
-    void RestoreWindowPosition(toolkit::Form& form, bool restoreState,
-                               std::string_view defaultPlacement);
-    // Writes what RestoreWindowPosition reads. The placement is written for a form in its normal
-    // state only: otherwise the file keeps the last normal one.
-    void SaveWindowPosition(const toolkit::Form& form, bool saveState);
+    // Switches to the built-in language for good.
+    void GiveUpLanguageFile();
 
-    // What the find dialog keeps between runs.
-    FindOptions LoadFindOptions() const;
+    // An entry of the settings file that is no single value. Reading gives the entry's default when
+    // it is absent, and an empty text when it is empty.
+    std::string ReadEntry(const OtherEntry& entry) const;
+    void WriteEntry(const OtherEntry& entry, std::string_view value);
+
+    FindOptions LoadFindOptions() const { return ParseFindOptions(ReadEntry(entry::FindOptions)); }
     void SaveFindOptions(const FindOptions& options);
 
-    // Gives the control a new font of the chosen face and character set. With useSettings, size and
-    // style are the chosen ones too and `size` is not looked at; otherwise it has `size` points and
-    // is plain. A control that refuses the font keeps its own.
-    void ApplyFont(toolkit::Control& control, bool useSettings, double size) const;
-
   private:
-    // The entry of the own settings file; empty when it is empty.
-    std::string ReadEntry(std::string_view section, std::string_view key,
-                          std::string_view fallback) const;
-    void WriteEntry(std::string_view section, std::string_view key, std::string_view value);
+    std::string Read(std::string_view section, std::string_view key,
+                     std::string_view fallback) const;
+    void Write(std::string_view section, std::string_view key, std::string_view value);
     void Load(const Setting& setting);
     void Save(const Setting& setting);
     void Take(const Setting& setting, std::string_view text);

@@ -1,10 +1,9 @@
 // Help opens the help file.
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <string>
 
+#include "base/TextSource.h"
 #include "platform/Platform.h"
 #include "toolkit/Form.h"
 
@@ -17,7 +16,7 @@ struct HelpSurroundings {
     std::string programFolder;  // with a trailing backslash
     bool useDefaultLanguage;
     std::string languageFile;
-    std::function<std::string(std::int32_t)> text;
+    TextSource text;
 };
 
 // The path of the help file for the interface language: "Readme <language file's name>.chm" in the

@@ -42,6 +42,18 @@ void FormLanguage::CopyMenuCaptionsToTags(const toolkit::Form& form) {
 void FormLanguage::ApplyLanguage(toolkit::Form& form) {
     // A form that is being loaded is not on the screen yet and cannot own the box.
     CheckLanguageFile(form.toolkit(), form.Visible() ? &form : nullptr);
+    ShowTexts(form);
+}
+
+void FormLanguage::CheckLanguageFile(toolkit::Toolkit& toolkit, toolkit::Form* owner) {
+    if (!strings_.LanguageFileMissing())
+        return;
+    toolkit.ShowMessage(owner, kMissingLanguageFile, mAppCommon::kProgramTitle,
+                        toolkit::MessageIcon::Critical);
+    settings_.GiveUpLanguageFile();
+}
+
+void FormLanguage::ShowTexts(toolkit::Form& form) const {
     bool rightToLeft = false;
     Attempt([&] { rightToLeft = strings_.RightToLeftLanguage(); });
     Attempt([&] { form.SetRightToLeft(rightToLeft); });
@@ -51,15 +63,6 @@ void FormLanguage::ApplyLanguage(toolkit::Form& form) {
         ApplyToControl(*control, rightToLeft);
     for (toolkit::MenuItem* item : form.AllMenuItems())
         Attempt([&] { ApplyToMenuItem(*item); });
-}
-
-void FormLanguage::CheckLanguageFile(toolkit::Toolkit& toolkit, toolkit::Form* owner) {
-    if (!strings_.LanguageFileMissing())
-        return;
-    toolkit.ShowMessage(owner, kMissingLanguageFile, mAppCommon::kProgramTitle,
-                        toolkit::MessageIcon::Critical);
-    settings_.UseDefaultLanguage = 1;
-    settings_.SaveSetting("UseDefaultLanguage");
 }
 
 void FormLanguage::ApplyToControl(toolkit::Control& control, bool rightToLeft) const {

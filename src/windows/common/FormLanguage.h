@@ -21,18 +21,19 @@ class FormLanguage {
     // first ApplyLanguage.
     static void CopyMenuCaptionsToTags(const toolkit::Form& form);
 
-    // Gives the form, its controls and its menu items their texts, reading order and the character
-    // set of the chosen font. A step that fails (a tag that is no number) is left out; the others
-    // are still made. Controls without an id keep their captions, separators are left alone, tool
-    // bar buttons get tool tips.
-    //
-    // Checks the language file first.
+    // Both steps below: the form is shown in the language of the settings, or in the built-in one
+    // when the language file is missing.
     void ApplyLanguage(toolkit::Form& form);
 
     // When the language file is missing, says so in a message box and switches to the built-in
     // language for good. Without an owner the box belongs to the active window. Messages are
     // handled while it is open.
     void CheckLanguageFile(toolkit::Toolkit& toolkit, toolkit::Form* owner);
+    // Gives the form, its controls and its menu items their texts, reading order and the character
+    // set of the chosen font. A step that fails (a tag that is no number) is left out; the others
+    // are still made. Controls without an id keep their captions, separators are left alone, tool
+    // bar buttons get tool tips. Shows no message and changes no setting.
+    void ShowTexts(toolkit::Form& form) const;
 
   private:
     void ApplyToControl(toolkit::Control& control, bool rightToLeft) const;

@@ -1,12 +1,12 @@
 // InputHistory: what was typed into a box of a dialog before, kept in the program's settings file
-// from run to run. In memory a history is the list of its combo box, newest first; in the file it
-// is the entries <key>1 (newest), <key>2, ... of the section "Ordalyn".
+// from run to run. In memory a history is the list of its combo box, newest first.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "settings/TextHistory.h"
 #include "toolkit/Form.h"
 
 namespace ordalyn {
@@ -18,10 +18,12 @@ class InterfaceStrings;
 class InputHistory {
   public:
     InputHistory(cProfile& profile, const mAppCommon& common, const InterfaceStrings& strings)
-        : profile_(profile), common_(common), strings_(strings) {}
+        : history_(profile, common), strings_(strings) {}
 
-    // What the settings file holds, newest first. Numbers that are missing are passed over.
-    std::vector<std::string> Texts(std::string_view strKey, int intMax) const;
+    // What the settings file holds, newest first.
+    std::vector<std::string> Texts(std::string_view strKey, int intMax) const {
+        return history_.Read(strKey, intMax);
+    }
     // Appends that to the box's list and empties the box.
     void LoadHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax);
     // Puts the box's text on top of its list and writes the whole list at once, so that it survives
@@ -35,10 +37,7 @@ class InputHistory {
                       toolkit::Form& owner);
 
   private:
-    static std::string EntryName(std::string_view key, int number);
-
-    cProfile& profile_;
-    const mAppCommon& common_;
+    TextHistory history_;
     const InterfaceStrings& strings_;
 };
 

@@ -20,7 +20,7 @@ SharedObjects::SharedObjects(const platform::Services& allServices, toolkit::Too
     strings = std::make_unique<InterfaceStrings>(*settings, common, *profile, services.codePages,
                                                  *defaultStrings);
     language = std::make_unique<FormLanguage>(*settings, *strings);
-    recentFiles = std::make_unique<cRecentFiles>(*profile, common, *strings);
+    recentFiles = std::make_unique<cRecentFiles>(*profile, common);
     Attempt([this] { settings->LoadSettings(); });
 }
 
@@ -35,12 +35,12 @@ void SharedObjects::Release() {
     defaultStrings.reset();
 }
 
-TextById SharedObjects::TextSource() {
+TextSource SharedObjects::Texts() {
     return [this](std::int32_t id) { return Text(id); };
 }
 
-Texts SharedObjects::FormTexts() {
-    return {TextSource(), [this](toolkit::Form& form) { language->ApplyLanguage(form); }};
+ordalyn::Texts SharedObjects::FormTexts() {
+    return {Texts(), [this](toolkit::Form& form) { language->ApplyLanguage(form); }};
 }
 
 }  // namespace ordalyn

@@ -4,7 +4,6 @@
 
 #include <memory>
 
-#include "hostconfig/cCommonDialog.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/cRegistry.h"
 #include "hostconfig/mAppCommon.h"
@@ -16,6 +15,7 @@
 #include "toolkit/Toolkit.h"
 #include "windows/common/FormLanguage.h"
 #include "windows/common/Texts.h"
+#include "windows/dialogs/cCommonDialog.h"
 
 namespace ordalyn {
 
@@ -37,8 +37,8 @@ class SharedObjects {
     // Releases the objects in the order of shutting down. No form may be left that uses them.
     void Release();
 
-    Texts FormTexts();
-    TextById TextSource();
+    ordalyn::Texts FormTexts();
+    TextSource Texts();
     std::string Text(std::int32_t id) const { return strings->GetInterfaceString(id); }
 
     const platform::Services services;

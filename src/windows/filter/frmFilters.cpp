@@ -4,8 +4,11 @@
 #include <cmath>
 #include <string>
 
+#include "base/Attempt.h"
 #include "base/Text.h"
 #include "settings/SettingsTable.h"
+#include "windows/common/ControlFont.h"
+#include "windows/common/WindowPlacement.h"
 
 namespace ordalyn {
 
@@ -14,8 +17,6 @@ using toolkit::Twips;
 
 namespace {
 
-constexpr std::string_view kHistoryKey = "Filter";
-constexpr int kHistoryLength = 64;
 constexpr std::int32_t kSourceText = 4001, kTargetText = 4002, kContainsText = 4033,
                        kDoesNotContainText = 4034, kApplyFilterText = 4035, kClearListText = 109;
 // Buttons of Toolbar1. The one between them only keeps them apart.
@@ -67,15 +68,15 @@ frmFilters::frmFilters(toolkit::Toolkit& toolkit, const Surroundings& around)
       cboSource(Get<toolkit::ComboBox>("cboSource")),
       Toolbar1(Get<toolkit::ToolBar>("Toolbar1")),
       cmdCancel(Get<toolkit::CommandButton>("cmdCancel")),
-      keywords_(around.keywords, Toolbar1, kApplyButton) {
+      keywords_(around.keywords) {
     Toolbar1.AddButton("", "apply-filter", true);
     Toolbar1.AddButton("", "separator", false);
     Toolbar1.AddButton("", "remove-filter", true);
     Toolbar1.AddMenuEntry(kRemoveButton, kClearKey, "");
     for (toolkit::ComboBox* box : {&cboContains, &cboSource})
         box->AddItems({"", ""});  // LoadInterface has their texts
-    around_.history.LoadHistory(cboFilter, kHistoryKey, kHistoryLength);
-    around_.settings.RestoreWindowPosition(*this, false, kFiltersPlacement);
+    around_.history.LoadHistory(cboFilter, entry::FilterTexts.key, entry::FilterTexts.numbers);
+    RestoreWindowPosition(around_.settings, *this, false);
     if (Width() < kLeastWidth)
         SetWidth(kLeastWidth);
     WireControls();
@@ -118,7 +119,7 @@ void frmFilters::WireControls() {
         if (activated_)
             return;
         activated_ = true;
-        keywords_.LoadOperationKeywords();
+        FillOperationMenu(keywords_.LoadOperationKeywords());
     });
     QueryUnload.Subscribe([this](bool& keep) { AboutToClose(keep); });
     Resize.Subscribe([this] { Arrange(); });
@@ -137,7 +138,7 @@ void frmFilters::LoadInterface() {
 
     constexpr double kPlainSize = 8;
     for (toolkit::ComboBox* box : {&cboFilter, &cboContains, &cboSource}) {
-        settings.ApplyFont(*box, true, kPlainSize);
+        ApplyFont(settings, *box, true, kPlainSize);
         box->SetLook(settings.FlatUserInterface != 0 ? toolkit::Appearance::Flat
                                                      : toolkit::Appearance::ThreeDimensional);
         box->SetForeColor(settings.ForegroundColor);
@@ -179,7 +180,7 @@ void frmFilters::ApplyTypedText() {
 
 void frmFilters::ApplyAndRemember() {
     ApplyTypedText();
-    around_.history.AddToHistory(cboFilter, kHistoryKey, kHistoryLength);
+    around_.history.AddToHistory(cboFilter, entry::FilterTexts.key, entry::FilterTexts.numbers);
 }
 
 void frmFilters::ApplyIfFiltering() {
@@ -189,7 +190,8 @@ void frmFilters::ApplyIfFiltering() {
 
 // The filter stays in force; the emptied box raises nothing.
 void frmFilters::ClearHistory() {
-    around_.history.ClearHistory(cboFilter, kHistoryKey, kHistoryLength, *this);
+    around_.history.ClearHistory(cboFilter, entry::FilterTexts.key, entry::FilterTexts.numbers,
+                                 *this);
     around_.filter.boxText = cboFilter.Text();
 }
 
@@ -198,23 +200,29 @@ void frmFilters::RemoveFilter() {
     ApplyAndRemember();
 }
 
-void frmFilters::ApplyOperation(int entry) {
+// An item that the menu refuses (a key that it holds already) is left out.
+void frmFilters::FillOperationMenu(const std::vector<OperationWord>& words) {
+    for (const OperationWord& word : words)
+        Attempt([&] { Toolbar1.AddMenuEntry(kApplyButton, word.key, word.text); });
+}
+
+void frmFilters::ApplyOperation(int item) {
     const toolkit::ToolBar::MenuEntry chosen =
-        Toolbar1.ButtonAt(kApplyButton).menu.at(static_cast<std::size_t>(entry));
+        Toolbar1.ButtonAt(kApplyButton).menu.at(static_cast<std::size_t>(item));
     if (chosen.key.empty())
         return;  // a separator
     cboFilter.SetText(chosen.text);
     // An operation stands right behind the clock time and its colon, so that the word in a path is
     // not meant; an outcome can stand anywhere behind that.
     around_.filter.FilterText =
-        OperationKeywords::IsOperation(chosen.key) ? ": " + chosen.text : chosen.text;
+        OperationWords::IsOperation(chosen.key) ? ": " + chosen.text : chosen.text;
     cboFilter.SelectText(Utf8ToUtf16(chosen.text).size(), 0);
     Apply();
 }
 
 // The close box hides; only the end of the program unloads. Both save the place.
 void frmFilters::AboutToClose(bool& keep) {
-    around_.settings.SaveWindowPosition(*this, false);
+    SaveWindowPosition(around_.settings, *this, false);
     if (ending_)
         return;
     keep = true;

@@ -2,13 +2,15 @@
 // applies the filter at once. It is only hidden when it is closed; it ends with the program.
 #pragma once
 
+#include <vector>
+
+#include "hostconfig/OperationWords.h"
 #include "search/FilterChoice.h"
 #include "settings/InterfaceStrings.h"
 #include "settings/mAppSpecific.h"
 #include "toolkit/Form.h"
 #include "windows/common/FormLanguage.h"
 #include "windows/common/InputHistory.h"
-#include "windows/filter/OperationKeywords.h"
 #include "windows/panels/DayPanels.h"
 
 namespace ordalyn {
@@ -20,7 +22,7 @@ class frmFilters : public toolkit::Form {
         const InterfaceStrings& strings;
         FormLanguage& language;
         InputHistory& history;
-        OperationKeywords::Surroundings keywords;
+        OperationWords::Surroundings keywords;
         FilterChoice& filter;  // what the dialog shows and changes
         DayPanels& panels;     // what the filter narrows
     };
@@ -45,7 +47,8 @@ class frmFilters : public toolkit::Form {
     void ApplyIfFiltering();
     void ClearHistory();
     void RemoveFilter();
-    void ApplyOperation(int entry);
+    void FillOperationMenu(const std::vector<OperationWord>& words);
+    void ApplyOperation(int item);
     void AboutToClose(bool& keep);
 
     Surroundings around_;
@@ -54,7 +57,7 @@ class frmFilters : public toolkit::Form {
     toolkit::ComboBox& cboSource;
     toolkit::ToolBar& Toolbar1;
     toolkit::CommandButton& cmdCancel;
-    OperationKeywords keywords_;
+    OperationWords keywords_;
     bool activated_ = false;
     bool ending_ = false;
 };

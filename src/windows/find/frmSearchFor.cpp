@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "hostconfig/mAppCommon.h"
+#include "settings/SettingsTable.h"
 
 namespace ordalyn {
 
@@ -112,7 +113,7 @@ frmSearchFor::frmSearchFor(toolkit::Toolkit& toolkit, const Surroundings& around
     around_.language.ApplyLanguage(*this);
     CentreOnScreen();
     cmdClearList.SetEnabled(false);
-    around_.history.LoadHistory(cboFindWhat, kFindHistoryKey, kFindHistoryLength);
+    around_.history.LoadHistory(cboFindWhat, entry::FindTexts.key, entry::FindTexts.numbers);
     ShowOptions();
     WireControls();
 }
@@ -139,7 +140,7 @@ void frmSearchFor::WireControls() {
     optTarget.Click.Subscribe([this] { around_.search.SetColumn(kTargetColumn); });
     cmdFindNext.Click.Subscribe([this] {
         FindNextString(around_.search, around_.strings, *this);
-        around_.history.AddToHistory(cboFindWhat, kFindHistoryKey, kFindHistoryLength);
+        around_.history.AddToHistory(cboFindWhat, entry::FindTexts.key, entry::FindTexts.numbers);
         around_.search.SetHistoryItem(cboFindWhat.ListIndex());
     });
     cmdClearList.Click.Subscribe([this] { ClearList(); });
@@ -164,7 +165,8 @@ void frmSearchFor::TextChanged() {
 }
 
 void frmSearchFor::ClearList() {
-    if (!around_.history.ClearHistory(cboFindWhat, kFindHistoryKey, kFindHistoryLength, *this))
+    if (!around_.history.ClearHistory(cboFindWhat, entry::FindTexts.key, entry::FindTexts.numbers,
+                                      *this))
         return;
     // The emptied box raises nothing: Search > Find Next stays as it was, and beeps.
     around_.search.SetText("", cboFindWhat.ListIndex());

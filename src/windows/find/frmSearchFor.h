@@ -10,10 +10,6 @@
 
 namespace ordalyn {
 
-// The list of earlier search texts.
-inline constexpr std::string_view kFindHistoryKey = "Find";
-inline constexpr int kFindHistoryLength = 32;
-
 // Runs one search. One that finds nothing is reported, owned by the form; without a text there is
 // only a beep. Shows a message box: whatever events can change may have changed on return.
 void FindNextString(EntrySearch& search, const InterfaceStrings& strings, toolkit::Form& owner);

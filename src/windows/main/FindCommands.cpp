@@ -1,5 +1,8 @@
 #include "windows/main/FindCommands.h"
 
+#include <utility>
+
+#include "settings/SettingsTable.h"
 #include "windows/panels/StatusTexts.h"
 
 namespace ordalyn {
@@ -51,11 +54,13 @@ void FindCommands::LoadOptions() {
     if (std::exchange(optionsLoaded_, true))
         return;
     const FindOptions stored = shared_.settings->LoadFindOptions();
-    const std::vector<std::string> texts = history_.Texts(kFindHistoryKey, kFindHistoryLength);
-    if (stored.historyItem && *stored.historyItem >= 0 &&
-        static_cast<std::size_t>(*stored.historyItem) < texts.size())
-        search_.SetText(texts[static_cast<std::size_t>(*stored.historyItem)], *stored.historyItem);
-    search_.SetColumn(stored.columnNo.value_or(0));
+    const std::vector<std::string> texts =
+        history_.Texts(entry::FindTexts.key, entry::FindTexts.numbers);
+    if (stored.historyIndex && *stored.historyIndex >= 0 &&
+        static_cast<std::size_t>(*stored.historyIndex) < texts.size())
+        search_.SetText(texts[static_cast<std::size_t>(*stored.historyIndex)],
+                        *stored.historyIndex);
+    search_.SetColumn(stored.column.value_or(0));
     search_.SetWholeWord(stored.wholeWord.value_or(false));
     search_.SetSelectedDateOnly(stored.selectedDateOnly.value_or(false));
     if (search_.CanSearch())

@@ -21,7 +21,7 @@ Twips Pixels(std::int32_t count, std::int32_t twipsPerPixel) {
 
 }  // namespace
 
-MainWindowLayout::MainWindowLayout(const Controls& controls, SettingsValues& settings,
+MainWindowLayout::MainWindowLayout(const Controls& controls, mAppSpecific& settings,
                                    PixelSize pixel, std::function<std::string()> targetCaption)
     : controls_(controls),
       settings_(settings),
@@ -145,19 +145,14 @@ void MainWindowLayout::ToggleStatusBar() {
     WindowResized();
 }
 
-void MainWindowLayout::SaveSplitterSettings(cProfile& profile, const std::string& settingsFile) {
+void MainWindowLayout::SaveSplitterSettings() {
     // A single panel has no bar: what the file says about two panels stays.
     if (settings_.TwoPanels == 0)
         return;
     const std::int32_t position = RoundToLong(splitter_.SplitPosition());
     (settings_.VerticalPanels != 0 ? settings_.VSplitPosition : settings_.HSplitPosition) =
         position;
-    const auto write = [&](const char* key, std::int32_t value) {
-        profile.WriteValue("Ordalyn", key, std::to_string(value), settingsFile);
-    };
-    write("VerticalPanels", settings_.VerticalPanels);
-    write("VSplitPosition", settings_.VSplitPosition);
-    write("HSplitPosition", settings_.HSplitPosition);
+    settings_.SaveAllOf(SettingWriter::PanelLayout);
 }
 
 }  // namespace ordalyn

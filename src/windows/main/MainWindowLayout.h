@@ -10,8 +10,7 @@
 #include <functional>
 #include <string>
 
-#include "hostconfig/cProfile.h"
-#include "settings/SettingsTable.h"
+#include "settings/mAppSpecific.h"
 #include "toolkit/Form.h"
 #include "windows/main/cSplitter.h"
 
@@ -40,7 +39,7 @@ class MainWindowLayout {
     static constexpr int kTargetField = 2;
 
     // `targetCaption` returns the caption of a column for targets.
-    MainWindowLayout(const Controls& controls, SettingsValues& settings, PixelSize pixel,
+    MainWindowLayout(const Controls& controls, mAppSpecific& settings, PixelSize pixel,
                      std::function<std::string()> targetCaption);
 
     // Another number of panels shows the selected row (0-based).
@@ -63,7 +62,7 @@ class MainWindowLayout {
     // Brings the window into the mode that the TwoPanels setting now says.
     void ChangePanelsCount();
     // Writes the orientation and both bar positions. With a single panel it writes nothing at all.
-    void SaveSplitterSettings(cProfile& profile, const std::string& settingsFile);
+    void SaveSplitterSettings();
 
   private:
     toolkit::Twips StatusBarHeight() const;
@@ -75,7 +74,7 @@ class MainWindowLayout {
 
     Controls controls_;
     cSplitter splitter_;
-    SettingsValues& settings_;
+    mAppSpecific& settings_;
     PixelSize pixel_;
     std::function<std::string()> targetCaption_;
 };

@@ -12,10 +12,6 @@ using toolkit::ListView;
 
 namespace {
 
-constexpr std::string_view kWidthsKey = "ColumnsWidth";
-constexpr std::string_view kOrderKey = "ColumnHeadersPosition";
-constexpr std::string_view kDefaultWidths = "884,10019,10890";
-constexpr std::string_view kDefaultOrder = "1,2,3";
 constexpr std::int32_t kFirstCaption = 4000;  // time; source and target follow
 
 std::string WholeWidth(const ListView& list, int column) {
@@ -23,16 +19,6 @@ std::string WholeWidth(const ListView& list, int column) {
 }
 
 }  // namespace
-
-std::string PanelColumns::Stored(std::string_view key, std::string_view otherwise) {
-    return shared_.profile
-        ->ReadValue(kOrdalynSection, key, otherwise, shared_.common.SettingsFile())
-        .value_or("");
-}
-
-void PanelColumns::Store(std::string_view key, std::string_view value) {
-    shared_.profile->WriteValue(kOrdalynSection, key, value, shared_.common.SettingsFile());
-}
 
 std::string PanelColumns::Caption(EntryRows::Field field) const {
     return shared_.strings->GetInterfaceString(kFirstCaption + field);
@@ -45,7 +31,7 @@ std::string PanelColumns::TargetCaption() const {
 void PanelColumns::Add(ListView& list, EntryRows::Field field,
                        const std::vector<std::string>& widths) {
     const auto place = static_cast<std::size_t>(field);
-    const std::string standard = Split(kDefaultWidths, ',')[place];
+    const std::string standard = Split(entry::ColumnsWidth.fallback, ',')[place];
     const std::string& width = place < widths.size() ? widths[place] : standard;
     const auto twips = [](const std::string& text) {
         const double number = LeadingNumber(text);
@@ -57,7 +43,8 @@ void PanelColumns::Add(ListView& list, EntryRows::Field field,
 }
 
 void PanelColumns::Load() {
-    const std::vector<std::string> widths = Split(Stored(kWidthsKey, kDefaultWidths), ',');
+    const std::vector<std::string> widths =
+        Split(shared_.settings->ReadEntry(entry::ColumnsWidth), ',');
     Add(source_, EntryRows::kTime, widths);
     Add(source_, EntryRows::kOperation, widths);
     if (!TwoPanels())
@@ -66,7 +53,8 @@ void PanelColumns::Load() {
 }
 
 void PanelColumns::LoadOrder() {
-    std::vector<std::string> order = Split(Stored(kOrderKey, kDefaultOrder), ',');
+    std::vector<std::string> order =
+        Split(shared_.settings->ReadEntry(entry::ColumnHeadersPosition), ',');
     if (order.size() < 3) {
         order.resize(2);
         order.emplace_back("3");
@@ -80,17 +68,19 @@ void PanelColumns::LoadOrder() {
 }
 
 void PanelColumns::SaveWidths() {
-    Store(kWidthsKey,
-          Join({WholeWidth(source_, EntryRows::kTime), WholeWidth(source_, EntryRows::kOperation),
-                TwoPanels() ? WholeWidth(target_, 0) : WholeWidth(source_, EntryRows::kTarget)},
-               ","));
+    shared_.settings->WriteEntry(
+        entry::ColumnsWidth,
+        Join({WholeWidth(source_, EntryRows::kTime), WholeWidth(source_, EntryRows::kOperation),
+              TwoPanels() ? WholeWidth(target_, 0) : WholeWidth(source_, EntryRows::kTarget)},
+             ","));
 }
 
 void PanelColumns::SaveOrder() {
     const auto place = [this](int column) {
         return std::to_string(source_.ColumnPosition(column) + 1);
     };
-    Store(kOrderKey, Join({place(0), place(1), TwoPanels() ? "3" : place(2)}, ","));
+    shared_.settings->WriteEntry(entry::ColumnHeadersPosition,
+                                 Join({place(0), place(1), TwoPanels() ? "3" : place(2)}, ","));
 }
 
 void PanelColumns::ShowCaptions() {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "toolkit/ListView.h"
 #include "windows/common/SharedObjects.h"
@@ -37,8 +37,6 @@ class PanelColumns {
     void Add(toolkit::ListView& list, EntryRows::Field field,
              const std::vector<std::string>& widths);
     std::string Caption(EntryRows::Field field) const;
-    std::string Stored(std::string_view key, std::string_view otherwise);
-    void Store(std::string_view key, std::string_view value);
     bool TwoPanels() const { return shared_.settings->TwoPanels != 0; }
 
     SharedObjects& shared_;

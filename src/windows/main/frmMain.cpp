@@ -8,6 +8,8 @@
 #include "windows/about/Help.h"
 #include "windows/about/Version.h"
 #include "windows/about/frmAbout.h"
+#include "windows/common/ControlFont.h"
+#include "windows/common/WindowPlacement.h"
 #include "windows/main/frmMainDesign.h"
 #include "windows/options/frmOptions.h"
 
@@ -17,7 +19,6 @@ using toolkit::ListView;
 
 namespace {
 
-constexpr std::string_view kRecentFilesKey = "RecentFiles";
 // Operations, date, filter; the last takes the rest of the bar.
 constexpr toolkit::Twips kStatusPanels[] = {3000, 4200, 0};
 
@@ -37,7 +38,7 @@ frmMain::frmMain(SharedObjects& shared)
       reader_(shared.services.files, shared.services.codePages, entries_),
       panels_({*this, cboDate, SourceListView, TargetListView, StatusBar1, Menu("mnuContext"),
                Menu("mnuContextCopyTarget")},
-              entries_, filter_, *shared.settings, shared.services.locale, shared.TextSource()),
+              entries_, filter_, *shared.settings, shared.services.locale, shared.Texts()),
       progress_(shared.toolkit, *this, shared.FormTexts(),
                 [this] { reading_.CancelReading = true; }),
       reading_(shared, *this, reader_, entries_, panels_, progress_, title_),
@@ -48,21 +49,20 @@ frmMain::frmMain(SharedObjects& shared)
                Menu("mnuViewStatusBar"), Menu("mnuViewTwoPanels"), Menu("mnuViewVerticalPanels")},
               *shared.settings, {shared.screen.twipsPerPixelX, shared.screen.twipsPerPixelY},
               [this] { return columns_.TargetCaption(); }),
+      recentFilesMenu_(*shared.recentFiles, shared.Texts()),
+      settingsFileDialog_(shared.toolkit, *shared.commonDialog, this, shared.Texts()),
       locator_({.common = shared.common,
                 .registry = *shared.registry,
                 .profile = *shared.profile,
-                .dialog = *shared.commonDialog,
-                .environment = shared.services.environment,
-                .toolkit = shared.toolkit,
-                .owner = this,
-                .text = shared.TextSource()}),
+                .question = settingsFileDialog_,
+                .environment = shared.services.environment}),
       find_(shared, *this, entries_, panels_, filter_) {
     for (const toolkit::Twips width : kStatusPanels)
         StatusBar1.AddPanel(width);
     // A step that fails leaves its own result out, not the steps behind it.
     FormLanguage::CopyMenuCaptionsToTags(*this);
     shared_.language->ApplyLanguage(*this);
-    Attempt([this] { shared_.settings->RestoreWindowPosition(*this, true, kMainPlacement); });
+    Attempt([this] { RestoreWindowPosition(*shared_.settings, *this, true); });
     Attempt([this] { ApplySettings(); });
     Attempt([this] { LoadRecentFiles(); });
     Attempt([this] { columns_.Load(); });
@@ -96,7 +96,7 @@ void frmMain::ApplySettings() {
     constexpr double kPlainSize = 8;
     for (toolkit::Control* control : std::initializer_list<toolkit::Control*>{
              &SourceListView, &TargetListView, &cboDate, &cboFiles, &StatusBar1})
-        settings.ApplyFont(*control, true, kPlainSize);
+        ApplyFont(settings, *control, true, kPlainSize);
     for (ListView* list : {&SourceListView, &TargetListView}) {
         list->SetBorder(settings.FixedBorders != 0 ? toolkit::BorderStyle::FixedSingle
                                                    : toolkit::BorderStyle::None);
@@ -136,7 +136,7 @@ void frmMain::WireMenus() {
     on("mnuHelpHelpTopics", [this] {
         ShowHelp({shared_.toolkit, shared_.services.files, shared_.services.shell,
                   shared_.common.ProgramFolder(), shared_.settings->UseDefaultLanguage != 0,
-                  shared_.settings->LanguageFile, shared_.TextSource()},
+                  shared_.settings->LanguageFile, shared_.Texts()},
                  *this);
     });
     on("mnuHelpAbout", [this] { ShowAbout(); });
@@ -151,23 +151,26 @@ void frmMain::WireParts() {
     reading_.WindowsEnabled.Subscribe([this](bool enabled) { find_.EnableDialogs(enabled); });
     reading_.FileOpened.Subscribe([this](const std::string& path) {
         shared_.recentFiles->AddFile(path);
-        shared_.recentFiles->SaveList(shared_.common.SettingsFile(), kOrdalynSection,
-                                      kRecentFilesKey);
+        SaveRecentFiles();
     });
     StatusBar1.PanelClick.Subscribe([this](int panel) { find_.StatusBarPanelClicked(panel); });
 }
 
 void frmMain::LoadRecentFiles() {
-    cRecentFiles& recent = *shared_.recentFiles;
-    recent.Setup(shared_.settings->NumberOfRecentFiles, *this, Menu("mnuFileRecentGroup"),
-                 shared_.Text(108), shared_.Text(109), shared_.Text(3009));
-    recent.FileChosen.Subscribe([this](std::int32_t index) { OpenRecentFile(index); });
-    recent.ClearChosen.Subscribe([this] {
-        if (shared_.recentFiles->Clear())
-            shared_.recentFiles->SaveList(shared_.common.SettingsFile(), kOrdalynSection,
-                                          kRecentFilesKey);
+    recentFilesMenu_.Setup(shared_.settings->NumberOfRecentFiles, *this, Menu("mnuFileRecentGroup"),
+                           shared_.Text(108), shared_.Text(109), shared_.Text(3009));
+    recentFilesMenu_.FileChosen.Subscribe([this](std::int32_t index) { OpenRecentFile(index); });
+    recentFilesMenu_.ClearChosen.Subscribe([this] {
+        if (recentFilesMenu_.Clear())
+            SaveRecentFiles();
     });
-    recent.ReadList(shared_.common.SettingsFile(), kOrdalynSection, kRecentFilesKey);
+    shared_.recentFiles->ReadList(shared_.common.SettingsFile(), entry::RecentFiles.section,
+                                  entry::RecentFiles.key);
+}
+
+void frmMain::SaveRecentFiles() {
+    shared_.recentFiles->SaveList(shared_.common.SettingsFile(), entry::RecentFiles.section,
+                                  entry::RecentFiles.key);
 }
 
 void frmMain::FirstActivation() {
@@ -222,7 +225,7 @@ void frmMain::OpenRecentFile(std::int32_t index) {
                                 shared_.Text(3021) + " " + path + "\r\n\r\n" + shared_.Text(3022),
                                 mAppCommon::kProgramTitle, toolkit::MessageIcon::Exclamation);
     recent.RemoveFile(index, true);
-    recent.SaveList(shared_.common.SettingsFile(), kOrdalynSection, kRecentFilesKey);
+    SaveRecentFiles();
 }
 
 void frmMain::RefreshLog() {
@@ -270,19 +273,18 @@ void frmMain::ApplyNewLanguage() {
     shared_.language->ApplyLanguage(*this);
     columns_.ShowCaptions();
     find_.LanguageChanged();
-    shared_.recentFiles->ChangeLanguage();
+    recentFilesMenu_.ChangeLanguage();
     files_.LanguageChanged();
     panels_.LanguageChanged();
 }
 
 void frmMain::Close() {
     Attempt([this] { columns_.SaveWidths(); });
-    Attempt(
-        [this] { layout_.SaveSplitterSettings(*shared_.profile, shared_.common.SettingsFile()); });
-    Attempt([this] { shared_.settings->SaveSetting("StatusBarVisible"); });
+    Attempt([this] { layout_.SaveSplitterSettings(); });
+    Attempt([this] { shared_.settings->SaveSetting(&SettingsValues::StatusBarVisible); });
     Attempt([this] { columns_.SaveOrder(); });
-    Attempt([this] { shared_.settings->SaveSetting("TwoPanels"); });
-    Attempt([this] { shared_.settings->SaveWindowPosition(*this, true); });
+    Attempt([this] { shared_.settings->SaveSetting(&SettingsValues::TwoPanels); });
+    Attempt([this] { SaveWindowPosition(*shared_.settings, *this, true); });
     // A dialog that waits for an answer does not keep another program from closing this window.
     if (about_ != nullptr)
         about_->Unload();

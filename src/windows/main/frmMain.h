@@ -12,6 +12,7 @@
 #include "search/FilterChoice.h"
 #include "toolkit/Form.h"
 #include "windows/common/SharedObjects.h"
+#include "windows/dialogs/SettingsFileDialog.h"
 #include "windows/main/CopyCommands.h"
 #include "windows/main/FindCommands.h"
 #include "windows/main/LogFileReading.h"
@@ -19,6 +20,7 @@
 #include "windows/main/MainTitle.h"
 #include "windows/main/MainWindowLayout.h"
 #include "windows/main/PanelColumns.h"
+#include "windows/main/RecentFilesMenu.h"
 #include "windows/panels/DayPanels.h"
 #include "windows/progress/ProgressWindow.h"
 
@@ -48,6 +50,7 @@ class frmMain : public toolkit::Form {
     void WireMenus();
     void WireParts();
     void LoadRecentFiles();
+    void SaveRecentFiles();
     void Close();
 
     // Events.
@@ -78,6 +81,8 @@ class frmMain : public toolkit::Form {
     LogFileReading reading_;
     LogFileSet files_;
     MainWindowLayout layout_;
+    RecentFilesMenu recentFilesMenu_;
+    SettingsFileDialog settingsFileDialog_;
     TotalCommanderLocator locator_;
     FindCommands find_;
     // While they are shown.

@@ -7,10 +7,10 @@
 #include <functional>
 #include <string>
 
-#include "hostconfig/cCommonDialog.h"
 #include "settings/mAppSpecific.h"
 #include "toolkit/Form.h"
 #include "windows/common/Texts.h"
+#include "windows/dialogs/cCommonDialog.h"
 
 namespace ordalyn {
 

@@ -24,7 +24,7 @@ constexpr std::int32_t kFilterText = 4032;
 
 DayPanels::DayPanels(const Controls& controls, const EntryLists& entries,
                      const FilterChoice& filter, const SettingsValues& settings,
-                     platform::Locale& locale, TextById text)
+                     platform::Locale& locale, TextSource text)
     : controls_(controls),
       entries_(entries),
       filter_(filter),

@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/TextSource.h"
 #include "log/DayIndex.h"
 #include "log/EntryLists.h"
 #include "platform/Platform.h"
@@ -20,7 +21,6 @@
 #include "search/FilterChoice.h"
 #include "settings/SettingsTable.h"
 #include "toolkit/Form.h"
-#include "windows/common/Texts.h"
 #include "windows/panels/PanelFilter.h"
 
 namespace ordalyn {
@@ -41,7 +41,7 @@ class DayPanels : public EntryDisplay {
     static constexpr std::int32_t kNothingShown = -2;
 
     DayPanels(const Controls& controls, const EntryLists& entries, const FilterChoice& filter,
-              const SettingsValues& settings, platform::Locale& locale, TextById text);
+              const SettingsValues& settings, platform::Locale& locale, TextSource text);
 
     // A day was chosen, or all dates, and its rows are there.
     toolkit::Event<> DayShown;
@@ -100,7 +100,7 @@ class DayPanels : public EntryDisplay {
     const FilterChoice& filter_;
     const SettingsValues& settings_;
     platform::Locale& locale_;
-    TextById text_;
+    TextSource text_;
     PanelFilter panelFilter_;
     DayIndex days_;
     std::int32_t selectedDay_ = kAllDates;

@@ -14,8 +14,6 @@
 #include "settings/cRecentFiles.h"
 #include "settings/mAppSpecific.h"
 #include "support/platform/MemoryPlatform.h"
-#include "support/toolkit/MemoryToolkit.h"
-#include "windows/common/FormLanguage.h"
 
 namespace ordalyn::test {
 
@@ -44,13 +42,11 @@ class SettingsFixture : public testing::Test {
     }
 
     InstalledPlatform system;
-    MemoryToolkit toolkit;
     mAppCommon common{system.services};
     cProfile profile{system.services, common};
     cDefaultStrings defaults;
     mAppSpecific settings{profile, common};
     InterfaceStrings strings{settings, common, profile, system.codePages, defaults};
-    FormLanguage language{settings, strings};
 };
 
 }  // namespace ordalyn::test

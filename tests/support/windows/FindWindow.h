@@ -146,7 +146,7 @@ class FindWindow : public FindFixture {
                      filter,
                      settings,
                      system.locale,
-                     shared.TextSource()};
+                     shared.Texts()};
     FindCommands commands{shared, main, entries, panels, filter};
     frmFilters& filters = commands.FilterDialog();
     toolkit::ComboBox& cboFilter = filters.Get<toolkit::ComboBox>("cboFilter");

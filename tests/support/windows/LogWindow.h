@@ -155,7 +155,7 @@ class LogWindow : public testing::Test {
                      filter,
                      settings,
                      system.locale,
-                     shared.TextSource()};
+                     shared.Texts()};
     FakeProgress progress;
     MainTitle title{form};
     std::vector<std::string> remembered;

@@ -3,21 +3,30 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "hostconfig/TotalCommanderLocator.h"
-#include "hostconfig/cCommonDialog.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/cRegistry.h"
 #include "hostconfig/mAppCommon.h"
 #include "support/platform/MemoryPlatform.h"
-#include "support/toolkit/MemoryToolkit.h"
 
 namespace ordalyn::test {
 
+// A user who cancels unless a test says otherwise.
+class ScriptedUser : public SettingsFileQuestion {
+  public:
+    Answer AskForSettingsFile(const std::string& startFolder) override {
+        askedIn.push_back(startFolder);
+        return answer;
+    }
+
+    Answer answer{Outcome::Cancelled, ""};
+    std::vector<std::string> askedIn;
+};
+
 struct LocatorRoom {
     static constexpr std::string_view kOwnFile = "C:\\Ordalyn\\Ordalyn.ini";
-    static constexpr toolkit::FormDesign kDesign = {
-        "frmMain", "", {6000, 4000}, {}, std::span<const toolkit::ControlDesign>()};
 
     LocatorRoom() {
         system.files.AddFolder("C:\\Ordalyn");
@@ -35,25 +44,17 @@ struct LocatorRoom {
     std::string Remembered(std::string_view key) {
         return profile.ReadValue("Common", key, "(absent)", kOwnFile).value_or("");
     }
-    // Neither the message nor the dialog was shown.
-    bool AskedNothing() const {
-        return kit.messages.empty() && system.dialogs.openRequests.empty();
-    }
+    bool AskedNothing() const { return user.askedIn.empty(); }
 
     static constexpr std::uint32_t kUser = MemoryRegistry::kCurrentUser;
     static constexpr std::uint32_t kMachine = MemoryRegistry::kLocalMachine;
 
     MemoryPlatform system;
-    MemoryToolkit kit;
     mAppCommon common{system.services};
     cRegistry registry{system.services, common};
-    cCommonDialog dialog{system.services, common, registry,
-                         [](std::int32_t id) { return "text " + std::to_string(id); }};
     cProfile profile{system.services, common};
-    toolkit::Form form{kit, kDesign};
-    TotalCommanderLocator locator{{common, registry, profile, dialog, system.environment, kit,
-                                   &form,
-                                   [](std::int32_t id) { return "text " + std::to_string(id); }}};
+    ScriptedUser user;
+    TotalCommanderLocator locator{{common, registry, profile, user, system.environment}};
 };
 
 }  // namespace ordalyn::test

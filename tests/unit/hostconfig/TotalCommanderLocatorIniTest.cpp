@@ -10,7 +10,7 @@ class CommanderIni : public testing::Test, public test::LocatorRoom {
   protected:
     CommanderIni() { common.SetCommanderFolder("c:\\totalcmd\\"); }
     void Choose(const std::string& path) {
-        system.dialogs.onOpenFile = [path](const platform::Dialogs::OpenRequest&) { return path; };
+        user.answer = {SettingsFileQuestion::Outcome::Chosen, path};
     }
 };
 
@@ -74,33 +74,10 @@ TEST_F(CommanderIni, TheRememberedFileComesLastAndIsExpanded) {
     EXPECT_TRUE(AskedNothing());
 }
 
-TEST_F(CommanderIni, WithoutAnyTheUserIsToldAndAsked) {
+TEST_F(CommanderIni, WithoutAnyTheUserIsAskedOnceAndLooksInTheCommandersFolderFirst) {
     Choose("d:\\ini\\mine.ini");
     locator.FindCommanderIni();
-    ASSERT_EQ(kit.messages.size(), 1U);
-    const test::ShownMessage& message = kit.messages[0];
-    EXPECT_EQ(message.text, "text 3046");
-    EXPECT_EQ(message.title, "Ordalyn");
-    EXPECT_EQ(message.icon, toolkit::MessageIcon::Exclamation);
-    EXPECT_EQ(message.buttons, toolkit::MessageButtons::Ok);
-    EXPECT_EQ(message.owner, &form);
-    ASSERT_EQ(system.dialogs.openRequests.size(), 1U);
-    const platform::Dialogs::OpenRequest& request = system.dialogs.openRequests[0];
-    EXPECT_EQ(request.owner, form.Handle());
-    EXPECT_EQ(request.initialFolder, "c:\\totalcmd\\");
-    EXPECT_EQ(request.fileName, "Wincmd.ini");
-    EXPECT_THAT(request.filter, testing::StartsWith("Wincmd.ini (*.ini)"));
-    EXPECT_EQ(request.title, "text 1605");
-    EXPECT_EQ(request.flags, 0x1088140EU);
-}
-
-TEST_F(CommanderIni, TheMessageComesBeforeTheDialog) {
-    kit.onMessage = [&](const test::ShownMessage&) {
-        EXPECT_TRUE(system.dialogs.openRequests.empty());
-        return toolkit::Answer::Ok;
-    };
-    locator.FindCommanderIni();
-    EXPECT_EQ(system.dialogs.openRequests.size(), 1U);
+    EXPECT_THAT(user.askedIn, testing::ElementsAre("c:\\totalcmd\\"));
 }
 
 TEST_F(CommanderIni, ARememberedFileThatIsGoneIsAskedForAgain) {
@@ -110,10 +87,10 @@ TEST_F(CommanderIni, ARememberedFileThatIsGoneIsAskedForAgain) {
     EXPECT_EQ(Remembered("UserDefinedWincmd"), "d:\\ini\\mine.ini");
 }
 
-TEST_F(CommanderIni, TheMarkerIsTheDialogsFolderWhenNoneIsKnown) {
+TEST_F(CommanderIni, TheMarkerIsTheFolderToLookInWhenNoneIsKnown) {
     common.SetCommanderFolder(common.NoValueMarker());
     locator.FindCommanderIni();
-    EXPECT_EQ(system.dialogs.openRequests.at(0).initialFolder, common.NoValueMarker());
+    EXPECT_THAT(user.askedIn, testing::ElementsAre(common.NoValueMarker()));
 }
 
 TEST_F(CommanderIni, TheChosenFileIsRememberedInItsSymbolicForm) {
@@ -139,8 +116,7 @@ TEST_F(CommanderIni, AUserWhoCancelsGetsAFreshFileInTheWindowsFolder) {
 
 TEST_F(CommanderIni, TheFreshFileIsFoundWithoutAskingNextTime) {
     locator.FindCommanderIni();
-    kit.messages.clear();
-    system.dialogs.openRequests.clear();
+    user.askedIn.clear();
     EXPECT_EQ(locator.FindCommanderIni(), "C:\\Windows\\wincmd.ini");
     EXPECT_TRUE(AskedNothing());
 }
@@ -159,12 +135,12 @@ TEST_F(CommanderIni, TheFreshFileIsRememberedInItsSymbolicForm) {
     EXPECT_EQ(Remembered("UserDefinedWincmd"), "%Commander_Path%\\wincmd.ini");
 }
 
-TEST_F(CommanderIni, WithoutAnOwnerTheDialogHasNone) {
-    TotalCommanderLocator alone({common, registry, profile, dialog, system.environment, kit,
-                                 nullptr, [](std::int32_t) { return std::string(); }});
-    alone.FindCommanderIni();
-    EXPECT_EQ(kit.messages.at(0).owner, nullptr);
-    EXPECT_EQ(system.dialogs.openRequests.at(0).owner, 0U);
+// A user who ends the program behind the question has not answered it.
+TEST_F(CommanderIni, AProgramThatEndsMeanwhileGetsNoFileAndLeavesNone) {
+    user.answer = {SettingsFileQuestion::Outcome::ProgramEnded, ""};
+    EXPECT_EQ(locator.FindCommanderIni(), common.NoValueMarker());
+    EXPECT_FALSE(system.files.Get("C:\\Windows\\wincmd.ini").has_value());
+    EXPECT_EQ(Remembered("UserDefinedWincmd"), "(absent)");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Loading and saving of the settings, over the whole table.
-#include <array>
+#include <algorithm>
 
 #include "base/Errors.h"
 #include "support/settings/SettingsFixture.h"
@@ -37,10 +37,15 @@ constexpr Row kRows[] = {
     {"StatusBarVisible", "Ordalyn", false, 1, false},
 };
 
+const Setting& RowOf(std::string_view key) {
+    return *std::find_if(AllSettings().begin(), AllSettings().end(),
+                         [&](const Setting& setting) { return setting.key == key; });
+}
+
 class LoadSettings : public SettingsFixture {
   protected:
     std::int32_t Number(std::string_view key) const {
-        return settings.*std::get<std::int32_t SettingsValues::*>(SettingByKey(key).place);
+        return settings.*std::get<std::int32_t SettingsValues::*>(RowOf(key).place);
     }
     void ExpectDefaults() {
         for (const Row& row : kRows) {
@@ -62,9 +67,20 @@ TEST(SettingsTable, HasTheseRowsInThisOrder) {
     }
 }
 
-TEST(SettingsTable, AKeyIsFoundInAnyLetterCaseAndAnUnknownOneThrows) {
-    EXPECT_EQ(SettingByKey("gridLINES").key, "GridLines");
-    EXPECT_THROW(SettingByKey("Grid"), SubscriptOutOfRange);
+TEST(SettingsTable, ASettingIsFoundByItsValue) {
+    EXPECT_EQ(SettingOf(&SettingsValues::GridLines).key, "GridLines");
+    EXPECT_EQ(SettingOf(&SettingsValues::LanguageFile).key, "LanguageFile");
+    for (const Setting& setting : AllSettings())
+        EXPECT_EQ(&SettingOf(setting.place), &setting) << setting.key;
+}
+
+TEST(SettingsTable, AFormsEntriesAreFoundByItsName) {
+    EXPECT_EQ(&PlacementEntry("frmMain"), &entry::MainPosition);
+    EXPECT_EQ(&WindowStateEntry("frmMain"), &entry::MainWindowState);
+    EXPECT_EQ(&PlacementEntry("frmFilters"), &entry::FiltersPosition);
+    EXPECT_THROW(WindowStateEntry("frmFilters"), SubscriptOutOfRange);
+    EXPECT_THROW(PlacementEntry("frmAbout"), SubscriptOutOfRange);
+    EXPECT_THROW(PlacementEntry("fr"), SubscriptOutOfRange);
 }
 
 TEST_F(LoadSettings, ValuesAreTheDefaultsBeforeLoading) {
@@ -137,7 +153,7 @@ TEST_F(LoadSettings, NegativeColoursAreSystemColours) {
     Put("Ordalyn", "ForegroundColor", "-2147483633");
     Put("Ordalyn", "BackgroundColor", "16777215");
     settings.LoadSettings();
-    EXPECT_EQ(settings.ForegroundColor, toolkit::SystemColor(15));
+    EXPECT_EQ(settings.ForegroundColor, -2147483633);
     EXPECT_EQ(settings.BackgroundColor, 0xFFFFFF);
 }
 
@@ -238,7 +254,7 @@ TEST_F(SaveSettings, WhatIsSavedIsLoadedAgain) {
     settings.FlatUserInterface = 1;
     settings.LongDate = 1;
     settings.ForegroundColor = 0x123456;
-    settings.BackgroundColor = toolkit::kButtonFace;
+    settings.BackgroundColor = -2147483633;
     settings.FontName = "Courier New";
     settings.FontScript = 204;
     settings.FontSize = 11;
@@ -288,12 +304,46 @@ TEST_F(SaveSettings, WhatTheUserSetsByHandIsNeverWritten) {
 TEST_F(SaveSettings, ASingleSettingCanBeWritten) {
     settings.TwoPanels = 0;
     settings.VSplitPosition = 1234;
-    settings.SaveSetting("TwoPanels");
-    settings.SaveSetting("VSplitPosition");
+    settings.SaveSetting(&SettingsValues::TwoPanels);
+    settings.SaveSetting(&SettingsValues::VSplitPosition);
     EXPECT_EQ(Stored("Ordalyn", "TwoPanels"), "0");
     EXPECT_EQ(Stored("Ordalyn", "VSplitPosition"), "1234");
     EXPECT_EQ(Stored("Ordalyn", "HSplitPosition"), "(absent)");
-    EXPECT_THROW(settings.SaveSetting("NoSuchSetting"), SubscriptOutOfRange);
+}
+
+TEST_F(SaveSettings, WhatOneWriterKeepsCanBeWritten) {
+    system.files.Delete(kOwnFile);
+    settings.VerticalPanels = 1;
+    settings.SaveAllOf(SettingWriter::PanelLayout);
+    EXPECT_EQ(system.files.Get(kOwnFile),
+              "[Ordalyn]\r\nVerticalPanels=1\r\nVSplitPosition=4000\r\nHSplitPosition=4000\r\n");
+}
+
+TEST_F(SaveSettings, AGivenUpLanguageFileIsWrittenAtOnceAndItsPathKept) {
+    UseLanguageFile("");
+    settings.SaveSettings();
+    settings.GiveUpLanguageFile();
+    EXPECT_EQ(settings.UseDefaultLanguage, 1);
+    EXPECT_EQ(Stored("Ordalyn", "UseDefaultLanguage"), "1");
+    EXPECT_NE(Stored("Common", "LanguageFile"), "(absent)");
+}
+
+class OtherSettings : public SettingsFixture {};
+
+TEST_F(OtherSettings, AnEntryIsReadWithItsDefaultAndWritten) {
+    EXPECT_EQ(settings.ReadEntry(entry::ColumnsWidth), "884,10019,10890");
+    settings.WriteEntry(entry::ColumnsWidth, "1,2,3");
+    EXPECT_EQ(Stored("Ordalyn", "ColumnsWidth"), "1,2,3");
+    EXPECT_EQ(settings.ReadEntry(entry::ColumnsWidth), "1,2,3");
+    Put("Ordalyn", "ColumnsWidth", "");
+    EXPECT_EQ(settings.ReadEntry(entry::ColumnsWidth), "");
+}
+
+TEST_F(OtherSettings, TheFindOptionsAreReadAndWritten) {
+    EXPECT_EQ(settings.LoadFindOptions(), (FindOptions{0, 0, false, false}));
+    settings.SaveFindOptions({5, 1, true, false});
+    EXPECT_EQ(Stored("Ordalyn", "FindOptions"), "5,1,1,0");
+    EXPECT_EQ(settings.LoadFindOptions(), (FindOptions{5, 1, true, false}));
 }
 
 }  // namespace

@@ -60,6 +60,15 @@ std::string Code(std::string_view text) {
     return text.empty() ? "absent" : "`" + std::string(text) + "`";
 }
 
+std::string Keys(const OtherEntry& other) {
+    const std::string key(other.key);
+    if (other.numbers == 0)
+        return key;
+    if (other.numbers == kAsManyAsSet)
+        return key + "1, " + key + "2, ...";
+    return key + "1 to " + key + std::to_string(other.numbers);
+}
+
 std::string Page() {
     std::ostringstream page;
     page
@@ -82,9 +91,9 @@ std::string Page() {
     page << "\n## Other entries\n\n"
             "| key | section | meaning | default | written by |\n"
             "|---|---|---|---|---|\n";
-    for (const OtherEntry& entry : OtherEntries())
-        page << "| " << entry.key << " | " << entry.section << " | " << entry.meaning << " | "
-             << Code(entry.fallback) << " | " << entry.writer << " |\n";
+    for (const OtherEntry* other : OtherEntries())
+        page << "| " << Keys(*other) << " | " << other->section << " | " << other->meaning << " | "
+             << Code(other->fallback) << " | " << other->writer << " |\n";
     return page.str();
 }
 

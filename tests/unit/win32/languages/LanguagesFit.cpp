@@ -83,7 +83,7 @@ class ProgramAt {
                      filter,
                      *shared.settings,
                      system.locale,
-                     shared.TextSource()};
+                     shared.Texts()};
     FindCommands commands{shared, main, entries, panels, filter};
 };
 

@@ -1,7 +1,7 @@
 #include "windows/common/FormLanguage.h"
 
 #include "support/settings/DesignIds.h"
-#include "support/settings/SettingsFixture.h"
+#include "support/windows/FormFixture.h"
 
 namespace ordalyn::test {
 namespace {
@@ -42,7 +42,7 @@ constexpr toolkit::FormDesign kDesign = {.name = "frmTest",
                                          .controls = kControls,
                                          .menus = kMenus};
 
-class ApplyLanguage : public SettingsFixture {
+class ApplyLanguage : public FormFixture {
   protected:
     ApplyLanguage() {
         for (const auto& control : form.Controls())
@@ -239,6 +239,29 @@ TEST_F(ApplyLanguage, AMissingLanguageFileIsToldOnceAndEnglishIsUsedFromThenOn) 
     mAppSpecific nextStart(profile, common);
     nextStart.LoadSettings();
     EXPECT_EQ(nextStart.UseDefaultLanguage, 1);
+}
+
+TEST_F(ApplyLanguage, ShowingTheTextsAloneReportsNothingAndChangesNoSetting) {
+    UseLanguageFile("");
+    system.files.Delete(kLanguageFile);
+    language.ShowTexts(form);
+    EXPECT_TRUE(toolkit.messages.empty());
+    EXPECT_EQ(settings.UseDefaultLanguage, 0);
+    EXPECT_EQ(Stored("Ordalyn", "UseDefaultLanguage"), "(absent)");
+    EXPECT_EQ(Caption("lblTime"), "Time");
+    EXPECT_FALSE(form.RightToLeft());
+}
+
+TEST_F(ApplyLanguage, CheckingTheFileAloneShowsNoTexts) {
+    UseLanguageFile("[UserLanguage]\r\n4000=Zeit\r\n");
+    language.CheckLanguageFile(form);
+    EXPECT_TRUE(toolkit.messages.empty());
+    EXPECT_EQ(settings.UseDefaultLanguage, 0);
+    system.files.Delete(kLanguageFile);
+    language.CheckLanguageFile(form);
+    EXPECT_EQ(toolkit.messages.size(), 1U);
+    EXPECT_EQ(settings.UseDefaultLanguage, 1);
+    EXPECT_EQ(Caption("lblTime"), "design lblTime");
 }
 
 TEST_F(ApplyLanguage, AFormThatIsNotShownDoesNotOwnTheMessage) {

@@ -3,12 +3,12 @@
 #include <iterator>
 #include <string>
 
-#include "support/settings/SettingsFixture.h"
+#include "support/windows/FormFixture.h"
 
 namespace ordalyn::test {
 namespace {
 
-class ShippedLanguagesTest : public SettingsFixture {
+class ShippedLanguagesTest : public FormFixture {
   protected:
     void Use(const std::string& shipped) {
         std::ifstream file(ORDALYN_SOURCE_DIR "/languages/" + shipped + ".lng", std::ios::binary);

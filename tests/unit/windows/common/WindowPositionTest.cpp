@@ -1,4 +1,6 @@
-#include "support/settings/SettingsFixture.h"
+#include "windows/common/WindowPlacement.h"
+
+#include "support/windows/FormFixture.h"
 
 namespace ordalyn::test {
 namespace {
@@ -14,33 +16,33 @@ constexpr toolkit::FormDesign kMainDesign = {.name = "frmMain",
 constexpr toolkit::FormDesign kFiltersDesign = {
     .name = "frmFilters", .tag = "", .clientSize = {8000, 600}, .style = {}, .controls = {}};
 
-class RestoreWindowPosition : public SettingsFixture {
+class RestorePosition : public FormFixture {
   protected:
     toolkit::Form form{toolkit, kMainDesign};
     toolkit::Form filters{toolkit, kFiltersDesign};
 };
-using SaveWindowPosition = RestoreWindowPosition;
+using SavePosition = RestorePosition;
 
-TEST_F(RestoreWindowPosition, WithoutAnEntryTheDefaultCounts) {
-    settings.RestoreWindowPosition(form, true, kMainPlacement);
+TEST_F(RestorePosition, WithoutAnEntryTheDefaultCounts) {
+    RestoreWindowPosition(settings, form, true);
     EXPECT_EQ(form.Bounds(), (Rect{0, 0, 12030, 8520}));
     EXPECT_EQ(form.State(), WindowState::Normal);
-    settings.RestoreWindowPosition(filters, false, kFiltersPlacement);
+    RestoreWindowPosition(settings, filters, false);
     EXPECT_EQ(filters.Bounds(), (Rect{3495, 7740, 8910, 795}));
 }
 
-TEST_F(RestoreWindowPosition, EachFormHasItsOwnEntries) {
+TEST_F(RestorePosition, EachFormHasItsOwnEntries) {
     Put("Ordalyn", "MainPosition", "10,20,3000,4000");
     Put("Ordalyn", "FiltersPosition", "30,40,9000,800");
-    settings.RestoreWindowPosition(form, true, kMainPlacement);
-    settings.RestoreWindowPosition(filters, false, kFiltersPlacement);
+    RestoreWindowPosition(settings, form, true);
+    RestoreWindowPosition(settings, filters, false);
     EXPECT_EQ(form.Bounds(), (Rect{10, 20, 3000, 4000}));
     EXPECT_EQ(filters.Bounds(), (Rect{30, 40, 9000, 800}));
 }
 
-TEST_F(RestoreWindowPosition, APlacementOffTheScreenIsKept) {
+TEST_F(RestorePosition, APlacementOffTheScreenIsKept) {
     Put("Ordalyn", "MainPosition", "-90000,90000,3000,4000");
-    settings.RestoreWindowPosition(form, true, kMainPlacement);
+    RestoreWindowPosition(settings, form, true);
     EXPECT_EQ(form.Bounds(), (Rect{-90000, 90000, 3000, 4000}));
 }
 
@@ -58,20 +60,20 @@ constexpr Parts kParts[] = {
     {"100", {100, 0, 0, 0}},
 };
 
-TEST_F(RestoreWindowPosition, PartsThatAreMissingOrNoNumbersAreZero) {
+TEST_F(RestorePosition, PartsThatAreMissingOrNoNumbersAreZero) {
     for (const Parts& parts : kParts) {
         Put("Ordalyn", "MainPosition", parts.stored);
-        settings.RestoreWindowPosition(form, false, kMainPlacement);
+        RestoreWindowPosition(settings, form, false);
         EXPECT_EQ(form.Bounds(), parts.expected) << parts.stored;
     }
 }
 
-TEST_F(RestoreWindowPosition, APlacementThatTheFormRefusesLeavesItInPlaceAndTheStateIsStillSet) {
+TEST_F(RestorePosition, APlacementThatTheFormRefusesLeavesItInPlaceAndTheStateIsStillSet) {
     const Rect before = form.Bounds();
     Put("Ordalyn", "MainWindowState", "2");
     for (const char* refused : {"10,20,-3000,4000", "10,20,3000,-1", "1e300,0,3000,4000"}) {
         Put("Ordalyn", "MainPosition", refused);
-        settings.RestoreWindowPosition(form, true, kMainPlacement);
+        RestoreWindowPosition(settings, form, true);
         EXPECT_EQ(form.State(), WindowState::Maximised) << refused;
         form.SetState(WindowState::Normal);
         EXPECT_EQ(form.Bounds(), before) << refused;
@@ -88,62 +90,62 @@ constexpr State kStates[] = {
     {"", WindowState::Normal},     {"two", WindowState::Normal},
 };
 
-TEST_F(RestoreWindowPosition, TheStoredStateIsSetExceptMinimised) {
+TEST_F(RestorePosition, TheStoredStateIsSetExceptMinimised) {
     for (const State& state : kStates) {
         form.SetState(state.expected == WindowState::Normal ? WindowState::Maximised
                                                             : WindowState::Normal);
         Put("Ordalyn", "MainWindowState", state.stored);
-        settings.RestoreWindowPosition(form, true, kMainPlacement);
+        RestoreWindowPosition(settings, form, true);
         EXPECT_EQ(form.State(), state.expected) << state.stored;
     }
 }
 
-TEST_F(RestoreWindowPosition, AStateThatDoesNotExistLeavesTheForm) {
+TEST_F(RestorePosition, AStateThatDoesNotExistLeavesTheForm) {
     Put("Ordalyn", "MainWindowState", "7");
-    settings.RestoreWindowPosition(form, true, kMainPlacement);
+    RestoreWindowPosition(settings, form, true);
     EXPECT_EQ(form.State(), WindowState::Normal);
 }
 
-TEST_F(RestoreWindowPosition, WithoutTheFlagTheStateIsNotTouched) {
+TEST_F(RestorePosition, WithoutTheFlagTheStateIsNotTouched) {
     Put("Ordalyn", "MainWindowState", "2");
-    settings.RestoreWindowPosition(form, false, kMainPlacement);
+    RestoreWindowPosition(settings, form, false);
     EXPECT_EQ(form.State(), WindowState::Normal);
 }
 
-TEST_F(SaveWindowPosition, WritesWholeTwipsAndTheState) {
+TEST_F(SavePosition, WritesWholeTwipsAndTheState) {
     form.Move({-10.75F, 20.75F, 3000.5F, 4000});
-    settings.SaveWindowPosition(form, true);
+    SaveWindowPosition(settings, form, true);
     EXPECT_EQ(Stored("Ordalyn", "MainPosition"), "-10,20,3000,4000");
     EXPECT_EQ(Stored("Ordalyn", "MainWindowState"), "0");
 }
 
-TEST_F(SaveWindowPosition, WithoutTheFlagOnlyThePlacementIsWritten) {
+TEST_F(SavePosition, WithoutTheFlagOnlyThePlacementIsWritten) {
     filters.Move({1, 2, 9000, 800});
-    settings.SaveWindowPosition(filters, false);
+    SaveWindowPosition(settings, filters, false);
     EXPECT_EQ(Stored("Ordalyn", "FiltersPosition"), "1,2,9000,800");
     EXPECT_EQ(Stored("Ordalyn", "FiltersWindowState"), "(absent)");
 }
 
-TEST_F(SaveWindowPosition, AMaximisedFormKeepsItsStoredPlacement) {
+TEST_F(SavePosition, AMaximisedFormKeepsItsStoredPlacement) {
     Put("Ordalyn", "MainPosition", "10,20,3000,4000");
     form.SetState(WindowState::Maximised);
-    settings.SaveWindowPosition(form, true);
+    SaveWindowPosition(settings, form, true);
     EXPECT_EQ(Stored("Ordalyn", "MainPosition"), "10,20,3000,4000");
     EXPECT_EQ(Stored("Ordalyn", "MainWindowState"), "2");
 }
 
-TEST_F(SaveWindowPosition, AMinimisedFormKeepsItsStoredPlacement) {
+TEST_F(SavePosition, AMinimisedFormKeepsItsStoredPlacement) {
     form.SetState(WindowState::Minimised);
-    settings.SaveWindowPosition(form, true);
+    SaveWindowPosition(settings, form, true);
     EXPECT_EQ(Stored("Ordalyn", "MainPosition"), "(absent)");
     EXPECT_EQ(Stored("Ordalyn", "MainWindowState"), "1");
 }
 
-TEST_F(SaveWindowPosition, WhatIsSavedIsRestored) {
+TEST_F(SavePosition, WhatIsSavedIsRestored) {
     form.Move({15, 30, 6000, 4500});
-    settings.SaveWindowPosition(form, true);
+    SaveWindowPosition(settings, form, true);
     form.Move({0, 0, 1, 1});
-    settings.RestoreWindowPosition(form, true, kMainPlacement);
+    RestoreWindowPosition(settings, form, true);
     EXPECT_EQ(form.Bounds(), (Rect{15, 30, 6000, 4500}));
 }
 

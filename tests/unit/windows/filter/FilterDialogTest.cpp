@@ -360,6 +360,18 @@ TEST_F(FilterDialog, ItsWordsAreLoadedAtTheFirstActivationOnly) {
     EXPECT_EQ(Toolbar1.ButtonAt(1).menu.size(), 15U);
 }
 
+TEST_F(FilterDialog, AWordListedMoreThanOnceIsOfferedOnceInItsFirstForm) {
+    system.files.Set("C:\\tc\\Language\\WCMD_DEU.LNG",
+                     "1802=\"Kopieren\"\r\n1802=\"Kopie\"\r\n1803=\"Verschieben\"\r\n");
+    system.ansiProfile.WriteEntry("Configuration", "LanguageIni", "WCMD_DEU.LNG", kCommanderIni);
+    Put("LoggingID", "1802,-,-,1802,9999,1803");
+    Show();
+    std::vector<std::string> words;
+    for (const auto& item : Toolbar1.ButtonAt(1).menu)
+        words.push_back(item.text);
+    EXPECT_THAT(words, ElementsAre("Kopieren", "-", "-", "Verschieben"));
+}
+
 TEST_F(FilterDialog, AnOperationIsLookedForBehindTheClockTime) {
     Show();
     Toolbar1.UserChoseMenuEntry(0, EntryOf("Copy"));

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "base/Errors.h"
+#include "hostconfig/cProfile.h"
 #include "hostconfig/mAppCommon.h"
 #include "support/platform/MemoryPlatform.h"
 #include "support/toolkit/MemoryToolkit.h"
@@ -78,6 +79,7 @@ class Layout : public testing::Test {
     test::MemoryPlatform system;
     mAppCommon common{system.services};
     cProfile profile{system.services, common};
+    mAppSpecific settings{profile, common};
     toolkit::Form form{tools, kDesign};
     toolkit::ComboBox& cboDate = form.Get<toolkit::ComboBox>("cboDate");
     toolkit::PictureBox& container = form.Get<toolkit::PictureBox>("picSpliterContainer");
@@ -88,7 +90,6 @@ class Layout : public testing::Test {
     toolkit::MenuItem& mnuViewStatusBar = form.Menu("mnuViewStatusBar");
     toolkit::MenuItem& mnuViewTwoPanels = form.Menu("mnuViewTwoPanels");
     toolkit::MenuItem& mnuViewVerticalPanels = form.Menu("mnuViewVerticalPanels");
-    SettingsValues settings;
     std::vector<int> selected;
     MainWindowLayout layout{{form, cboDate, container, bar, source, target, StatusBar1,
                              mnuViewStatusBar, mnuViewTwoPanels, mnuViewVerticalPanels},
@@ -281,7 +282,7 @@ TEST_F(Layout, StoresOrientationAndBothPositions) {
     settings.VerticalPanels = 1;
     layout.ArrangeFirstTime();
     splitter.SetSplitPosition(1234.5F);  // halves go to the even neighbour
-    layout.SaveSplitterSettings(profile, common.SettingsFile());
+    layout.SaveSplitterSettings();
     EXPECT_EQ(Stored("VerticalPanels"), "1");
     EXPECT_EQ(Stored("VSplitPosition"), "1234");
     EXPECT_EQ(Stored("HSplitPosition"), "2000");
@@ -293,7 +294,7 @@ TEST_F(Layout, StoresOrientationAndBothPositions) {
 TEST_F(Layout, StoresTheStackedPosition) {
     layout.ArrangeFirstTime();
     splitter.SetSplitPosition(1500);
-    layout.SaveSplitterSettings(profile, common.SettingsFile());
+    layout.SaveSplitterSettings();
     EXPECT_EQ(Stored("VerticalPanels"), "0");
     EXPECT_EQ(Stored("HSplitPosition"), "1500");
     EXPECT_EQ(Stored("VSplitPosition"), "4000");
@@ -302,7 +303,7 @@ TEST_F(Layout, StoresTheStackedPosition) {
 TEST_F(Layout, ASinglePanelStoresNothing) {
     SinglePanel();
     layout.ArrangeFirstTime();
-    layout.SaveSplitterSettings(profile, common.SettingsFile());
+    layout.SaveSplitterSettings();
     EXPECT_EQ(Stored("VerticalPanels"), "(absent)");
     EXPECT_EQ(Stored("VSplitPosition"), "(absent)");
     EXPECT_EQ(Stored("HSplitPosition"), "(absent)");

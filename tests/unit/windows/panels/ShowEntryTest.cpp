@@ -230,7 +230,7 @@ TEST_F(Search, OfAnEmptyLogFindsNothing) {
                        filter,
                        settings,
                        system.locale,
-                       shared.TextSource()};
+                       shared.Texts()};
     EntrySearch noSearch{none, noPanels.Days(), noPanels};
     EXPECT_EQ(noSearch.FindString("x", 0, 0, 0, 1), -1);
 }

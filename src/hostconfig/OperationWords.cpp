@@ -1,20 +1,18 @@
-#include "windows/filter/OperationKeywords.h"
+#include "hostconfig/OperationWords.h"
 
 #include <optional>
-#include <vector>
+#include <utility>
 
 #include "base/Attempt.h"
 #include "base/Text.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/mAppCommon.h"
 #include "log/LineReader.h"
-#include "settings/SettingsTable.h"
 
 namespace ordalyn {
 
 namespace {
 
-constexpr std::string_view kLoggingIDKey = "LoggingID";
 constexpr std::string_view kSeparator = "-";
 constexpr std::string_view kKeyPrefix = "k";
 constexpr int kFirstOutcome = 1900;
@@ -65,22 +63,33 @@ std::optional<std::string_view> KeyOf(std::string_view line) {
 }
 
 // What stands behind the first double quote (or the whole piece) without the last character.
-// Throws when that is less than nothing: the quote is the last character.
-std::string_view WordOf(std::string_view piece) {
+// Nothing when that is less than nothing: the quote is the last character.
+std::optional<std::string_view> WordOf(std::string_view piece) {
     const std::size_t quote = piece.find('"');
     const std::string_view rest = quote == std::string_view::npos ? piece : piece.substr(quote + 1);
     if (rest.empty())
-        throw MalformedText("A word without its closing quote");
+        return std::nullopt;
     return WithoutLastCharacter(rest);
+}
+
+// The word of a piece whose key is the element.
+std::optional<OperationWord> ItemOf(std::string_view element, std::string_view piece) {
+    const std::optional<std::string_view> key = KeyOf(piece);
+    if (!key || !EqualsIgnoreCase(element, *key))
+        return std::nullopt;
+    const std::optional<std::string_view> word = WordOf(piece);
+    if (!word)
+        return std::nullopt;
+    return OperationWord{std::string(kKeyPrefix).append(*key), std::string(*word)};
 }
 
 }  // namespace
 
-bool OperationKeywords::IsOperation(std::string_view key) {
+bool OperationWords::IsOperation(std::string_view key) {
     return LeadingNumber(WithoutFirstCharacter(key)) < kFirstOutcome;
 }
 
-std::string OperationKeywords::ReadLoggingID() {
+std::string OperationWords::ReadLoggingID() {
     std::string list =
         around_.profile
             .ReadValue(kOrdalynSection, kLoggingIDKey, around_.common.NoValueMarker(),
@@ -94,7 +103,7 @@ std::string OperationKeywords::ReadLoggingID() {
     return list;
 }
 
-void OperationKeywords::LoadOperationKeywords() {
+std::vector<OperationWord> OperationWords::LoadOperationKeywords() {
     loggingID_ = ReadLoggingID();
     const mAppCommon& common = around_.common;
     const std::string languageIni = common.ExpandPath(
@@ -102,27 +111,20 @@ void OperationKeywords::LoadOperationKeywords() {
             .ReadValue(kConfigurationSection, "LanguageIni", common.NoValueMarker(),
                        common.CommanderIni(), cProfile::kBufferSize)
             .value_or(std::string()));
-    if (common.IsNoValue(languageIni)) {
-        LoadDefaultKeywords();  // the file manager speaks its built-in English
-        return;
-    }
+    if (common.IsNoValue(languageIni))
+        return LoadDefaultKeywords();  // the file manager speaks its built-in English
     if (common.FileExists(languageIni))
-        return;
+        return {};
     const std::string languageFile = common.CommanderFolder() + "Language\\" + languageIni;
-    if (!common.FileExists(languageFile)) {
-        LoadDefaultKeywords();
-        return;
-    }
+    if (!common.FileExists(languageFile))
+        return LoadDefaultKeywords();
     std::string keywords;
     if (!Attempt([&] { keywords = CollectKeywords(languageFile); }))
-        return;  // what was read so far does not count
-    if (keywords.empty())
-        LoadDefaultKeywords();
-    else
-        FillOperationMenu(keywords);
+        return {};  // what was read so far does not count
+    return keywords.empty() ? LoadDefaultKeywords() : ItemsOf(keywords);
 }
 
-std::string OperationKeywords::CollectKeywords(std::string_view languageFile) const {
+std::string OperationWords::CollectKeywords(std::string_view languageFile) const {
     const std::vector<std::string> elements = Split(loggingID_, ',');
     std::string keywords;
     LineReader lines(around_.files.OpenForReading(languageFile), around_.codePages);
@@ -139,27 +141,24 @@ std::string OperationKeywords::CollectKeywords(std::string_view languageFile) co
     return keywords;
 }
 
-void OperationKeywords::LoadDefaultKeywords() {
-    FillOperationMenu(ReplaceIgnoreCase(kEnglishWords, "/", "\""));
+std::vector<OperationWord> OperationWords::LoadDefaultKeywords() const {
+    return ItemsOf(ReplaceIgnoreCase(kEnglishWords, "/", "\""));
 }
 
-void OperationKeywords::FillOperationMenu(std::string_view strKeywords) {
+std::vector<OperationWord> OperationWords::ItemsOf(std::string_view strKeywords) const {
     const std::vector<std::string> pieces = Split(WithoutFirstCharacter(strKeywords), ',');
+    std::vector<OperationWord> items;
     for (const std::string& element : Split(loggingID_, ',')) {
         if (element == kSeparator) {
-            Attempt([&] { toolBar_.AddMenuEntry(button_, "", kSeparator); });
+            items.push_back({"", std::string(kSeparator)});
             continue;
         }
-        for (const std::string& piece : pieces)
-            Attempt([&] { AddWord(element, piece); });
+        for (const std::string& piece : pieces) {
+            if (std::optional<OperationWord> item = ItemOf(element, piece))
+                items.push_back(*std::move(item));
+        }
     }
-}
-
-void OperationKeywords::AddWord(std::string_view element, std::string_view piece) {
-    const std::optional<std::string_view> key = KeyOf(piece);
-    if (!key || !EqualsIgnoreCase(element, *key))
-        return;
-    toolBar_.AddMenuEntry(button_, std::string(kKeyPrefix).append(*key), WordOf(piece));
+    return items;
 }
 
 }  // namespace ordalyn

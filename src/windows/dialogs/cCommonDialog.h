@@ -8,10 +8,10 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 
+#include "base/TextSource.h"
 #include "platform/Platform.h"
 
 namespace ordalyn {
@@ -30,11 +30,10 @@ class cCommonDialog {
         kLanguageFiles = 2,
         kLogFiles = 3
     };
-    using InterfaceText = std::function<std::string(std::int32_t id)>;
 
     // `text` is only asked when a dialog is shown, so what it asks may be made later.
     cCommonDialog(const platform::Services& services, const mAppCommon& common,
-                  const cRegistry& registry, InterfaceText text);
+                  const cRegistry& registry, TextSource text);
 
     // Font: input and result of ShowFontDialog.
     std::string FontName;
@@ -64,7 +63,7 @@ class cCommonDialog {
     platform::Dialogs& dialogs_;
     const mAppCommon& common_;
     const cRegistry& registry_;
-    InterfaceText text_;
+    TextSource text_;
     std::string lastFolder_;
     std::uint32_t customColors_[16] = {};
 };

@@ -1,4 +1,4 @@
-#include "hostconfig/cCommonDialog.h"
+#include "windows/dialogs/cCommonDialog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,10 @@
-// The operation words in the filter dialog's menu.
-#include "windows/filter/OperationKeywords.h"
+#include "hostconfig/OperationWords.h"
 
-#include "support/windows/FindWindow.h"
+#include <gmock/gmock.h>
+
+#include "hostconfig/cProfile.h"
+#include "hostconfig/mAppCommon.h"
+#include "support/platform/MemoryPlatform.h"
 
 namespace ordalyn::test {
 namespace {
@@ -9,14 +12,25 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr toolkit::ControlDesign kBar[] = {{.kind = toolkit::Kind::ToolBar, .name = "Toolbar1"}};
-constexpr toolkit::FormDesign kBarForm = {
-    .name = "frmBar", .tag = "", .clientSize = {2000, 400}, .style = {}, .controls = kBar};
+constexpr std::string_view kOwnFile = "C:\\Ordalyn\\Ordalyn.ini";
+constexpr std::string_view kCommanderIni = "C:\\tc\\wincmd.ini";
 
-class Keywords : public FindFixture {
+class Keywords : public testing::Test {
   protected:
-    Keywords() { bar.AddButton("", "apply-filter", true); }
+    Keywords() {
+        system.files.AddFolder("C:\\Ordalyn");
+        system.files.Set(kCommanderIni, "[Configuration]\r\n");
+        common.SetCommanderFolder("C:\\tc\\");
+        common.SetCommanderIni(kCommanderIni);
+    }
 
+    // An entry of the program's settings file; "(absent)" when there is none.
+    std::string Stored(std::string_view key) {
+        return system.ansiProfile.ReadEntry("Ordalyn", key, "(absent)", kOwnFile, 4096);
+    }
+    void Put(std::string_view key, std::string_view value) {
+        system.ansiProfile.WriteEntry("Ordalyn", key, value, kOwnFile);
+    }
     void UseLanguageFile(std::string_view bytes, std::string_view name = "WCMD_DEU.LNG") {
         system.files.Set("C:\\tc\\Language\\" + std::string(name), bytes);
         PutLanguageIni(name);
@@ -25,19 +39,19 @@ class Keywords : public FindFixture {
         system.ansiProfile.WriteEntry("Configuration", "LanguageIni", value, kCommanderIni);
     }
     std::vector<std::string> Load() {
-        keywords.LoadOperationKeywords();
-        return Words();
+        items = keywords.LoadOperationKeywords();
+        return Texts();
     }
-    std::vector<std::string> Words() const {
-        std::vector<std::string> words;
-        for (const auto& entry : bar.ButtonAt(1).menu)
-            words.push_back(entry.text);
-        return words;
+    std::vector<std::string> Texts() const {
+        std::vector<std::string> texts;
+        for (const OperationWord& item : items)
+            texts.push_back(item.text);
+        return texts;
     }
     std::vector<std::string> Keys() const {
         std::vector<std::string> keys;
-        for (const auto& entry : bar.ButtonAt(1).menu)
-            keys.push_back(entry.key);
+        for (const OperationWord& item : items)
+            keys.push_back(item.key);
         return keys;
     }
     static auto EnglishWords() {
@@ -46,9 +60,11 @@ class Keywords : public FindFixture {
                            "Unpack", "Test");
     }
 
-    toolkit::Form form{tools, kBarForm};
-    toolkit::ToolBar& bar = form.Get<toolkit::ToolBar>("Toolbar1");
-    OperationKeywords keywords{{common, profile, system.files, system.codePages}, bar, 1};
+    MemoryPlatform system;
+    mAppCommon common{system.services};
+    cProfile profile{system.services, common};
+    OperationWords keywords{{common, profile, system.files, system.codePages}};
+    std::vector<OperationWord> items;
 };
 
 TEST_F(Keywords, WithoutALanguageFileAreTheEnglishOnesInTheDefaultOrder) {
@@ -62,8 +78,10 @@ TEST_F(Keywords, TheDefaultOrderIsWrittenToTheSettingsFileAtOnce) {
     Load();
     EXPECT_EQ(Stored("LoggingID"),
               "1800,1801,-,1802,1803,1806,1807,-,1805,1811,1804,-,1808,1809,1810");
-    EXPECT_TRUE(
-        FileHolds("LoggingID=1800,1801,-,1802,1803,1806,1807,-,1805,1811,1804,-,1808,1809,1810"));
+    EXPECT_THAT(
+        system.files.Get(kOwnFile).value_or(""),
+        testing::HasSubstr(
+            "\r\nLoggingID=1800,1801,-,1802,1803,1806,1807,-,1805,1811,1804,-,1808,1809,1810\r\n"));
 }
 
 TEST_F(Keywords, TheUsersOrderIsLeftInTheSettingsFile) {
@@ -103,10 +121,9 @@ TEST_F(Keywords, AnEmptyOrderOffersNothing) {
     EXPECT_EQ(Stored("LoggingID"), "");
 }
 
-TEST_F(Keywords, AnElementOfTheListTwiceGivesOneItemButTwoSeparators) {
+TEST_F(Keywords, AnElementOfTheListTwiceComesAtBothPlaces) {
     Put("LoggingID", "1802,-,-,1802,9999,1803");
-    UseLanguageFile("1802=\"Kopieren\"\r\n1803=\"Verschieben\"\r\n");
-    EXPECT_THAT(Load(), ElementsAre("Kopieren", "-", "-", "Verschieben"));
+    EXPECT_THAT(Load(), ElementsAre("Copy", "-", "-", "Copy", "Move"));
 }
 
 TEST_F(Keywords, OfTheLanguageFileComeInTheOrderOfTheList) {
@@ -168,7 +185,6 @@ TEST_F(Keywords, ALanguageFileThatCannotBeReadGivesNoWords) {
     UseLanguageFile("1802=\"Kopieren\"\r\n");
     system.files.Lock("C:\\tc\\Language\\WCMD_DEU.LNG");
     EXPECT_THAT(Load(), IsEmpty());
-    EXPECT_THAT(tools.messages, IsEmpty());
 }
 
 TEST_F(Keywords, AReadThatFailsHalfWayGivesNoWords) {
@@ -185,10 +201,11 @@ TEST_F(Keywords, LinesAreTrimmedBeforeTheyAreTakenApart) {
     EXPECT_THAT(Load(), ElementsAre("Kopieren"));  // the key "1803 " is another
 }
 
-TEST_F(Keywords, AWordListedTwiceInTheFileIsTheFirstOne) {
+TEST_F(Keywords, AWordListedTwiceInTheFileComesTwiceTheFirstOneInFront) {
     UseLanguageFile("1802=\"Kopieren\"\r\n1802=\"Kopie\"\r\n");
     Put("LoggingID", "1802");
-    EXPECT_THAT(Load(), ElementsAre("Kopieren"));
+    EXPECT_THAT(Load(), ElementsAre("Kopieren", "Kopie"));
+    EXPECT_THAT(Keys(), ElementsAre("k1802", "k1802"));
 }
 
 TEST_F(Keywords, AWordWithoutQuotesComesWithItsIdAndLosesItsLastCharacter) {
@@ -245,21 +262,14 @@ TEST_F(Keywords, OfAUtf8FileAreReadAsSuchWithAndWithoutAMark) {
     EXPECT_THAT(Load(), ElementsAre("Копирование", "Перемещение"));
     UseLanguageFile("Русский\r\ncodepage=65001\r\n1804=\"Создание ярлыка\"\r\n", "U.LNG");
     Put("LoggingID", "1804");
-    keywords.LoadOperationKeywords();
-    EXPECT_EQ(Words().back(), "Создание ярлыка");
-}
-
-TEST_F(Keywords, AreAppendedBehindWhatTheMenuHolds) {
-    bar.AddMenuEntry(1, "other", "Other");
-    Put("LoggingID", "1802");
-    EXPECT_THAT(Load(), ElementsAre("Other", "Copy"));
+    EXPECT_THAT(Load(), ElementsAre("Создание ярлыка"));
 }
 
 TEST_F(Keywords, TellOperationsFromOutcomesByTheirId) {
-    EXPECT_TRUE(OperationKeywords::IsOperation("k1802"));
-    EXPECT_TRUE(OperationKeywords::IsOperation("k1899"));
-    EXPECT_FALSE(OperationKeywords::IsOperation("k1900"));
-    EXPECT_FALSE(OperationKeywords::IsOperation("k1921"));
+    EXPECT_TRUE(OperationWords::IsOperation("k1802"));
+    EXPECT_TRUE(OperationWords::IsOperation("k1899"));
+    EXPECT_FALSE(OperationWords::IsOperation("k1900"));
+    EXPECT_FALSE(OperationWords::IsOperation("k1921"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "hostconfig/cCommonDialog.h"
+#include "windows/dialogs/cCommonDialog.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -71,7 +71,7 @@ std::uint32_t ColorPart(std::string_view number) {
 }  // namespace
 
 cCommonDialog::cCommonDialog(const platform::Services& services, const mAppCommon& common,
-                             const cRegistry& registry, InterfaceText text)
+                             const cRegistry& registry, TextSource text)
     : dialogs_(services.dialogs), common_(common), registry_(registry), text_(std::move(text)) {}
 
 void cCommonDialog::ShowOpenDialog(platform::WindowHandle lngOwnerFormHwnd,
