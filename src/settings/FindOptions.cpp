@@ -9,7 +9,7 @@ namespace ordalyn {
 
 namespace {
 
-std::optional<std::int32_t> NumberAt(const std::vector<std::string>& parts, std::size_t index) {
+std::optional<std::int32_t> LongAt(const std::vector<std::string>& parts, std::size_t index) {
     std::optional<std::int32_t> number;
     if (index < parts.size())
         Attempt([&] { number = ToLong(parts[index]); });
@@ -17,7 +17,7 @@ std::optional<std::int32_t> NumberAt(const std::vector<std::string>& parts, std:
 }
 
 std::optional<std::int32_t> ZeroOrOneAt(const std::vector<std::string>& parts, std::size_t index) {
-    const std::optional<std::int32_t> number = NumberAt(parts, index);
+    const std::optional<std::int32_t> number = LongAt(parts, index);
     return number == 0 || number == 1 ? number : std::nullopt;
 }
 
@@ -35,7 +35,7 @@ std::string PartText(const std::optional<T>& value) {
 
 FindOptions ParseFindOptions(std::string_view text) {
     const std::vector<std::string> parts = Split(text, ',');
-    return {.historyIndex = NumberAt(parts, 0),
+    return {.historyIndex = LongAt(parts, 0),
             .column = ZeroOrOneAt(parts, 1),
             .wholeWord = FlagAt(parts, 2),
             .selectedDateOnly = FlagAt(parts, 3)};

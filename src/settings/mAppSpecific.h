@@ -21,10 +21,8 @@ class mAppSpecific : public SettingsValues {
   public:
     mAppSpecific(cProfile& profile, mAppCommon& common);
 
-    // Values that live as long as the program runs and are not stored.
-    std::string FilterText;        // what rows are tested against; empty: no filter
-    std::int32_t ColumnNo = 0;     // the find dialog's column: 0 source, 1 target
-    std::int32_t OptionsPage = 0;  // the options dialog's page that was seen last, 0-based
+    // The options dialog's page that was seen last, 0-based; not stored.
+    std::int32_t OptionsPage = 0;
 
     // Reads every setting, in the table's order. A missing file or entry gives the default, an
     // empty entry of a number 0. A number entry that is no number throws TypeMismatch (or Overflow

@@ -111,6 +111,10 @@ void ComboBox::SelectText(std::size_t start, std::size_t length) {
     peer_->SelectText(start, length);
 }
 
+bool ComboBox::NeedsKey(int key) const {
+    return (key == key::Enter || key == key::Escape) && peer_->IsDroppedDown();
+}
+
 void ComboBox::UserSelected(int index) {
     listIndex_ = index;
     if (editable_ && index >= 0)

@@ -41,6 +41,8 @@ class ComboBox : public Control {
     const std::string& Text() const;
     void SetText(std::string_view text);
     void SelectText(std::size_t start, std::size_t length);
+    // Enter and Escape close an open list.
+    bool NeedsKey(int key) const override;
     Event<> Change;
 
     // For the peer.

@@ -6,39 +6,26 @@
 
 namespace ordalyn::toolkit {
 
-std::string_view KindName(Kind kind) {
+namespace {
+
+// Whether Tab stops at a control of the kind, unless its design says otherwise.
+bool IsUsualTabStop(Kind kind) {
     switch (kind) {
-        case Kind::Form:
-            return "form";
-        case Kind::Label:
-            return "label";
-        case Kind::Frame:
-            return "frame";
-        case Kind::PictureBox:
-            return "picturebox";
         case Kind::CommandButton:
-            return "commandbutton";
         case Kind::CheckBox:
-            return "checkbox";
         case Kind::OptionButton:
-            return "optionbutton";
         case Kind::TextBox:
-            return "textbox";
         case Kind::ComboBox:
-            return "combobox";
         case Kind::ListView:
-            return "listview";
-        case Kind::StatusBar:
-            return "statusbar";
         case Kind::ToolBar:
-            return "toolbar";
         case Kind::TabStrip:
-            return "tabstrip";
-        case Kind::ProgressBar:
-            return "progressbar";
+            return true;
+        default:
+            return false;
     }
-    return "";
 }
+
+}  // namespace
 
 std::string CaptionShowing(std::string_view text) {
     std::string caption;
@@ -48,7 +35,7 @@ std::string CaptionShowing(std::string_view text) {
 }
 
 Control::Control(Kind kind, std::string_view name, int index)
-    : kind_(kind), name_(name), index_(index) {}
+    : kind_(kind), name_(name), index_(index), tabStop_(IsUsualTabStop(kind)) {}
 
 void Control::InitialisePeer(const Rect& bounds) {
     font_ = {};
@@ -56,7 +43,7 @@ void Control::InitialisePeer(const Rect& bounds) {
     TakeBounds(bounds);
 }
 
-// Answers of the peer count: kinds that fix their own height report it here.
+// What the peer returns counts: kinds that decide on their own height report it here.
 void Control::TakeBounds(const Rect& bounds) {
     // Written so that values that are no numbers fail too.
     if (!(bounds.width >= 0) || !(bounds.height >= 0))
@@ -95,6 +82,11 @@ void Control::SetVisible(bool visible) {
 void Control::SetEnabled(bool enabled) {
     enabled_ = enabled;
     peer().SetEnabled(enabled);
+}
+
+void Control::SetTabStop(bool tabStop) {
+    tabStop_ = tabStop;
+    peer().SetTabStop(tabStop);
 }
 
 void Control::SetContainer(Control& container) {

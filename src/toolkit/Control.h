@@ -28,9 +28,6 @@ enum class Kind {
     ProgressBar
 };
 
-// The kind's name as routines that tell kinds apart by name use it: "label", "checkbox", ...
-std::string_view KindName(Kind kind);
-
 // The caption that shows a text which is data (a file name): "&" marks nothing in it.
 std::string CaptionShowing(std::string_view text);
 
@@ -91,6 +88,11 @@ class Control {
     void SetToolTip(std::string_view text);
     void BringToFront() { peer().BringToFront(); }
     void SetFocus() { peer().TakeFocus(); }
+    // Whether Tab stops here. Of the options of a group it stops at one only.
+    bool TabStop() const { return tabStop_; }
+    void SetTabStop(bool tabStop);
+    // Whether the user can use it now: it and everything around it are visible and enabled.
+    bool CanTakeInput() const { return peer().CanTakeInput(); }
     void Refresh() { peer().Refresh(); }
 
     // Events that every kind can raise. Click is raised by the kinds that a user can press.
@@ -102,9 +104,11 @@ class Control {
 
     // For peers: what the user or the system did.
     void UserClicked() { Click.Raise(); }
-    // A key that the form offers to the control with the focus before it uses it itself; answers
+    // A key that the form offers to the control with the focus before it uses it itself; returns
     // whether the control used it. `held`: the key repeats itself because it is held down.
     virtual bool UserPressedKey(int /*key*/, bool /*held*/) { return false; }
+    // Whether the control with the focus must get the key, and only its form may see it before.
+    virtual bool NeedsKey(int /*key*/) const { return false; }
     void SystemChangedBounds(const Rect& bounds);
 
     virtual ControlPeer& peer() const = 0;
@@ -117,7 +121,6 @@ class Control {
     void SetContainerReference(Control* container) { container_ = container; }
     void SetBoundsOnly(const Rect& bounds) { bounds_ = bounds; }
     void SetVisibleOnly(bool visible) { visible_ = visible; }
-    void SetCaptionOnly(std::string_view caption) { caption_ = caption; }
 
   private:
     Kind kind_;
@@ -128,6 +131,7 @@ class Control {
     Rect bounds_;
     bool visible_ = true;
     bool enabled_ = true;
+    bool tabStop_;
     std::string caption_;
     toolkit::Font font_;
     Color foreColor_ = kWindowText;

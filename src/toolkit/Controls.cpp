@@ -72,7 +72,9 @@ void Toggle::SetChecked(bool checked) {
     }
     if (!checked)
         return;
-    for (Toggle* other : others_) {
+    for (Toggle* other : group_) {
+        if (other == this)
+            continue;
         other->checked_ = false;
         other->peer_->SetChecked(false);
     }

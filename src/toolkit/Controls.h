@@ -65,13 +65,14 @@ class Toggle : public Control {
     void SetChecked(bool checked);
     // For the peer: the user pressed it.
     void UserToggled();
-    // For the form: the options that exclude this one.
-    void SetGroup(std::vector<Toggle*> others) { others_ = std::move(others); }
+    // The options that exclude each other, this one among them, in design order. Set by the form.
+    const std::vector<Toggle*>& Group() const { return group_; }
+    void SetGroup(std::vector<Toggle*> group) { group_ = std::move(group); }
 
   private:
     std::unique_ptr<TogglePeer> peer_;
     bool checked_ = false;
-    std::vector<Toggle*> others_;
+    std::vector<Toggle*> group_;
 };
 
 class CheckBox : public Toggle {

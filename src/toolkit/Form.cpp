@@ -1,8 +1,54 @@
 #include "toolkit/Form.h"
 
 #include <algorithm>
+#include <map>
 
 namespace ordalyn::toolkit {
+
+namespace {
+
+using Creator = std::unique_ptr<Control> (*)(Toolkit& toolkit, const ControlDesign& row,
+                                             Control& container);
+
+template <typename T>
+std::unique_ptr<Control> Create(Toolkit& toolkit, const ControlDesign& row, Control& container) {
+    return std::make_unique<T>(toolkit, row.name, row.index, container, row.bounds);
+}
+
+template <>
+std::unique_ptr<Control> Create<ComboBox>(Toolkit& toolkit, const ControlDesign& row,
+                                          Control& container) {
+    return std::make_unique<ComboBox>(toolkit, row.editable, row.name, row.index, container,
+                                      row.bounds);
+}
+
+// One for each kind that stands on a form.
+constexpr std::pair<Kind, Creator> kCreators[] = {
+    {Kind::Label, Create<Label>},
+    {Kind::Frame, Create<Frame>},
+    {Kind::PictureBox, Create<PictureBox>},
+    {Kind::CommandButton, Create<CommandButton>},
+    {Kind::CheckBox, Create<CheckBox>},
+    {Kind::OptionButton, Create<OptionButton>},
+    {Kind::TextBox, Create<TextBox>},
+    {Kind::ComboBox, Create<ComboBox>},
+    {Kind::ListView, Create<ListView>},
+    {Kind::StatusBar, Create<StatusBar>},
+    {Kind::ToolBar, Create<ToolBar>},
+    {Kind::TabStrip, Create<TabStrip>},
+    {Kind::ProgressBar, Create<ProgressBar>},
+};
+
+std::unique_ptr<Control> CreateControl(Toolkit& toolkit, const ControlDesign& row,
+                                       Control& container) {
+    for (const auto& [kind, create] : kCreators) {
+        if (kind == row.kind)
+            return create(toolkit, row, container);
+    }
+    throw InvalidPropertyValue("kind");
+}
+
+}  // namespace
 
 Form::Form(Toolkit& toolkit, const FormDesign& design)
     : Control(Kind::Form, design.name, -1),
@@ -44,90 +90,49 @@ void Form::CreateMenus(const FormDesign& design) {
         peer_->RebuildMenus();
 }
 
+Control& Form::ContainerOf(const ControlDesign& row) {
+    if (*row.container == '\0')
+        return *this;
+    Control* const container = FindControl(row.container, row.containerIndex);
+    if (container == nullptr)
+        throw SubscriptOutOfRange();
+    return *container;
+}
+
 void Form::CreateControls(const FormDesign& design) {
     for (const ControlDesign& row : design.controls) {
-        Control* container =
-            *row.container == '\0' ? this : FindControl(row.container, row.containerIndex);
-        if (container == nullptr)
-            throw SubscriptOutOfRange();
-        const auto make = [&]() -> std::unique_ptr<Control> {
-            switch (row.kind) {
-                case Kind::Label:
-                    return std::make_unique<Label>(toolkit_, row.name, row.index, *container,
-                                                   row.bounds);
-                case Kind::Frame:
-                    return std::make_unique<Frame>(toolkit_, row.name, row.index, *container,
-                                                   row.bounds);
-                case Kind::PictureBox:
-                    return std::make_unique<PictureBox>(toolkit_, row.name, row.index, *container,
-                                                        row.bounds);
-                case Kind::CommandButton:
-                    return std::make_unique<CommandButton>(toolkit_, row.name, row.index,
-                                                           *container, row.bounds);
-                case Kind::CheckBox:
-                    return std::make_unique<CheckBox>(toolkit_, row.name, row.index, *container,
-                                                      row.bounds);
-                case Kind::OptionButton:
-                    return std::make_unique<OptionButton>(toolkit_, row.name, row.index, *container,
-                                                          row.bounds);
-                case Kind::TextBox:
-                    return std::make_unique<TextBox>(toolkit_, row.name, row.index, *container,
-                                                     row.bounds);
-                case Kind::ComboBox:
-                    return std::make_unique<ComboBox>(toolkit_, row.editable, row.name, row.index,
-                                                      *container, row.bounds);
-                case Kind::ListView:
-                    return std::make_unique<ListView>(toolkit_, row.name, row.index, *container,
-                                                      row.bounds);
-                case Kind::StatusBar:
-                    return std::make_unique<StatusBar>(toolkit_, row.name, row.index, *container,
-                                                       row.bounds);
-                case Kind::ToolBar:
-                    return std::make_unique<ToolBar>(toolkit_, row.name, row.index, *container,
-                                                     row.bounds);
-                case Kind::TabStrip:
-                    return std::make_unique<TabStrip>(toolkit_, row.name, row.index, *container,
-                                                      row.bounds);
-                case Kind::ProgressBar:
-                    return std::make_unique<ProgressBar>(toolkit_, row.name, row.index, *container,
-                                                         row.bounds);
-                case Kind::Form:
-                    break;
-            }
-            throw InvalidPropertyValue("kind");
-        };
-        controls_.push_back(make());
+        controls_.push_back(CreateControl(toolkit_, row, ContainerOf(row)));
         Control& control = *controls_.back();
         control.SetTag(row.tag);
         if (!row.visible)
             control.SetVisible(false);
         if (row.tabStop)
-            control.peer().SetTabStop(*row.tabStop);
+            control.SetTabStop(*row.tabStop);
     }
     GroupOptions();
-    ControlPeer* defaultButton = nullptr;
-    ControlPeer* cancelButton = nullptr;
+    SetDialogButtons(design);
+}
+
+void Form::SetDialogButtons(const FormDesign& design) {
     for (const ControlDesign& row : design.controls) {
         if (row.isDefault)
-            defaultButton = &FindControl(row.name, row.index)->peer();
+            defaultButton_ = FindControl(row.name, row.index);
         if (row.isCancel)
-            cancelButton = &FindControl(row.name, row.index)->peer();
+            cancelButton_ = FindControl(row.name, row.index);
     }
-    peer_->SetDialogButtons(defaultButton, cancelButton);
+    peer_->SetDefaultButton(defaultButton_ == nullptr ? nullptr : &defaultButton_->peer());
 }
 
 // Option buttons of one container exclude each other.
 void Form::GroupOptions() {
+    std::map<const Control*, std::vector<Toggle*>> groups;  // by container
     for (const auto& control : controls_) {
-        if (control->ControlKind() != Kind::OptionButton)
-            continue;
-        std::vector<Toggle*> others;
-        for (const auto& other : controls_) {
-            if (other->ControlKind() == Kind::OptionButton && other != control &&
-                other->Container() == control->Container())
-                others.push_back(static_cast<Toggle*>(other.get()));
-        }
-        static_cast<Toggle&>(*control).SetGroup(std::move(others));
+        if (control->ControlKind() == Kind::OptionButton)
+            groups[control->Container()].push_back(dynamic_cast<Toggle*>(control.get()));
+    }
+    for (const auto& [container, group] : groups) {
+        for (Toggle* option : group)
+            option->SetGroup(group);
     }
 }
 

@@ -57,10 +57,16 @@ class Form : public Control {
     void ShowModal(Form* owner);
     void Hide();
     void SetVisible(bool visible) override;
-    // Asks QueryUnload, then raises Unload and takes the window away. Answers whether it did.
+    // Asks QueryUnload, then raises Unload and takes the window away. Returns whether it did.
     bool Unload();
     bool Unloaded() const { return unloaded_; }
     std::uintptr_t Handle() const { return peer_->Handle(); }
+    // Expires with the form: whoever raises an event looks before touching the form again.
+    std::weak_ptr<const void> Lifetime() const { return lifetime_; }
+
+    // The command buttons that Enter and Escape press; null: none.
+    Control* DefaultButton() const { return defaultButton_; }
+    Control* CancelButton() const { return cancelButton_; }
 
     void PopUpMenu(MenuItem& item) { peer_->PopUp(item); }
 
@@ -69,17 +75,20 @@ class Form : public Control {
     Event<> Unloading;
     Event<const std::vector<std::string>&> FilesDropped;  // full paths
 
-    // For the peer. Keys are reported before the control that has the focus sees them; KeyDown
-    // answers whether the form used the key up (a menu shortcut), so that the control never gets
-    // it.
+    // For FormKeyboard. Keys are reported before the control that has the focus sees them;
+    // UserKeyDown returns whether the form used the key up (a menu shortcut), so that the control
+    // never gets it.
     bool UserKeyDown(int key, Modifiers modifiers);
     void UserKeyUp(int key, Modifiers modifiers) { KeyUp.Raise(key, modifiers); }
+    // For the peer.
     void UserClosed();  // close box, Alt+F4, end of the session
     void SystemActivated() { Activate.Raise(); }
     void SystemResized(const Rect& outer, WindowState state);
 
   private:
     void CreateControls(const FormDesign& design);
+    Control& ContainerOf(const ControlDesign& row);
+    void SetDialogButtons(const FormDesign& design);
     void CreateMenus(const FormDesign& design);
     void GroupOptions();
     Control* FindControl(std::string_view name, int index) const;
@@ -89,6 +98,9 @@ class Form : public Control {
     std::unique_ptr<FormPeer> peer_;
     std::vector<std::unique_ptr<Control>> controls_;
     std::vector<std::unique_ptr<MenuItem>> menus_;
+    Control* defaultButton_ = nullptr;
+    Control* cancelButton_ = nullptr;
+    std::shared_ptr<const int> lifetime_ = std::make_shared<const int>(0);
     bool modal_ = false;
     bool unloaded_ = false;
 };

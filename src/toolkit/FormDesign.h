@@ -30,7 +30,7 @@ struct ControlDesign {
     bool editable = false;   // combo boxes
     bool isDefault = false;  // command buttons: pressed by Enter
     bool isCancel = false;   // command buttons: pressed by Escape
-    // Whether Tab stops at it; unset: as is usual for the kind (at labels it does not).
+    // Whether Tab stops at it; unset: as is usual for the kind (it does not stop at labels).
     std::optional<bool> tabStop = {};
 };
 

@@ -1,7 +1,5 @@
 #include "toolkit/ListView.h"
 
-#include <algorithm>
-
 #include "base/Errors.h"
 
 namespace ordalyn::toolkit {
@@ -115,11 +113,6 @@ std::string_view ListView::Text(int row, int column) const {
     RequireColumn(column);
     return source_->Text((*tags_)[static_cast<std::size_t>(row)],
                          columns_[static_cast<std::size_t>(column)].field);
-}
-
-int ListView::RowOfTag(std::int32_t tag) const {
-    const auto found = std::find(tags_->begin(), tags_->end(), tag);
-    return found == tags_->end() ? -1 : static_cast<int>(found - tags_->begin());
 }
 
 void ListView::SelectRow(int row) {

@@ -12,7 +12,7 @@
 namespace ordalyn::toolkit {
 
 // Where the texts of rows come from. A row is known by its tag; a column shows one of the source's
-// fields. The answer stays valid as long as the source lives. Nothing throws: a tag that the source
+// fields. The text stays valid as long as the source lives. Nothing throws: a tag that the source
 // does not know has empty texts.
 class RowSource {
   public:
@@ -54,7 +54,6 @@ class ListView : public Control {
     std::string_view Text(int row, int column) const;
     const Tags& RowTags() const { return tags_; }
     const std::shared_ptr<const RowSource>& Source() const { return source_; }
-    int RowOfTag(std::int32_t tag) const;  // -1 when no row has it
 
     int SelectedRow() const { return selectedRow_; }
     void SelectRow(int row);  // -1 for none

@@ -2,6 +2,7 @@
 
 #include "base/Errors.h"
 #include "toolkit/Form.h"
+#include "toolkit/ShortcutText.h"
 
 namespace ordalyn::toolkit {
 
@@ -48,6 +49,10 @@ void MenuItem::SetShortcut(const Shortcut& shortcut) {
 void MenuItem::SetKeyHint(std::string_view hint) {
     keyHint_ = hint;
     Update();
+}
+
+std::string MenuItem::KeyText() const {
+    return keyHint_.empty() ? ShortcutText(shortcut_) : keyHint_;
 }
 
 MenuItem& MenuItem::AddItem(std::string_view name, std::string_view caption) {

@@ -37,6 +37,9 @@ class MenuItem {
     // handles itself).
     const std::string& KeyHint() const { return keyHint_; }
     void SetKeyHint(std::string_view hint);
+    // What stands right of the caption: the hint, or else the text of the shortcut.
+    std::string KeyText() const;
+    bool IsSeparator() const { return caption_ == "-"; }
 
     MenuItem* Parent() const { return parent_; }
     const std::vector<std::unique_ptr<MenuItem>>& Items() const { return items_; }

@@ -17,15 +17,15 @@ class ControlPeer {
   public:
     virtual ~ControlPeer() = default;
     // Places the control inside its container, twips from the container's inner top left corner.
-    // Answers the bounds that it really has: a kind that decides on its own height (combo boxes,
-    // status bars, which also place themselves) answers that, all others answer what was asked for
+    // Returns the bounds that it really has: a kind that decides on its own height (combo boxes,
+    // status bars, which also place themselves) returns that, all others return what was asked for
     // without rounding.
     virtual Rect Place(const Rect& wanted) = 0;
     virtual void SetContainer(ControlPeer& container) = 0;
     virtual void SetVisible(bool visible) = 0;
     virtual void SetEnabled(bool enabled) = 0;
     virtual void SetCaption(std::string_view caption) = 0;
-    // Answers the bounds after the change.
+    // Returns the bounds after the change.
     virtual Rect SetFont(const Font& font) = 0;
     virtual void SetColors(Color foreground, Color background) = 0;
     virtual void SetBorder(BorderStyle border, Appearance appearance) = 0;
@@ -35,6 +35,8 @@ class ControlPeer {
     virtual void SetTabStop(bool tabStop) = 0;
     virtual void BringToFront() = 0;
     virtual void TakeFocus() = 0;
+    // Whether the user can use it now: it and everything around it are visible and enabled.
+    virtual bool CanTakeInput() const = 0;
     virtual void Refresh() = 0;  // repaints at once
 };
 
@@ -66,6 +68,7 @@ class ComboBoxPeer : public TextPeer {
     virtual void RemoveItem(int index) = 0;
     virtual void RemoveAllItems() = 0;
     virtual void SetListIndex(int index) = 0;  // -1: none
+    virtual bool IsDroppedDown() const = 0;    // whether its list is open
 };
 
 class ListViewPeer : public ControlPeer {
@@ -74,8 +77,8 @@ class ListViewPeer : public ControlPeer {
     virtual void RemoveColumn(int index) = 0;
     virtual void SetColumnCaption(int index, std::string_view caption) = 0;
     virtual void SetColumnWidth(int index, Twips width) = 0;
-    // The user can change these: the answers are what is on the screen. A width that the user has
-    // not changed is answered as it was set.
+    // The user can change these: what is on the screen is returned. A width that the user has not
+    // changed is returned as it was set.
     virtual Twips ColumnWidth(int index) = 0;
     virtual void SetColumnPosition(int index, int position) = 0;  // both 0-based
     virtual int ColumnPosition(int index) = 0;
@@ -112,22 +115,21 @@ class TabStripPeer : public ControlPeer {
 
 class ToolBarPeer : public ControlPeer {
   public:
-    // `image` names a picture of the program's resources; the button's drop-down menu, when it has
+    // `image` names a picture (ToolBarPictures.h); the button's drop-down menu, when it has
     // one, is read from the control when it is opened.
     virtual void AddButton(std::string_view image, bool hasMenu) = 0;
     // Another button is the one that keys are for; it is marked while the bar has the focus.
     virtual void ShowCurrentButton(int index) = 0;
-    // Shows the button's menu and waits until an entry is chosen (which has then been told) or the
-    // menu is dismissed. Messages are handled meanwhile.
+    // Shows the button's menu and waits until an entry is chosen (which has been reported then) or
+    // the menu is dismissed. Messages are handled meanwhile.
     virtual void OpenMenu(int index) = 0;
-    virtual void SetButtonToolTip(int index, std::string_view text) = 0;
 };
 
 // Shows a form's menus. The tree is read from the form's menu items.
 class MenuPeer {
   public:
     virtual ~MenuPeer() = default;
-    // Items were added or removed, or one was shown or hidden: everything is to be read anew.
+    // Items were added or removed, or one was shown or hidden: the menus are rebuilt from the tree.
     virtual void RebuildMenus() = 0;
     virtual void UpdateMenuItem(class MenuItem& item) = 0;  // caption, enabled, checked
     // Shows the item's sub-items at the mouse pointer and waits until one is chosen (its Click has
@@ -137,7 +139,7 @@ class MenuPeer {
 
 class FormPeer : public ControlPeer, public MenuPeer {
   public:
-    // Place() of a form takes and answers outer bounds, from the screen's top left corner. The
+    // Place() of a form takes and returns outer bounds, from the screen's top left corner. The
     // outer bounds are those of the frame that can be seen.
     virtual Size ClientSize() = 0;                  // twips inside the frame and below the menu
     virtual Rect OuterFor(const Size& client) = 0;  // outer bounds whose inside has that size
@@ -148,10 +150,13 @@ class FormPeer : public ControlPeer, public MenuPeer {
     virtual void EndModal() = 0;
     virtual void SetWindowState(WindowState state) = 0;
     virtual WindowState CurrentWindowState() = 0;
-    virtual Rect CurrentBounds() = 0;  // outer bounds now
     virtual std::uintptr_t Handle() = 0;
-    // The command buttons that Enter and Escape press; null: none.
-    virtual void SetDialogButtons(ControlPeer* defaultButton, ControlPeer* cancelButton) = 0;
+    // The command button that looks as if Enter pressed it while no other button has the focus;
+    // null: none.
+    virtual void SetDefaultButton(ControlPeer* button) = 0;
+    // The user works with the keyboard: marks of focus and access keys that are only shown to those
+    // who do are shown from now on.
+    virtual void ShowKeyboardCues() = 0;
     virtual void Close() = 0;  // takes the window away for good
 };
 

@@ -34,7 +34,6 @@ const ToolBar::Button& ToolBar::ButtonAt(int number) const {
 
 void ToolBar::SetButtonToolTip(int number, std::string_view text) {
     At(number).toolTip = text;
-    peer_->SetButtonToolTip(number - 1, text);
 }
 
 void ToolBar::AddMenuEntry(int number, std::string_view key, std::string_view text) {

@@ -7,21 +7,20 @@
 #include <vector>
 
 #include "toolkit/Control.h"
+#include "toolkit/ToolBarPictures.h"
 
 namespace ordalyn::toolkit {
 
-// The image of a button that only keeps others apart.
-inline constexpr std::string_view kSeparatorImage = "separator";
-
-// Buttons are numbered from 1. While the bar has the focus, the arrows walk its buttons, Space and
-// Enter press the current one, Down opens its menu. A menu entry has a key, unique within its menu
-// (the empty key apart), and a text, in which "&" is a character like any other; the text "-"
-// without a key is a separator.
+// Buttons are numbered from 1. Each shows a picture (ToolBarPictures.h), apart from separators.
+// While the bar has the focus, the arrows walk its buttons, Space and Enter press the current one,
+// Down opens its menu. A menu entry has a key, unique within its menu (the empty key apart), and a
+// text, in which "&" is a character like any other; the text "-" without a key is a separator.
 class ToolBar : public Control {
   public:
     struct MenuEntry {
         std::string key;
         std::string text;
+        bool IsSeparator() const { return text == "-" && key.empty(); }
     };
     struct Button {
         std::string tag;
@@ -37,9 +36,9 @@ class ToolBar : public Control {
     void AddButton(std::string_view tag, std::string_view image, bool hasMenu);
     const Button& ButtonAt(int number) const;  // SubscriptOutOfRange
     void SetButtonToolTip(int number, std::string_view text);
-    // Throws InvalidPropertyValue when the menu holds the key already (keys ignore case).
-    // The one that keys are for; 0 while there is none.
+    // The button that keys are for; 0 while there is none.
     int CurrentButton() const { return current_; }
+    // Throws InvalidPropertyValue when the menu holds the key already (keys ignore case).
     void AddMenuEntry(int number, std::string_view key, std::string_view text);
     void SetMenuEntryText(int number, int entry, std::string_view text);  // entry is 0-based
 

@@ -1,7 +1,6 @@
 // The toolkit's entry: makes peers, knows the screen, shows message boxes, runs the message loop.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -74,8 +73,6 @@ class Toolkit {
 
     // Handles the messages that wait now, then returns. Re-entrant events are possible.
     virtual void DoEvents() = 0;
-    // Runs `work` from the message loop, after the current event.
-    virtual void Post(std::function<void()> work) = 0;
     // Handles messages until Quit.
     virtual void Run() = 0;
     virtual void Quit() = 0;

@@ -22,7 +22,6 @@ class ToggleWindow : public Peer<toolkit::TogglePeer> {
   public:
     ToggleWindow(Desktop& desktop, toolkit::Toggle& toggle, bool option,
                  toolkit::ControlPeer& container);
-    toolkit::Toggle& toggle() const { return toggle_; }
     void SetChecked(bool checked) override;
     void SetReadingOrder(bool rightToLeft, toolkit::Alignment alignment) override;
     void OnCommand(int code, int id) override;

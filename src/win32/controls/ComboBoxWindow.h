@@ -11,7 +11,7 @@ class ComboBoxWindow : public Peer<toolkit::ComboBoxPeer> {
   public:
     ComboBoxWindow(Desktop& desktop, toolkit::ComboBox& box, bool editable,
                    toolkit::ControlPeer& container);
-    bool IsDroppedDown() const { return Send(CB_GETDROPPEDSTATE) != 0; }
+    bool IsDroppedDown() const override { return Send(CB_GETDROPPEDSTATE) != 0; }
 
     toolkit::Rect Place(const toolkit::Rect& wanted) override;
     toolkit::Rect SetFont(const toolkit::Font& font) override;

@@ -4,9 +4,9 @@
 #include <cstring>
 #include <cwchar>
 
+#include "toolkit/ToolBarPictures.h"
 #include "win32/common/WideText.h"
 #include "win32/drawing/FocusMark.h"
-#include "win32/drawing/ToolBarPictures.h"
 
 namespace ordalyn::win32 {
 
@@ -143,7 +143,7 @@ void ToolBarWindow::OpenMenu(int index) {
     int id = 0;
     for (const ToolBar::MenuEntry& entry : bar_.ButtonAt(index + 1).menu) {
         ++id;
-        if (entry.text == "-" && entry.key.empty())
+        if (entry.IsSeparator())
             AppendMenuW(menu.Get(), MF_SEPARATOR, 0, nullptr);
         else
             AppendMenuW(menu.Get(), MF_STRING, static_cast<UINT_PTR>(id),

@@ -16,8 +16,6 @@ class ToolBarWindow : public Peer<toolkit::ToolBarPeer> {
     ~ToolBarWindow() override;
     void SetBorder(toolkit::BorderStyle, toolkit::Appearance) override {}
     void AddButton(std::string_view image, bool hasMenu) override;
-    // Tool tips are read from the control when they are shown.
-    void SetButtonToolTip(int, std::string_view) override {}
     void ShowCurrentButton(int index) override;
     void OpenMenu(int index) override;
 

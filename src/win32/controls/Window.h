@@ -139,6 +139,7 @@ class Peer : public Interface, public Window {
     void SetTabStop(bool tabStop) override { ShowTabStop(tabStop); }
     void BringToFront() override { RaiseToTop(); }
     void TakeFocus() override { Focus(); }
+    bool CanTakeInput() const override { return Window::CanTakeInput(); }
     void Refresh() override { RepaintNow(); }
 };
 

@@ -8,7 +8,6 @@
 namespace ordalyn::win32 {
 
 using toolkit::MenuItem;
-using toolkit::Shortcut;
 
 namespace {
 
@@ -17,44 +16,17 @@ namespace {
 constexpr int kFirstId = 0x8000;
 constexpr int kLastId = 0xEFFF;  // above are the system's own
 
-std::string KeyText(int key) {
-    if ((key >= '0' && key <= '9') || (key >= 'A' && key <= 'Z'))
-        return {static_cast<char>(key)};
-    if (key >= VK_F1 && key <= VK_F24)
-        return "F" + std::to_string(key - VK_F1 + 1);
-    struct Name {
-        int key;
-        const char* text;
-    };
-    static constexpr Name kNames[] = {
-        {VK_RETURN, "Enter"},   {VK_ESCAPE, "Esc"}, {VK_TAB, "Tab"},     {VK_SPACE, "Space"},
-        {VK_BACK, "Backspace"}, {VK_INSERT, "Ins"}, {VK_DELETE, "Del"},  {VK_HOME, "Home"},
-        {VK_END, "End"},        {VK_PRIOR, "PgUp"}, {VK_NEXT, "PgDn"},   {VK_UP, "Up"},
-        {VK_DOWN, "Down"},      {VK_LEFT, "Left"},  {VK_RIGHT, "Right"},
-    };
-    for (const Name& name : kNames) {
-        if (name.key == key)
-            return name.text;
-    }
-    return "";
-}
-
 std::wstring TextOfItem(const MenuItem& item) {
     std::string text = item.Caption();
-    const std::string hint =
-        item.KeyHint().empty() ? ShortcutText(item.Accelerator()) : item.KeyHint();
-    if (!hint.empty())
-        text += "\t" + hint;
+    const std::string keys = item.KeyText();
+    if (!keys.empty())
+        text += "\t" + keys;
     return WideForDisplay(text);
 }
 
 UINT StateOf(const MenuItem& item) {
     return (item.Checked() ? MFS_CHECKED : MFS_UNCHECKED) |
            (item.Enabled() ? MFS_ENABLED : MFS_DISABLED);
-}
-
-bool IsSeparator(const MenuItem& item) {
-    return item.Caption() == "-";
 }
 
 // Whether both bars show the same at their top level.
@@ -82,20 +54,6 @@ bool LookTheSame(HMENU a, HMENU b) {
 
 }  // namespace
 
-std::string ShortcutText(const Shortcut& shortcut) {
-    const std::string key = KeyText(shortcut.key);
-    if (key.empty())
-        return "";
-    std::string text;
-    if (shortcut.modifiers.control)
-        text += "Ctrl+";
-    if (shortcut.modifiers.alt)
-        text += "Alt+";
-    if (shortcut.modifiers.shift)
-        text += "Shift+";
-    return text + key;
-}
-
 int FormMenus::NextId() const {
     lastId_ = lastId_ < kFirstId || lastId_ >= kLastId ? kFirstId : lastId_ + 1;
     return lastId_;
@@ -115,7 +73,7 @@ void FormMenus::Insert(HMENU menu, MenuItem& item, Places& places) const {
         if (item.Parent() == nullptr && GetMenuItemCount(menu) == 0)
             info.fType |= MFT_RIGHTJUSTIFY;
     }
-    if (IsSeparator(item)) {
+    if (item.IsSeparator()) {
         info.fType |= MFT_SEPARATOR;
     } else {
         info.fMask |= MIIM_STRING;
@@ -188,7 +146,7 @@ void FormMenus::Update(HWND window, MenuItem& item) {
     if (found == places_.end())
         return;
     const auto id = static_cast<UINT>(found->first);
-    if (IsSeparator(item)) {
+    if (item.IsSeparator()) {
         Rebuild();
         return;
     }

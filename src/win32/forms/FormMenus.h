@@ -43,7 +43,4 @@ class FormMenus {
     mutable int lastId_ = 0;
 };
 
-// "Ctrl+O", "F5", ... as menus show it; empty for a key without a name.
-std::string ShortcutText(const toolkit::Shortcut& shortcut);
-
 }  // namespace ordalyn::win32

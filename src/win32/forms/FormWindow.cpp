@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/FormKeyboard.h"
 #include "win32/common/WideText.h"
 #include "win32/controls/Buttons.h"
 #include "win32/controls/WindowClasses.h"
-#include "win32/forms/FormKeys.h"
 #include "win32/forms/FormsBlocked.h"
 #include "win32/forms/MessageLoop.h"
 
@@ -264,15 +264,17 @@ void FormWindow::RestoreFocus() {
 }
 
 void FormWindow::FocusFirstTabStop() {
-    if (const Window* const first = FirstTabStop(form_))
-        SetFocus(first->handle());
+    if (toolkit::Control* const first = FormKeyboard(form_).FirstTabStop())
+        first->SetFocus();
 }
 
 void FormWindow::FocusWasLost() {
     if (handle() == nullptr)
         return;
-    const Window* const first = FirstTabStop(form_);
-    SetFocus(first != nullptr ? first->handle() : handle());
+    if (toolkit::Control* const first = FormKeyboard(form_).FirstTabStop())
+        first->SetFocus();
+    else
+        SetFocus(handle());
 }
 
 void FormWindow::ActivationChanged(bool active, bool minimised) {
@@ -289,10 +291,13 @@ void FormWindow::ActivationChanged(bool active, bool minimised) {
     PostMessageW(handle(), kActivated, 0, 0);
 }
 
-void FormWindow::SetDialogButtons(ControlPeer* defaultButton, ControlPeer* cancelButton) {
-    defaultButton_ = dynamic_cast<CommandButtonWindow*>(defaultButton);
-    cancelButton_ = dynamic_cast<CommandButtonWindow*>(cancelButton);
+void FormWindow::SetDefaultButton(ControlPeer* button) {
+    defaultButton_ = dynamic_cast<CommandButtonWindow*>(button);
     ShowDefaultButton(nullptr);
+}
+
+void FormWindow::ShowKeyboardCues(WORD cues) {
+    Send(WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, cues));
 }
 
 void FormWindow::ShowDefaultButton(CommandButtonWindow* button) {

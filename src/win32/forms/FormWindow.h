@@ -23,12 +23,13 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     bool Resizable() const override { return style_.resizable; }
     void FlushMenus() { menus_.Flush(handle()); }
 
-    // Focus and keys.
+    toolkit::Rect CurrentBounds();  // outer bounds now
+
+    // Focus and keys. The cues are those that the system hides from users of the mouse.
+    void ShowKeyboardCues(WORD cues);
     void RememberFocus(HWND window) override { focus_ = window; }
     void FocusWasLost() override;
     void FocusFirstTabStop();
-    CommandButtonWindow* DefaultButton() const { return defaultButton_; }
-    CommandButtonWindow* CancelButton() const { return cancelButton_; }
     void ShowDefaultButton(CommandButtonWindow* button) override;
     void SetToolTipOf(HWND window, std::string_view text) override;
 
@@ -52,10 +53,9 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void EndModal() override;
     void SetWindowState(toolkit::WindowState state) override;
     toolkit::WindowState CurrentWindowState() override;
-    toolkit::Rect CurrentBounds() override;
     std::uintptr_t Handle() override { return reinterpret_cast<std::uintptr_t>(handle()); }
-    void SetDialogButtons(toolkit::ControlPeer* defaultButton,
-                          toolkit::ControlPeer* cancelButton) override;
+    void SetDefaultButton(toolkit::ControlPeer* button) override;
+    void ShowKeyboardCues() override { ShowKeyboardCues(UISF_HIDEFOCUS | UISF_HIDEACCEL); }
     void Close() override;
 
   protected:
@@ -91,7 +91,6 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     HWND focus_ = nullptr;  // what had the focus, or is to get it
     bool activationPosted_ = false;
     CommandButtonWindow* defaultButton_ = nullptr;
-    CommandButtonWindow* cancelButton_ = nullptr;
     HWND toolTips_ = nullptr;  // owned by the form's window, goes with it
     ModalRun* modal_ = nullptr;
 };

@@ -1,7 +1,7 @@
 #include "win32/forms/MessageLoop.h"
 
-#include "win32/controls/ComboBoxWindow.h"
-#include "win32/forms/FormKeys.h"
+#include "toolkit/FormKeyboard.h"
+#include "win32/forms/FormWindow.h"
 
 namespace ordalyn::win32 {
 
@@ -24,19 +24,36 @@ bool IsKeyUp(const MSG& message) {
     return message.message == WM_KEYUP || message.message == WM_SYSKEYUP;
 }
 
-bool ClosesOpenList(const Window* control, WPARAM key) {
-    const auto* const box = dynamic_cast<const ComboBoxWindow*>(control);
-    return box != nullptr && (key == VK_RETURN || key == VK_ESCAPE) && box->IsDroppedDown();
+// The control of the form that the message is for; null for the form itself.
+Control* ControlOf(const FormWindow& form, HWND window) {
+    const Window* const control = Window::Containing(window);
+    return control == nullptr || control == &form ? nullptr : &control->control();
 }
 
 // These move the focus or press buttons; as characters they would only make one-line boxes beep.
 // Open lists are closed by the character.
 bool HasNoCharacter(const MSG& message) {
-    return IsKeyDown(message) &&
-           (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE ||
-            message.wParam == VK_TAB) &&
-           FormOf(message.hwnd) != nullptr &&
-           !ClosesOpenList(Window::Containing(message.hwnd), message.wParam);
+    if (!IsKeyDown(message) ||
+        (message.wParam != VK_RETURN && message.wParam != VK_ESCAPE && message.wParam != VK_TAB))
+        return false;
+    const FormWindow* const form = FormOf(message.hwnd);
+    if (form == nullptr)
+        return false;
+    const Control* const control = ControlOf(*form, message.hwnd);
+    return control == nullptr || !control->NeedsKey(static_cast<int>(message.wParam));
+}
+
+bool HandleKeyDown(FormWindow& form, Control* control, const MSG& message) {
+    const KeyPress press = {.key = static_cast<int>(message.wParam),
+                            .modifiers = CurrentModifiers(),
+                            .held = (message.lParam & 0x40000000) != 0,
+                            .forMenus = message.message == WM_SYSKEYDOWN};
+    if (FormKeyboard(form.Form()).KeyDown(control, press))
+        return true;
+    // Who presses Alt wants to see what it can be pressed with.
+    if (press.forMenus && message.wParam == VK_MENU)
+        form.ShowKeyboardCues(UISF_HIDEACCEL);
+    return false;
 }
 
 }  // namespace
@@ -98,28 +115,13 @@ bool MessageLoop::HandleKey(const MSG& message) {
     FormWindow* const form = FormOf(message.hwnd);
     if (form == nullptr)
         return false;
-    Window* control = Window::Containing(message.hwnd);
-    if (control == form)
-        control = nullptr;
-    const std::weak_ptr<const void> formAlive = form->Lifetime();
-    const auto gone = [&] { return formAlive.expired() || !IsWindow(message.hwnd); };
-    const auto key = static_cast<int>(message.wParam);
-    const Modifiers modifiers = CurrentModifiers();
-    if (down) {
-        if (form->Form().UserKeyDown(key, modifiers) || gone())
-            return true;
-        if (ClosesOpenList(control, message.wParam))
-            return false;
-        if (control != nullptr)
-            control->control().KeyDown.Raise(key, modifiers);
-    } else if (up) {
-        form->Form().UserKeyUp(key, modifiers);
-        if (gone())
-            return true;
-        if (control != nullptr)
-            control->control().KeyUp.Raise(key, modifiers);
-    }
-    return gone() || HandleFormKey(*form, control, message);
+    Control* const control = ControlOf(*form, message.hwnd);
+    if (down)
+        return HandleKeyDown(*form, control, message);
+    const FormKeyboard keyboard(form->Form());
+    if (up)
+        return keyboard.KeyUp(control, static_cast<int>(message.wParam), CurrentModifiers());
+    return keyboard.AccessKey(control, static_cast<char32_t>(message.wParam));
 }
 
 }  // namespace ordalyn::win32

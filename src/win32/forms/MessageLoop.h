@@ -1,6 +1,5 @@
 // How messages are handled, in the program's main loop and in those inside of it. Keys go to the
-// form first, then to the control's own events, then to what every form does with them, and what is
-// left to the window itself.
+// rules of the form's keyboard (toolkit/FormKeyboard.h) first; what those leave goes to the window.
 #pragma once
 
 #include "win32/controls/Desktop.h"
@@ -19,7 +18,8 @@ class MessageLoop {
 
   private:
     void Handle(const MSG& message);
-    bool HandleKey(const MSG& message);
+    // Returns whether the message was used up.
+    static bool HandleKey(const MSG& message);
     Desktop& desktop_;
 };
 

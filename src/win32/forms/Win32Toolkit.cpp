@@ -17,13 +17,6 @@ namespace ordalyn::win32 {
 
 using namespace toolkit;
 
-namespace {
-
-constexpr UINT kRunPosted = WM_APP + 1;
-constexpr UINT_PTR kWorkerSubclass = 1;
-
-}  // namespace
-
 Win32Toolkit::Win32Toolkit(HINSTANCE program, const Scale& scale) : desktop_(program, scale) {
     INITCOMMONCONTROLSEX classes = {};
     classes.dwSize = sizeof classes;
@@ -31,14 +24,6 @@ Win32Toolkit::Win32Toolkit(HINSTANCE program, const Scale& scale) : desktop_(pro
                     ICC_TAB_CLASSES | ICC_PROGRESS_CLASS;
     InitCommonControlsEx(&classes);
     RegisterWindowClasses(program);
-    worker_ = CreateWindowExW(0, kPictureClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, program,
-                              nullptr);
-    SetWindowSubclass(worker_, RunPosted, kWorkerSubclass, reinterpret_cast<DWORD_PTR>(this));
-}
-
-Win32Toolkit::~Win32Toolkit() {
-    RemoveWindowSubclass(worker_, RunPosted, kWorkerSubclass);
-    DestroyWindow(worker_);
 }
 
 std::unique_ptr<FormPeer> Win32Toolkit::CreateForm(Form& form, const FormStyle& style) {
@@ -163,26 +148,6 @@ Answer Win32Toolkit::ShowMessage(Form* owner, std::string_view text, std::string
 
 void Win32Toolkit::DoEvents() {
     MessageLoop(desktop_).RunWaiting();
-}
-
-void Win32Toolkit::Post(std::function<void()> work) {
-    posted_.push_back(std::move(work));
-    PostMessageW(worker_, kRunPosted, 0, 0);
-}
-
-LRESULT CALLBACK Win32Toolkit::RunPosted(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                         UINT_PTR, DWORD_PTR object) {
-    if (message != kRunPosted)
-        return DefSubclassProc(window, message, wParam, lParam);
-    auto* const self = reinterpret_cast<Win32Toolkit*>(object);
-    return self->desktop_.lastHandler.Run<LRESULT>(0, [self]() -> LRESULT {
-        if (self->posted_.empty())
-            return 0;
-        const std::function<void()> work = std::move(self->posted_.front());
-        self->posted_.pop_front();
-        work();
-        return 0;
-    });
 }
 
 void Win32Toolkit::Run() {

@@ -1,8 +1,6 @@
 // The toolkit on Windows.
 #pragma once
 
-#include <deque>
-
 #include "toolkit/Toolkit.h"
 #include "win32/controls/Desktop.h"
 
@@ -13,7 +11,6 @@ class Win32Toolkit : public toolkit::Toolkit {
     // `program` holds the icon (resource 1) of the forms. Outlives all forms. Tests give the scale
     // of another screen.
     explicit Win32Toolkit(HINSTANCE program, const Scale& scale = Scale());
-    ~Win32Toolkit() override;
     Win32Toolkit(const Win32Toolkit&) = delete;
     Win32Toolkit& operator=(const Win32Toolkit&) = delete;
 
@@ -55,16 +52,11 @@ class Win32Toolkit : public toolkit::Toolkit {
                                 toolkit::MessageIcon icon, toolkit::MessageButtons buttons,
                                 toolkit::Answer defaultAnswer) override;
     void DoEvents() override;
-    void Post(std::function<void()> work) override;
     void Run() override;
     void Quit() override;
 
   private:
-    static LRESULT CALLBACK RunPosted(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                      UINT_PTR id, DWORD_PTR object);
     Desktop desktop_;
-    HWND worker_ = nullptr;  // a window that is never shown, for work that was posted
-    std::deque<std::function<void()>> posted_;
 };
 
 }  // namespace ordalyn::win32

@@ -32,6 +32,7 @@ void InputHistory::AddToHistory(toolkit::ComboBox& cbo, std::string_view strKey,
         cbo.RemoveItem(cbo.ListCount() - 1);
     cbo.InsertItem(0, text);
     std::vector<std::string> items;
+    items.reserve(static_cast<std::size_t>(cbo.ListCount()));
     for (int item = 0; item < cbo.ListCount(); ++item)
         items.push_back(cbo.List(item));
     history_.Write(strKey, items);

@@ -1,5 +1,5 @@
 // SettingsFileDialog: tells the user that the file manager's settings file cannot be found, in a
-// message box, and lets him choose it, in the open dialog.
+// message box, and offers to choose it, in the open dialog.
 #pragma once
 
 #include <string>

@@ -69,9 +69,9 @@ frmFilters::frmFilters(toolkit::Toolkit& toolkit, const Surroundings& around)
       Toolbar1(Get<toolkit::ToolBar>("Toolbar1")),
       cmdCancel(Get<toolkit::CommandButton>("cmdCancel")),
       keywords_(around.keywords) {
-    Toolbar1.AddButton("", "apply-filter", true);
-    Toolbar1.AddButton("", "separator", false);
-    Toolbar1.AddButton("", "remove-filter", true);
+    Toolbar1.AddButton("", toolkit::kApplyFilterImage, true);
+    Toolbar1.AddButton("", toolkit::kSeparatorImage, false);
+    Toolbar1.AddButton("", toolkit::kRemoveFilterImage, true);
     Toolbar1.AddMenuEntry(kRemoveButton, kClearKey, "");
     for (toolkit::ComboBox* box : {&cboContains, &cboSource})
         box->AddItems({"", ""});  // LoadInterface has their texts

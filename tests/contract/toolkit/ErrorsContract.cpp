@@ -104,14 +104,6 @@ TEST_P(LastHandlers, TellOfAClosingsError) {
     ExpectTold("Overflow");
 }
 
-TEST_P(LastHandlers, TellOfPostedWorksError) {
-    bool later = false;
-    Kit().Post([] { throw TypeMismatch(); });
-    Kit().Post([&] { later = true; });
-    ExpectTold("Type mismatch");
-    EXPECT_TRUE(later);
-}
-
 TEST_P(LastHandlers, TellOfAModalFormsErrorWithoutEndingIt) {
     auto dialog = NewForm();
     auto& button = dialog->Get<CommandButton>("cmdOk");

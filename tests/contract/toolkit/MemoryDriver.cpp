@@ -34,6 +34,7 @@ class MemoryDriver : public ToolkitDriver {
     }
     Toolkit& Kit() override { return kit_; }
     void Settle() override { kit_.DoEvents(); }
+    void Later(std::function<void()> work) override { kit_.Later(std::move(work)); }
 
     void Choose(ComboBox& box, int index) override {
         Do(box, [&] {
@@ -110,7 +111,7 @@ class MemoryDriver : public ToolkitDriver {
         const ShownMenu* found = nullptr;
         for (const int position : path) {
             found = &items->at(static_cast<std::size_t>(position));
-            if (!found->enabled || found->caption == "-")
+            if (!found->enabled || found->separator)
                 return;
             items = &found->items;
         }
@@ -319,9 +320,8 @@ class MemoryDriver : public ToolkitDriver {
     static std::vector<MenuSeen> Seen(const std::vector<ShownMenu>& menus) {
         std::vector<MenuSeen> seen;
         for (const ShownMenu& menu : menus) {
-            const bool separator = menu.caption == "-";
-            seen.push_back({separator ? "" : menu.caption, menu.keys, menu.enabled, menu.checked,
-                            separator, Seen(menu.items)});
+            seen.push_back({menu.separator ? "" : menu.caption, menu.keys, menu.enabled,
+                            menu.checked, menu.separator, Seen(menu.items)});
         }
         return seen;
     }

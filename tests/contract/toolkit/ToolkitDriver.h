@@ -45,6 +45,8 @@ class ToolkitDriver {
     virtual toolkit::Toolkit& Kit() = 0;
     // Handles all messages that wait.
     virtual void Settle() = 0;
+    // Runs `work` when messages are handled next; in the order of these calls.
+    virtual void Later(std::function<void()> work) = 0;
 
     // What a user does. Nothing happens where a user could not do it: in what is hidden or
     // disabled, or in forms that wait for a modal one.

@@ -247,9 +247,9 @@ class Win32Driver : public Win32Sight {
     void PopUpAndChoose(Form& form, MenuItem& menu, int position) override {
         int selectable = 0;
         for (int i = 0; i <= position; ++i)
-            selectable += menu.Items()[static_cast<std::size_t>(i)]->Caption() == "-" ? 0 : 1;
+            selectable += menu.Items()[static_cast<std::size_t>(i)]->IsSeparator() ? 0 : 1;
         watch_.ExpectMenu(selectable);
-        Kit().Post([&] { form.PopUpMenu(menu); });
+        Later([&] { form.PopUpMenu(menu); });
         Settle();
     }
     void Close(Form& form) override {
@@ -261,7 +261,7 @@ class Win32Driver : public Win32Sight {
     void ResizeTo(Form& form, Pixels size) override {
         RECT window = {};
         GetWindowRect(HandleOf(form), &window);
-        const Rect visible = form.formPeer().CurrentBounds();
+        const Rect visible = BoundsOf(form);
         const int width = window.right - window.left + size.x -
                           static_cast<int>(std::lround(visible.width / Kit().TwipsPerPixelX()));
         const int height = window.bottom - window.top + size.y -
@@ -307,7 +307,7 @@ class Win32Driver : public Win32Sight {
         Settle();
     }
     void RunModal(Form& form, Form* owner, std::function<void()> meanwhile) override {
-        Kit().Post(std::move(meanwhile));
+        Later(std::move(meanwhile));
         form.ShowModal(owner);
     }
     void AnswerBoxes(std::function<Answer(const BoxSeen&)> answer) override {
@@ -320,7 +320,7 @@ class Win32Driver : public Win32Sight {
         int steps = 0;
         for (int i = 0; i <= entry; ++i) {
             const auto& e = bar.ButtonAt(number).menu[static_cast<std::size_t>(i)];
-            steps += e.key.empty() && e.text == "-" ? 0 : 1;
+            steps += e.IsSeparator() ? 0 : 1;
         }
         return steps;
     }

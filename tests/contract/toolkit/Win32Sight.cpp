@@ -2,6 +2,7 @@
 
 #include "contract/toolkit/Win32Windows.h"
 #include "win32/common/WideText.h"
+#include "win32/forms/FormWindow.h"
 
 namespace ordalyn::contract {
 
@@ -93,7 +94,7 @@ Selection Win32Sight::SelectionOf(const Control& control) {
 
 Rect Win32Sight::BoundsOf(const Control& control) {
     if (const auto* const form = dynamic_cast<const Form*>(&control))
-        return form->formPeer().CurrentBounds();
+        return dynamic_cast<win32::FormWindow&>(form->peer()).CurrentBounds();
     const HWND window = HandleOf(control);
     RECT r = {};
     GetWindowRect(window, &r);

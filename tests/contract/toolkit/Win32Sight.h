@@ -1,7 +1,10 @@
 // The eyes of a user on Windows: reads the windows themselves.
 #pragma once
 
+#include <utility>
+
 #include "contract/toolkit/ToolkitDriver.h"
+#include "support/win32/LaterWork.h"
 #include "win32/forms/Win32Toolkit.h"
 
 namespace ordalyn::contract {
@@ -10,6 +13,7 @@ class Win32Sight : public ToolkitDriver {
   public:
     toolkit::Toolkit& Kit() override { return kit_; }
     void Settle() override;
+    void Later(std::function<void()> work) override { later_.Add(std::move(work)); }
 
     bool IsVisible(const toolkit::Control& control) override;
     bool IsEnabled(const toolkit::Control& control) override;
@@ -37,6 +41,7 @@ class Win32Sight : public ToolkitDriver {
 
   private:
     win32::Win32Toolkit kit_{GetModuleHandleW(nullptr)};
+    test::LaterWork later_;
 };
 
 }  // namespace ordalyn::contract

@@ -4,7 +4,7 @@
 
 #include <deque>
 #include <functional>
-#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,7 +29,7 @@ struct Shown {
     toolkit::Alignment alignment = toolkit::Alignment::Left;
     toolkit::Pointer pointer = toolkit::Pointer::Default;
     std::string toolTip;
-    bool tabStop = true;
+    std::optional<bool> tabStop;  // what the control was designed with
     bool plainText = false;
     int refreshes = 0;
     int broughtToFront = 0;
@@ -39,6 +39,7 @@ struct Shown {
     std::size_t selectionStart = 0, selectionLength = 0;
     std::vector<std::string> items;
     int listIndex = -1;
+    bool droppedDown = false;
     struct Column {
         std::string caption;
         toolkit::Twips width;
@@ -59,11 +60,11 @@ struct Shown {
     std::vector<int> values;  // every value that a progress bar has shown
     std::vector<std::string> tabs;
     int selectedTab = 0;
-    // Forms: what has the focus while the form is the active one, and the buttons that Enter and
-    // Escape press.
+    // Forms: what has the focus while the form is the active one, and the button that looks as if
+    // Enter pressed it.
     toolkit::Control* focused = nullptr;
-    toolkit::Control* defaultButton = nullptr;
-    toolkit::Control* cancelButton = nullptr;
+    const toolkit::ControlPeer* defaultButton = nullptr;
+    bool keyboardCues = false;
 };
 
 // A menu item as it is shown; items that are not visible are not shown.
@@ -73,6 +74,7 @@ struct ShownMenu {
     std::string keys;  // right of the caption
     bool enabled = true;
     bool checked = false;
+    bool separator = false;
     std::vector<ShownMenu> items;
 };
 
@@ -93,7 +95,7 @@ class MemoryToolkit : public toolkit::Toolkit {
     // What is shown of a control or form of this toolkit.
     static const Shown& Of(const toolkit::Control& control);
     static Shown& Mutable(const toolkit::Control& control);
-    // The menu bar, as it was when the form last told that it had changed.
+    // The menu bar, as it was when the form last reported a change.
     static const std::vector<ShownMenu>& MenusOf(const toolkit::Form& form);
 
     // What the tests script and look at.
@@ -107,7 +109,7 @@ class MemoryToolkit : public toolkit::Toolkit {
     std::function<void()> onDoEvents;
     std::vector<std::string> poppedUpMenus;
     std::function<void(toolkit::MenuItem&)> onPopUp;
-    // Called when a tool bar's menu is opened by a key; answers the entry that is chosen, or -1.
+    // Called when a tool bar's menu is opened by a key; returns the entry that is chosen, or -1.
     std::function<int(const toolkit::ToolBar&, int number)> onToolMenu;
     toolkit::Pointer pointer = toolkit::Pointer::Default;
     std::vector<toolkit::Pointer> pointers;  // every pointer that was set
@@ -119,10 +121,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     std::vector<std::string> closedForms;   // names, in the order in which their windows went
 
     // What a user does. A form that a modal one keeps disabled gets nothing. Errors that no handler
-    // catches end in a message box, here as in the work that was posted.
-    // A key goes to the form, then to the control with the focus; after that Tab moves the focus,
-    // Enter and Escape press the form's buttons (Enter the button that has the focus), and Alt with
-    // a letter goes to the control whose caption marks it.
+    // catches end in a message box, here as in the work for later.
+    // A key goes to the form and to the control that has the focus in it (toolkit/FormKeyboard.h).
     void Press(toolkit::Form& form, int key, toolkit::Modifiers modifiers = {});
     // The same after giving the control the focus.
     void PressIn(toolkit::Form& form, toolkit::Control& control, int key,
@@ -132,7 +132,9 @@ class MemoryToolkit : public toolkit::Toolkit {
     void AsTheMessageLoop(const std::function<void()>& work);
     static void DragColumn(const toolkit::ListView& list, int column, toolkit::Twips width);
     static void MoveColumn(const toolkit::ListView& list, int column, int position);
-    void RunPosted();
+    // Work that the message loop does after the current event, and doing all that waits.
+    void Later(std::function<void()> work) { later_.push_back(std::move(work)); }
+    void DoLaterWork();
 
     // toolkit::Toolkit
     std::unique_ptr<toolkit::FormPeer> CreateForm(toolkit::Form& form,
@@ -172,14 +174,11 @@ class MemoryToolkit : public toolkit::Toolkit {
                                 toolkit::MessageIcon icon, toolkit::MessageButtons buttons,
                                 toolkit::Answer defaultAnswer) override;
     void DoEvents() override;
-    void Post(std::function<void()> work) override { posted_.push_back(std::move(work)); }
     void Run() override;
     void Quit() override { quit = true; }
 
   private:
-    void PressFormKey(toolkit::Form& form, int key, toolkit::Modifiers modifiers);
-    static void PressAccessKey(toolkit::Form& form, char32_t key);
-    std::deque<std::function<void()>> posted_;
+    std::deque<std::function<void()>> later_;
 };
 
 }  // namespace ordalyn::test

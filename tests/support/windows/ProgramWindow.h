@@ -43,7 +43,7 @@ class ProgramWindow : public testing::Test {
     // Starts the program and lets the main window become active.
     frmMain& Start() {
         program = std::make_unique<Program>(system.services, tools);
-        tools.RunPosted();
+        tools.DoLaterWork();
         return program->MainWindow();
     }
     frmMain& Main() { return program->MainWindow(); }

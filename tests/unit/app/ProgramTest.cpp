@@ -31,7 +31,7 @@ TEST_F(ProgramStart, ShowsTheLogOfTheFileManagerAtOnce) {
 TEST_F(ProgramStart, ReadsTheLogOnTheFirstActivationOnly) {
     program = std::make_unique<Program>(system.services, tools);
     EXPECT_EQ(Source().RowCount(), 0);
-    tools.RunPosted();
+    tools.DoLaterWork();
     EXPECT_EQ(Source().RowCount(), 1);
     SetLog("C:\\logs\\tc.log", {"09.03.2024 10:00:00: Copy a -> b"});
     tools.ActivateByUser(Main());

@@ -1,5 +1,6 @@
-// What is known needs no window: a log is read, its days are listed, a day's entries are narrowed
-// and searched by a program that is not even linked with the toolkit.
+// What is known needs no window: a log is read, its days are listed, a day's entries are filtered
+// and searched, settings and the file manager's words are read, by a program that is not even
+// linked with the toolkit.
 #include <gmock/gmock.h>
 
 #include <cstdint>
@@ -7,18 +8,23 @@
 #include <string_view>
 #include <vector>
 
+#include "hostconfig/OperationWords.h"
+#include "hostconfig/cProfile.h"
+#include "hostconfig/mAppCommon.h"
 #include "log/DayIndex.h"
 #include "log/DayRows.h"
 #include "log/EntryLists.h"
 #include "log/LogReader.h"
-#include "search/FieldScan.h"
+#include "search/EntryFilter.h"
+#include "search/EntrySearch.h"
+#include "settings/mAppSpecific.h"
 #include "support/platform/MemoryPlatform.h"
 
 namespace ordalyn {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::string_view kPath = "C:\\tc\\tc.log";
 constexpr std::string_view kLog =
@@ -38,26 +44,10 @@ class Known : public testing::Test {
         days = index.Build(entries.EntryDates());
     }
     std::vector<std::int32_t> RowsOf(std::int32_t day) const {
-        const DayRowsResult rows = DayRows(entries, index.DayStarts(), day);
+        const DayRowsResult rows = DayRows(entries, index, day);
         EXPECT_FALSE(rows.failed);
         return rows.tags;
     }
-    // Those of the entries whose field holds the text.
-    static std::vector<std::int32_t> Holding(const cStringArray& fields,
-                                             const std::vector<std::int32_t>& tags,
-                                             std::string_view text, bool wholeWord = false) {
-        std::vector<std::int32_t> found;
-        FieldScan(fields, text, wholeWord)
-            .Run(
-                static_cast<std::int32_t>(tags.size()),
-                [&](std::int32_t row) { return tags[static_cast<std::size_t>(row)]; },
-                [&](std::int32_t row) {
-                    found.push_back(tags[static_cast<std::size_t>(row)]);
-                    return false;
-                });
-        return found;
-    }
-
     test::MemoryPlatform system;
     EntryLists entries;
     LogReader reader{system.files, system.codePages, entries};
@@ -77,19 +67,41 @@ TEST_F(Known, ALogIsReadAndItsDaysAreListed) {
     EXPECT_THAT(RowsOf(kAllDates), ElementsAre(0, 1, 2, 3, 4));
 }
 
-TEST_F(Known, ADayIsNarrowedToWhatGoesToAFolder) {
+TEST_F(Known, ADayIsFilteredByWhatGoesToAFolder) {
     Read();
-    EXPECT_THAT(Holding(entries.EntryTargets(), RowsOf(1), "d:\\backup"), ElementsAre(3));
-    EXPECT_THAT(Holding(entries.EntryTargets(), RowsOf(kAllDates), "d:\\backup"),
-                ElementsAre(0, 3));
+    FilterChoice filter;
+    filter.FilterText = "d:\\backup";
+    filter.target = true;
+    EXPECT_THAT(EntriesThatPass(entries, RowsOf(1), filter), ElementsAre(3));
+    EXPECT_THAT(EntriesThatPass(entries, RowsOf(kAllDates), filter), ElementsAre(0, 3));
+    filter.doesNotContain = true;
+    EXPECT_THAT(EntriesThatPass(entries, RowsOf(kAllDates), filter), ElementsAre(4));
 }
+
+// Remembers what a search has it show.
+struct Display : EntryDisplay {
+    std::int32_t SelectedDay() const override { return kAllDates; }
+    bool ShowEntry(std::int32_t entry) override {
+        shown.push_back(entry);
+        return true;
+    }
+    std::vector<std::int32_t> shown;
+};
 
 TEST_F(Known, ATextIsFoundWhateverItsLetterCaseAndAsAWholeWord) {
     Read();
-    EXPECT_THAT(Holding(entries.EntrySources(), RowsOf(kAllDates), "пётр"), ElementsAre(3));
-    EXPECT_THAT(Holding(entries.EntrySources(), RowsOf(kAllDates), "copy", true),
-                ElementsAre(0, 3));
-    EXPECT_THAT(Holding(entries.EntrySources(), RowsOf(kAllDates), "cop", true), IsEmpty());
+    Display display;
+    EntrySearch search(entries, index, display);
+    search.SetText("пётр", -1);
+    EXPECT_TRUE(search.FindNext());
+    EXPECT_FALSE(search.FindNext());
+    search.SetText("copy", -1);
+    search.SetWholeWord(true);
+    EXPECT_TRUE(search.FindNext());
+    EXPECT_TRUE(search.FindNext());
+    EXPECT_THAT(display.shown, ElementsAre(3, 0, 3));
+    search.SetText("cop", -1);
+    EXPECT_FALSE(search.FindNext());
 }
 
 TEST_F(Known, WhatIsAppendedIsKnownNext) {
@@ -99,7 +111,22 @@ TEST_F(Known, WhatIsAppendedIsKnownNext) {
     EXPECT_TRUE(reader.ReadAppendedLines(kPath));
     EXPECT_THAT(index.Build(entries.EntryDates()),
                 ElementsAre("01.03.2024", "02.03.2024", "03.03.2024"));
-    EXPECT_THAT(Holding(entries.EntrySources(), RowsOf(2), "delete"), ElementsAre(5));
+    EXPECT_THAT(RowsOf(2), ElementsAre(5));
+}
+
+TEST_F(Known, SettingsAndTheFileManagersWordsAreReadFromTheirFiles) {
+    system.files.Set("C:\\Ordalyn\\Ordalyn.ini", "[Ordalyn]\r\nTwoPanels=0\r\n");
+    system.files.Set("C:\\tc\\wincmd.ini", "[Configuration]\r\nLanguageIni=WCMD_DEU.LNG\r\n");
+    system.files.Set("C:\\tc\\Language\\WCMD_DEU.LNG", "1802=\"Kopieren\"\r\n");
+    mAppCommon common(system.services);
+    common.SetCommanderFolder("C:\\tc\\");
+    common.SetCommanderIni("C:\\tc\\wincmd.ini");
+    cProfile profile(system.services, common);
+    mAppSpecific settings(profile, common);
+    settings.LoadSettings();
+    EXPECT_EQ(settings.TwoPanels, 0);
+    OperationWords words({common, profile, system.files, system.codePages});
+    EXPECT_THAT(words.LoadOperationKeywords(), Contains(OperationWord{"k1802", "Kopieren"}));
 }
 
 }  // namespace

@@ -10,17 +10,38 @@ namespace {
 using test::Counter;
 using ControlTest = test::SampleTest;
 
-TEST_F(ControlTest, EachKindHasItsName) {
-    const std::pair<Kind, const char*> names[] = {
-        {Kind::Form, "form"},           {Kind::Label, "label"},
-        {Kind::Frame, "frame"},         {Kind::PictureBox, "picturebox"},
-        {Kind::TextBox, "textbox"},     {Kind::CommandButton, "commandbutton"},
-        {Kind::CheckBox, "checkbox"},   {Kind::OptionButton, "optionbutton"},
-        {Kind::ComboBox, "combobox"},   {Kind::ListView, "listview"},
-        {Kind::StatusBar, "statusbar"}, {Kind::ToolBar, "toolbar"},
-        {Kind::TabStrip, "tabstrip"},   {Kind::ProgressBar, "progressbar"}};
-    for (const auto& [kind, name] : names)
-        EXPECT_EQ(KindName(kind), name);
+TEST_F(ControlTest, TabStopsAtTheKindsThatAUserWorksWith) {
+    std::vector<Kind> kinds;
+    for (const auto& control : form.Controls()) {
+        if (control->TabStop() && control->Name() != "optSide" && control->Name() != "cboList")
+            kinds.push_back(control->ControlKind());
+    }
+    EXPECT_THAT(kinds, testing::ElementsAre(Kind::OptionButton, Kind::CheckBox, Kind::TextBox,
+                                            Kind::ComboBox, Kind::ListView, Kind::TabStrip,
+                                            Kind::ToolBar, Kind::CommandButton));
+    EXPECT_FALSE(form.TabStop());
+}
+
+TEST_F(ControlTest, ATabStopCanBeAddedAndTakenAway) {
+    auto& label = Get<Label>("lblText");
+    label.SetTabStop(true);
+    EXPECT_TRUE(label.TabStop());
+    EXPECT_EQ(On(label).tabStop, true);
+    label.SetTabStop(false);
+    EXPECT_FALSE(label.TabStop());
+    EXPECT_EQ(On(label).tabStop, false);
+}
+
+TEST_F(ControlTest, ALabelsTextCanBePlain) {
+    auto& label = Get<Label>("lblText");
+    label.SetCaption("R&D.log");
+    EXPECT_EQ(label.AccessKey(), U'd');
+    label.SetPlainText(true);
+    EXPECT_TRUE(On(label).plainText);
+    EXPECT_EQ(label.AccessKey(), 0U);
+    label.SetPlainText(false);
+    EXPECT_FALSE(On(label).plainText);
+    EXPECT_EQ(label.AccessKey(), U'd');
 }
 
 TEST_F(ControlTest, GeometryIsKeptExactly) {

@@ -34,11 +34,32 @@ TEST_F(FormTest, ADesignSaysWhereAControlIs) {
 TEST_F(FormTest, ADesignSaysWhatIsVisibleAndATabStop) {
     EXPECT_FALSE(Get<CommandButton>("cmdCancel").Visible());
     EXPECT_FALSE(On(Get<CommandButton>("cmdCancel")).visible);
-    EXPECT_FALSE(On(Get<CommandButton>("cmdCancel")).tabStop);
+    EXPECT_FALSE(Get<CommandButton>("cmdCancel").TabStop());
+    EXPECT_EQ(On(Get<CommandButton>("cmdCancel")).tabStop, false);
     EXPECT_TRUE(On(Get<CommandButton>("cmdOk")).visible);
-    EXPECT_TRUE(On(Get<CommandButton>("cmdOk")).tabStop);
+    EXPECT_TRUE(Get<CommandButton>("cmdOk").TabStop());
+    EXPECT_EQ(On(Get<CommandButton>("cmdOk")).tabStop, std::nullopt) << "as is usual for the kind";
     EXPECT_TRUE(Get<ComboBox>("cboEdit").Editable());
     EXPECT_FALSE(Get<ComboBox>("cboList").Editable());
+}
+
+TEST_F(FormTest, ADesignSaysWhichButtonsEnterAndEscapePress) {
+    EXPECT_EQ(form.DefaultButton(), &Get<CommandButton>("cmdOk"));
+    EXPECT_EQ(form.CancelButton(), &Get<CommandButton>("cmdCancel"));
+    EXPECT_EQ(On(form).defaultButton, &Get<CommandButton>("cmdOk").peer());
+    const FormDesign bare{
+        .name = "frmBare", .tag = "", .clientSize = {100, 100}, .style = {}, .controls = {}};
+    const Form other(kit, bare);
+    EXPECT_EQ(other.DefaultButton(), nullptr);
+    EXPECT_EQ(other.CancelButton(), nullptr);
+    EXPECT_EQ(On(other).defaultButton, nullptr);
+}
+
+TEST_F(FormTest, ADesignHoldsNoForms) {
+    static constexpr ControlDesign kForm[] = {{.kind = Kind::Form, .name = "frmInside"}};
+    const FormDesign design{
+        .name = "frmOuter", .tag = "", .clientSize = {100, 100}, .style = {}, .controls = kForm};
+    EXPECT_THROW(Form(kit, design), InvalidPropertyValue);
 }
 
 TEST_F(FormTest, AccessByNameAndKindThrowsWhenThereIsNoneSuch) {

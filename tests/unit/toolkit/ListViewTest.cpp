@@ -26,7 +26,6 @@ TEST_F(ListViewTest, BeginsEmpty) {
     EXPECT_EQ(list.SelectedRow(), -1);
     EXPECT_THROW(list.Tag(0), SubscriptOutOfRange);
     EXPECT_THROW(list.Text(0, 0), SubscriptOutOfRange);
-    EXPECT_EQ(list.RowOfTag(0), -1);
 }
 
 TEST_F(ListViewTest, AColumnShowsItsFieldOfTheRowsTag) {
@@ -35,8 +34,6 @@ TEST_F(ListViewTest, AColumnShowsItsFieldOfTheRowsTag) {
     EXPECT_EQ(list.Tag(1), 20);
     EXPECT_EQ(list.Text(1, 0), "row 20 field 5");
     EXPECT_EQ(list.Text(2, 1), "row 30 field 2");
-    EXPECT_EQ(list.RowOfTag(30), 2);
-    EXPECT_EQ(list.RowOfTag(31), -1);
 }
 
 TEST_F(ListViewTest, IndicesOutsideThrow) {

@@ -27,8 +27,8 @@ TEST_F(MemoryToolkitTest, AMessageBoxGivesTheDefaultAnswer) {
 
 TEST_F(MemoryToolkitTest, AnErrorThatNoHandlerCatchesEndsInAMessageBox) {
     int later = 0;
-    kit.Post([] { throw TypeMismatch(); });
-    kit.Post([&] { ++later; });
+    kit.Later([] { throw TypeMismatch(); });
+    kit.Later([&] { ++later; });
     kit.DoEvents();
     EXPECT_EQ(later, 1);
     form.KeyDown.Subscribe([](int, Modifiers) { throw Overflow(); });
@@ -38,18 +38,18 @@ TEST_F(MemoryToolkitTest, AnErrorThatNoHandlerCatchesEndsInAMessageBox) {
     EXPECT_EQ(kit.messages[1].text, "Overflow");
 }
 
-TEST_F(MemoryToolkitTest, WorkThatIsPostedByPostedWorkRunsToo) {
+TEST_F(MemoryToolkitTest, WorkForLaterMayAddMoreOfIt) {
     std::vector<int> order;
-    kit.Post([&] {
+    kit.Later([&] {
         order.push_back(1);
-        kit.Post([&] { order.push_back(3); });
+        kit.Later([&] { order.push_back(3); });
         order.push_back(2);
     });
     kit.DoEvents();
     EXPECT_THAT(order, ElementsAre(1, 2, 3));
 }
 
-TEST_F(MemoryToolkitTest, MenusAreShownAsTheyWereWhenTheFormToldOfThem) {
+TEST_F(MemoryToolkitTest, MenusAreShownAsTheyWereWhenTheFormReportedThem) {
     const auto& menus = MemoryToolkit::MenusOf(form);
     ASSERT_EQ(menus.size(), 1U);  // a context menu is not on the bar
     const auto& items = menus[0].items;
@@ -58,6 +58,8 @@ TEST_F(MemoryToolkitTest, MenusAreShownAsTheyWereWhenTheFormToldOfThem) {
     EXPECT_EQ(items[0].keys, "Ctrl+O");
     EXPECT_EQ(items[1].items[0].keys, "F4");
     EXPECT_EQ(items[3].keys, "Esc");
+    EXPECT_TRUE(items[2].separator);
+    EXPECT_FALSE(items[3].separator);
     form.Menu("mnuFileExit").SetEnabled(false);
     form.Menu("mnuFileOpen").SetChecked(true);
     form.Menu("mnuFileOpen").SetCaption("&Open");
@@ -72,7 +74,7 @@ TEST_F(MemoryToolkitTest, MenusAreShownAsTheyWereWhenTheFormToldOfThem) {
     EXPECT_EQ(MemoryToolkit::MenusOf(form)[0].items.size(), 3U);
 }
 
-TEST_F(MemoryToolkitTest, TheMenusAreOnlyToldOfWhenTheyChange) {
+TEST_F(MemoryToolkitTest, TheMenusAreOnlyRebuiltWhenTheyChange) {
     kit.menuRebuilds.clear();
     form.Menu("mnuFileExit").SetVisible(true);
     form.Menu("mnuFileExit").SetCaption("24");

@@ -46,6 +46,12 @@ TEST_F(ToolBarTest, TheEmptyKeyCanBeTakenManyTimes) {
     EXPECT_EQ(bar.ButtonAt(1).menu.size(), 2U);
 }
 
+TEST_F(ToolBarTest, ADashWithoutAKeyIsASeparator) {
+    EXPECT_TRUE((ToolBar::MenuEntry{"", "-"}.IsSeparator()));
+    EXPECT_FALSE((ToolBar::MenuEntry{"k", "-"}.IsSeparator()));
+    EXPECT_FALSE((ToolBar::MenuEntry{"", "a"}.IsSeparator()));
+}
+
 TEST_F(ToolBarTest, AnEntrysTextCanChange) {
     bar.AddMenuEntry(1, "k", "before");
     bar.SetMenuEntryText(1, 0, "after");

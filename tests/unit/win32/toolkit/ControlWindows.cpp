@@ -352,27 +352,6 @@ TEST_F(Controls, TheCurrentToolBarButtonIsMarkedWhileTheBarHasTheFocus) {
     EXPECT_FALSE(framed(2));
 }
 
-// Notes what the window is told to show or hide of the keyboard's marks.
-LRESULT CALLBACK NoteMarks(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                           DWORD_PTR seen) {
-    if (message == WM_CHANGEUISTATE)
-        reinterpret_cast<std::vector<WPARAM>*>(seen)->push_back(wParam);
-    return DefSubclassProc(window, message, wParam, lParam);
-}
-
-TEST_F(Controls, AltShowsTheAccessKeys) {
-    // Not every system hides the marks at all; what it is told is the same.
-    std::vector<WPARAM> seen;
-    SetWindowSubclass(HandleOf(form), NoteMarks, 78, reinterpret_cast<DWORD_PTR>(&seen));
-    const HWND box = ChildrenOf(HandleOf(form), L"Button")[1];
-    // Letting Alt go would open the menu, which waits for its user.
-    PostMessageW(box, WM_SYSKEYDOWN, VK_MENU, 0x20000001);
-    PostMessageW(box, WM_KEYDOWN, VK_F3, 1);
-    TheToolkit().DoEvents();
-    RemoveWindowSubclass(HandleOf(form), NoteMarks, 78);
-    EXPECT_EQ(seen, (std::vector<WPARAM>{MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL)}));
-}
-
 TEST_F(Controls, TheHourglassIsOverEverythingUntilItIsTakenBack) {
     auto& label = form.Get<Label>("lbl");
     label.SetMousePointer(Pointer::Hand);

@@ -1,5 +1,6 @@
 #include "TestForm.h"
 #include "base/Errors.h"
+#include "win32/forms/FormWindow.h"
 
 namespace ordalyn::test {
 namespace {
@@ -23,6 +24,10 @@ constexpr FormDesign kDesign = {
     "frmTest", "", {4500, 3000}, {.resizable = true, .maximiseBox = true}, kControls, kMenus};
 constexpr FormDesign kDialog = {"frmDialog", "", {3000, 1500}, {}, {}};
 
+Rect CurrentBounds(const Form& form) {
+    return dynamic_cast<win32::FormWindow&>(form.peer()).CurrentBounds();
+}
+
 std::wstring MenuText(HMENU menu, UINT position) {
     wchar_t text[100] = {};
     GetMenuStringW(menu, position, text, 100, MF_BYPOSITION);
@@ -41,7 +46,7 @@ TEST(FormWindow, BoundsBetweenPixelsAreKeptAsTheyWereSet) {
     const Rect odd{301, 302, 7003, 4004};
     form.Move(odd);
     EXPECT_EQ(form.Bounds(), odd);
-    EXPECT_EQ(form.formPeer().CurrentBounds(), odd);
+    EXPECT_EQ(CurrentBounds(form), odd);
     form.Show();
     TheToolkit().DoEvents();
     EXPECT_EQ(form.Bounds(), odd);
@@ -50,7 +55,7 @@ TEST(FormWindow, BoundsBetweenPixelsAreKeptAsTheyWereSet) {
 TEST(FormWindow, CodeMayMakeItSmallerThanAUserCan) {
     Form form(TheToolkit(), kDesign);
     form.Move({0, 0, 1500, 900});
-    EXPECT_EQ(form.formPeer().CurrentBounds().width, 1500);
+    EXPECT_EQ(CurrentBounds(form).width, 1500);
 }
 
 TEST(FormWindow, ASizeThatTheSystemGivesIsReported) {
@@ -102,7 +107,7 @@ TEST(FormWindow, AStateSetBeforeItIsShownHoldsWhenItIsShown) {
     form.Show();
     EXPECT_NE(IsZoomed(HandleOf(form)), 0);
     form.SetState(WindowState::Normal);
-    EXPECT_EQ(form.formPeer().CurrentBounds(), (Rect{150, 150, 6000, 4500}));
+    EXPECT_EQ(CurrentBounds(form), (Rect{150, 150, 6000, 4500}));
 }
 
 TEST(FormWindow, BoundsSetWhileMaximisedAreThoseItComesBackTo) {
@@ -112,7 +117,7 @@ TEST(FormWindow, BoundsSetWhileMaximisedAreThoseItComesBackTo) {
     form.Move({300, 450, 6000, 4500});
     EXPECT_EQ(form.State(), WindowState::Maximised);
     form.SetState(WindowState::Normal);
-    EXPECT_EQ(form.formPeer().CurrentBounds(), (Rect{300, 450, 6000, 4500}));
+    EXPECT_EQ(CurrentBounds(form), (Rect{300, 450, 6000, 4500}));
 }
 
 TEST(FormWindow, AModalFormDisablesTheOthersUntilItIsHidden) {
@@ -121,7 +126,7 @@ TEST(FormWindow, AModalFormDisablesTheOthersUntilItIsHidden) {
     form.Show();
     bool disabled = false;
     bool enabledBeforeHiding = false;
-    TheToolkit().Post([&] {
+    Later([&] {
         disabled = IsWindowEnabled(HandleOf(form)) == 0;
         dialog.formPeer().EndModal();
         enabledBeforeHiding =
@@ -139,7 +144,7 @@ TEST(FormWindow, AModalFormThatIsUnloadedGivesBackControl) {
     Form form(TheToolkit(), kDesign);
     Form dialog(TheToolkit(), kDialog);
     form.Show();
-    TheToolkit().Post([&] { SendMessageW(HandleOf(dialog), WM_CLOSE, 0, 0); });
+    Later([&] { SendMessageW(HandleOf(dialog), WM_CLOSE, 0, 0); });
     dialog.ShowModal(&form);
     EXPECT_TRUE(dialog.Unloaded());
     EXPECT_EQ(dialog.Handle(), 0U);
@@ -251,15 +256,15 @@ TEST(FormWindow, AnErrorThatNobodyCatchesIsToldAndTheProgramGoesOn) {
     const std::function<void()> answer = [&] {
         const HWND box = FindWindowW(L"#32770", L"Ordalyn");
         if (box == nullptr) {
-            TheToolkit().Post(answer);
+            Later(answer);
             return;
         }
         for (const HWND text : ChildrenOf(box, L"Static"))
             told += win32::TextOf(text);
         SendMessageW(box, WM_COMMAND, IDOK, 0);
     };
-    TheToolkit().Post([&] {
-        TheToolkit().Post(answer);
+    Later([&] {
+        Later(answer);
         SendMessageW(Child(form, L"Button"), BM_CLICK, 0, 0);
     });
     ASSERT_TRUE(WaitUntil([&] { return !told.empty(); }));

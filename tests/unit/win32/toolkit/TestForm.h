@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "support/win32/LaterWork.h"
 #include "toolkit/Form.h"
 #include "win32/common/WideText.h"
 #include "win32/forms/Win32Toolkit.h"
@@ -17,6 +18,12 @@ namespace ordalyn::test {
 inline win32::Win32Toolkit& TheToolkit() {
     static win32::Win32Toolkit toolkit(GetModuleHandleW(nullptr));
     return toolkit;
+}
+
+// Runs when messages are handled next, also by a message box or a modal form.
+inline void Later(std::function<void()> work) {
+    static LaterWork later;
+    later.Add(std::move(work));
 }
 
 inline HWND HandleOf(const toolkit::Form& form) {

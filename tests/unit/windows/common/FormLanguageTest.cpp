@@ -254,11 +254,11 @@ TEST_F(ApplyLanguage, ShowingTheTextsAloneReportsNothingAndChangesNoSetting) {
 
 TEST_F(ApplyLanguage, CheckingTheFileAloneShowsNoTexts) {
     UseLanguageFile("[UserLanguage]\r\n4000=Zeit\r\n");
-    language.CheckLanguageFile(form);
+    language.CheckLanguageFile(toolkit, nullptr);
     EXPECT_TRUE(toolkit.messages.empty());
     EXPECT_EQ(settings.UseDefaultLanguage, 0);
     system.files.Delete(kLanguageFile);
-    language.CheckLanguageFile(form);
+    language.CheckLanguageFile(toolkit, nullptr);
     EXPECT_EQ(toolkit.messages.size(), 1U);
     EXPECT_EQ(settings.UseDefaultLanguage, 1);
     EXPECT_EQ(Caption("lblTime"), "design lblTime");

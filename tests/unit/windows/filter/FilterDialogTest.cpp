@@ -22,7 +22,7 @@ class FilterDialog : public FindWindow {
     void Enter() { tools.PressIn(filters, cboFilter, toolkit::key::Enter); }
     void Show() {
         commands.ShowFilterDialog();
-        tools.RunPosted();
+        tools.DoLaterWork();
     }
     // The place of an operation word in the first button's menu.
     int EntryOf(std::string_view word) {

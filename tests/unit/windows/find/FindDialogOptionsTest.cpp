@@ -49,7 +49,7 @@ TEST_F(FindOptionsOfTheDialog, ThatTheListRefusesLeaveItAndTheOthersAreShown) {
 
 TEST_F(FindOptionsOfTheDialog, RaiseTheEventsOfTheirControls) {
     Shown("3,1,0,0");
-    EXPECT_EQ(settings.ColumnNo, 1);
+    EXPECT_EQ(commands.Search().Options().ColumnNo, 1);
     EXPECT_TRUE(mnuSearchFindNext.Enabled());
 }
 
@@ -61,8 +61,7 @@ TEST_F(FindOptionsOfTheDialog, AreWrittenByPlace) {
 
 TEST_F(FindOptionsOfTheDialog, AreWrittenWithTheColumnLastChosen) {
     Shown("2,1,0,1");
-    // Whatever the buttons show.
-    settings.ColumnNo = 0;
+    commands.FindDialog().Get<toolkit::OptionButton>("optColumn", 0).SetChecked(true);
     commands.UnloadFindDialog();
     EXPECT_EQ(Stored("FindOptions"), "2,0,0,1");
 }

@@ -21,7 +21,7 @@ class FindDialog : public FindWindow {
     }
     void Show() {
         main.Menu("mnuSearchFind").Choose();
-        tools.RunPosted();
+        tools.DoLaterWork();
     }
     void Type(std::string_view text) { cboFindWhat.UserEdited(text); }
     void FindNext() { cmdFindNext.UserClicked(); }

@@ -1,11 +1,16 @@
-// The pictures of tool bar buttons, drawn for any size in any two colours.
+// The pictures of tool bar buttons: their names, and drawings for any size in any two colours.
 #pragma once
 
 #include <cstdint>
 #include <string_view>
 #include <vector>
 
-namespace ordalyn::win32 {
+namespace ordalyn::toolkit {
+
+inline constexpr std::string_view kApplyFilterImage = "apply-filter";
+inline constexpr std::string_view kRemoveFilterImage = "remove-filter";
+// No picture: a button of this name only keeps others apart.
+inline constexpr std::string_view kSeparatorImage = "separator";
 
 // 0xAARRGGBB with the colour parts multiplied by the alpha part, rows from the top.
 struct Picture {
@@ -21,4 +26,4 @@ struct PictureColors {
 // An unknown name gives a plain mark.
 Picture DrawToolBarPicture(std::string_view name, int size, const PictureColors& colors);
 
-}  // namespace ordalyn::win32
+}  // namespace ordalyn::toolkit

@@ -1,10 +1,10 @@
-#include "win32/drawing/ToolBarPictures.h"
+#include "toolkit/ToolBarPictures.h"
 
 #include <array>
 #include <cmath>
 #include <span>
 
-namespace ordalyn::win32 {
+namespace ordalyn::toolkit {
 
 namespace {
 
@@ -24,7 +24,6 @@ constexpr Point kFunnel[] = {{1, 2},      {15, 2},     {15, 3.8}, {9.9, 9},
                              {9.9, 14.6}, {6.1, 12.4}, {6.1, 9},  {1, 3.8}};
 constexpr Point kFunnelInside[] = {{3.1, 3.3},  {12.9, 3.3}, {8.6, 7.8},
                                    {8.6, 12.3}, {7.4, 11.6}, {7.4, 7.8}};
-constexpr Point kBar[] = {{7.5, 1}, {8.5, 1}, {8.5, 15}, {7.5, 15}};
 constexpr Point kCrossGapDown[] = {{8.2, 8.2}, {16, 8.2}, {16, 16}, {8.2, 16}};
 constexpr Point kCrossDown[] = {{9.2, 10.4}, {10.4, 9.2}, {15.4, 14.2}, {14.2, 15.4}};
 constexpr Point kCrossUp[] = {{14.2, 9.2}, {15.4, 10.4}, {10.4, 15.4}, {9.2, 14.2}};
@@ -36,7 +35,6 @@ constexpr Shape kRemoveFilter[] = {{Ink::Lines, kFunnel},
                                    {Ink::None, kCrossGapDown},
                                    {Ink::Lines, kCrossDown},
                                    {Ink::Lines, kCrossUp}};
-constexpr Shape kSeparator[] = {{Ink::Lines, kBar}};
 constexpr Shape kPlain[] = {{Ink::Lines, kMark}};
 
 struct Drawing {
@@ -44,8 +42,8 @@ struct Drawing {
     std::span<const Shape> shapes;
 };
 
-constexpr Drawing kDrawings[] = {
-    {"apply-filter", kApplyFilter}, {"remove-filter", kRemoveFilter}, {"separator", kSeparator}};
+constexpr Drawing kDrawings[] = {{kApplyFilterImage, kApplyFilter},
+                                 {kRemoveFilterImage, kRemoveFilter}};
 
 std::span<const Shape> ShapesOf(std::string_view name) {
     for (const Drawing& drawing : kDrawings) {
@@ -113,4 +111,4 @@ Picture DrawToolBarPicture(std::string_view name, int size, const PictureColors&
     return picture;
 }
 
-}  // namespace ordalyn::win32
+}  // namespace ordalyn::toolkit

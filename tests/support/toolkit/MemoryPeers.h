@@ -1,0 +1,286 @@
+// The peers of the toolkit in memory: each keeps what it shows in a Shown.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "support/toolkit/MemoryToolkit.h"
+
+namespace ordalyn::test {
+
+// The heights that combo boxes and the status bar decide on, at the default font size.
+inline constexpr toolkit::Twips kComboHeight = 315;
+inline constexpr toolkit::Twips kStatusHeight = 330;
+
+// Gives access to what a peer shows, whatever its kind.
+class HasShown {
+  public:
+    virtual ~HasShown() = default;
+    Shown shown;
+};
+
+inline const toolkit::Control& FormOf(const toolkit::Control& control) {
+    const toolkit::Control* at = &control;
+    while (at->Container() != nullptr)
+        at = at->Container();
+    return *at;
+}
+
+template <typename Interface>
+class Peer : public Interface, public HasShown {
+  public:
+    Peer(MemoryToolkit& toolkit, toolkit::Control& control)
+        : toolkit_(toolkit), control_(control) {}
+    ~Peer() override {
+        if (toolkit_.focus == &control_)
+            toolkit_.focus = nullptr;
+    }
+    toolkit::Rect Place(const toolkit::Rect& wanted) override { return shown.bounds = wanted; }
+    void SetContainer(toolkit::ControlPeer& container) override { shown.container = &container; }
+    void SetVisible(bool visible) override { shown.visible = visible; }
+    void SetEnabled(bool enabled) override { shown.enabled = enabled; }
+    void SetCaption(std::string_view caption) override {
+        shown.caption = caption;
+        shown.captions.emplace_back(caption);
+    }
+    toolkit::Rect SetFont(const toolkit::Font& font) override {
+        shown.font = font;
+        return shown.bounds;
+    }
+    void SetColors(toolkit::Color foreground, toolkit::Color background) override {
+        shown.foreground = foreground;
+        shown.background = background;
+    }
+    void SetBorder(toolkit::BorderStyle border, toolkit::Appearance appearance) override {
+        shown.border = border;
+        shown.appearance = appearance;
+    }
+    void SetReadingOrder(bool rightToLeft, toolkit::Alignment alignment) override {
+        shown.rightToLeft = rightToLeft;
+        shown.alignment = alignment;
+    }
+    void SetPointer(toolkit::Pointer pointer) override { shown.pointer = pointer; }
+    void SetToolTip(std::string_view text) override { shown.toolTip = text; }
+    void SetTabStop(bool tabStop) override { shown.tabStop = tabStop; }
+    void BringToFront() override { ++shown.broughtToFront; }
+    void TakeFocus() override {
+        if (toolkit_.focus == &control_)
+            return;
+        toolkit_.focus = &control_;
+        MemoryToolkit::Mutable(FormOf(control_)).focused = &control_;
+        // A form that is not shown gives the focus when it is.
+        if (FormOf(control_).Visible())
+            control_.GotFocus.Raise();
+    }
+    bool CanTakeInput() const override {
+        for (const toolkit::Control* at = &control_; at != nullptr; at = at->Container()) {
+            if (!at->Visible() || !at->Enabled())
+                return false;
+        }
+        return true;
+    }
+    void Refresh() override { ++shown.refreshes; }
+
+  protected:
+    MemoryToolkit& toolkit_;
+    toolkit::Control& control_;
+};
+
+using SimplePeer = Peer<toolkit::ControlPeer>;
+
+class MemoryLabel : public Peer<toolkit::LabelPeer> {
+  public:
+    using Peer::Peer;
+    void SetPlainText(bool plain) override { shown.plainText = plain; }
+};
+
+class MemoryToggle : public Peer<toolkit::TogglePeer> {
+  public:
+    using Peer::Peer;
+    void SetChecked(bool checked) override { shown.checked = checked; }
+};
+
+template <typename Interface>
+class TextualPeer : public Peer<Interface> {
+  public:
+    using Peer<Interface>::Peer;
+    void SetText(std::string_view text) override { this->shown.text = text; }
+    void SelectText(std::size_t start, std::size_t length) override {
+        this->shown.selectionStart = start;
+        this->shown.selectionLength = length;
+    }
+};
+
+class MemoryComboBox : public TextualPeer<toolkit::ComboBoxPeer> {
+  public:
+    using TextualPeer::TextualPeer;
+    toolkit::Rect Place(const toolkit::Rect& wanted) override {
+        shown.bounds = wanted;
+        shown.bounds.height = HeightFor(shown.font);
+        return shown.bounds;
+    }
+    toolkit::Rect SetFont(const toolkit::Font& font) override {
+        shown.font = font;
+        shown.bounds.height = HeightFor(font);
+        return shown.bounds;
+    }
+    void AddItems(const std::vector<std::string>& texts) override {
+        shown.items.insert(shown.items.end(), texts.begin(), texts.end());
+    }
+    void InsertItem(int index, std::string_view text) override {
+        shown.items.emplace(shown.items.begin() + index, text);
+        if (shown.listIndex >= index)
+            ++shown.listIndex;
+    }
+    void SetItem(int index, std::string_view text) override {
+        shown.items[static_cast<std::size_t>(index)] = text;
+    }
+    void RemoveItem(int index) override {
+        shown.items.erase(shown.items.begin() + index);
+        if (shown.listIndex == index) {
+            shown.listIndex = -1;
+            if (!static_cast<toolkit::ComboBox&>(control_).Editable())
+                shown.text.clear();
+        } else if (shown.listIndex > index) {
+            --shown.listIndex;
+        }
+    }
+    void RemoveAllItems() override {
+        shown.items.clear();
+        shown.listIndex = -1;
+        shown.text.clear();
+    }
+    void SetListIndex(int index) override {
+        shown.listIndex = index;
+        shown.text = index >= 0 ? shown.items[static_cast<std::size_t>(index)] : std::string();
+    }
+    bool IsDroppedDown() const override { return shown.droppedDown; }
+
+  private:
+    static toolkit::Twips HeightFor(const toolkit::Font& font) {
+        return kComboHeight + static_cast<toolkit::Twips>((font.size - 8) * 30);
+    }
+};
+
+class MemoryListView : public Peer<toolkit::ListViewPeer> {
+  public:
+    using Peer::Peer;
+    void InsertColumn(int index, std::string_view caption, toolkit::Twips width) override {
+        shown.columns.insert(shown.columns.begin() + index, {std::string(caption), width});
+        shown.columnPositions.push_back(index);
+    }
+    void RemoveColumn(int index) override {
+        shown.columns.erase(shown.columns.begin() + index);
+        const int position = shown.columnPositions[static_cast<std::size_t>(index)];
+        shown.columnPositions.erase(shown.columnPositions.begin() + index);
+        for (int& other : shown.columnPositions) {
+            if (other > position)
+                --other;
+        }
+    }
+    void SetColumnCaption(int index, std::string_view caption) override {
+        shown.columns[static_cast<std::size_t>(index)].caption = caption;
+    }
+    void SetColumnWidth(int index, toolkit::Twips width) override {
+        shown.columns[static_cast<std::size_t>(index)].width = width;
+    }
+    toolkit::Twips ColumnWidth(int index) override {
+        return shown.columns[static_cast<std::size_t>(index)].width;
+    }
+    void SetColumnPosition(int index, int position) override {
+        const int before = shown.columnPositions[static_cast<std::size_t>(index)];
+        for (int& other : shown.columnPositions) {
+            if (other > before)
+                --other;
+            if (other >= position)
+                ++other;
+        }
+        shown.columnPositions[static_cast<std::size_t>(index)] = position;
+    }
+    int ColumnPosition(int index) override {
+        return shown.columnPositions[static_cast<std::size_t>(index)];
+    }
+    void ResetRows(int count) override {
+        shown.rowCount = count;
+        shown.selectedRow = -1;
+        shown.visibleRow = -1;
+        shown.updatesInSight += shown.visible ? 1 : 0;
+        ++shown.fills;
+    }
+    void UpdateRows(int count) override {
+        shown.rowCount = count;
+        shown.updatesInSight += shown.visible ? 1 : 0;
+    }
+    void SelectRow(int row) override { shown.selectedRow = row; }
+    void EnsureVisible(int row) override { shown.visibleRow = row; }
+    void SetGridLines(bool gridLines) override { shown.gridLines = gridLines; }
+    void FlattenColumnHeaders() override { shown.flatHeaders = true; }
+};
+
+class MemoryStatusBar : public Peer<toolkit::StatusBarPeer> {
+  public:
+    using Peer::Peer;
+    // Always along the lower edge of its form.
+    toolkit::Rect Place(const toolkit::Rect&) override { return Settle(); }
+    toolkit::Rect SetFont(const toolkit::Font& font) override {
+        shown.font = font;
+        return Settle();
+    }
+    void SetContainer(toolkit::ControlPeer& container) override {
+        shown.container = &container;
+        Settle();
+    }
+    toolkit::Rect Settle() {
+        const auto* form = dynamic_cast<const toolkit::Form*>(&FormOf(control_));
+        if (form == nullptr)
+            return shown.bounds;
+        const toolkit::Size inside = form->ClientSize();
+        return shown.bounds = {0, inside.height - kStatusHeight, inside.width, kStatusHeight};
+    }
+    void SetPanelCount(int count) override { shown.panels.resize(static_cast<std::size_t>(count)); }
+    void SetPanel(int index, std::string_view text, toolkit::Twips width,
+                  toolkit::Bevel bevel) override {
+        shown.panels[static_cast<std::size_t>(index)] = {std::string(text), width, bevel};
+    }
+};
+
+class MemoryProgressBar : public Peer<toolkit::ProgressBarPeer> {
+  public:
+    using Peer::Peer;
+    void SetRange(int minimum, int maximum) override {
+        shown.minimum = minimum;
+        shown.maximum = maximum;
+    }
+    void SetValue(int value) override {
+        shown.value = value;
+        shown.values.push_back(value);
+    }
+};
+
+class MemoryTabStrip : public Peer<toolkit::TabStripPeer> {
+  public:
+    using Peer::Peer;
+    void SetTab(int index, std::string_view caption) override {
+        if (index == static_cast<int>(shown.tabs.size()))
+            shown.tabs.emplace_back();
+        shown.tabs[static_cast<std::size_t>(index)] = caption;
+    }
+    void SelectTab(int index) override { shown.selectedTab = index; }
+};
+
+class MemoryToolBar : public Peer<toolkit::ToolBarPeer> {
+  public:
+    using Peer::Peer;
+    void AddButton(std::string_view image, bool) override { shown.items.emplace_back(image); }
+    void ShowCurrentButton(int) override {}
+    void OpenMenu(int index) override {
+        auto& bar = static_cast<toolkit::ToolBar&>(control_);
+        if (bar.ButtonAt(index + 1).menu.empty() || !toolkit_.onToolMenu)
+            return;
+        const int entry = toolkit_.onToolMenu(bar, index + 1);
+        if (entry >= 0)
+            bar.UserChoseMenuEntry(index, entry);
+    }
+};
+
+}  // namespace ordalyn::test
