@@ -49,6 +49,16 @@ def built_in():
 ENGLISH = built_in()
 
 
+def named():
+    source = (PROJECT / "src/base/TextIds.h").read_text(encoding="utf-8")
+    return {name: int(number) for name, number in re.findall(r'TextId (\w+)\{"(\d+)"\};', source)}
+
+
+NAMED = named()
+# Shown in English by the program itself when there is no language file to take it from.
+WITHOUT_A_NAME = {3048}
+
+
 def lines(language):
     data = (FOLDER / f"{language}.lng").read_bytes()
     assert data.startswith(MARK), "without the mark a Windows of another code page reads it wrongly"
@@ -108,6 +118,23 @@ def test_the_folder_has_these_languages_and_nothing_else():
     assert sorted(file.name for file in FOLDER.iterdir()) == [f"{name}.lng" for name in SHIPPED]
 
 
+def test_every_text_has_one_name():
+    assert len(set(NAMED.values())) == len(NAMED)
+    assert set(NAMED.values()) | WITHOUT_A_NAME == set(ENGLISH)
+
+
+def test_windows_name_their_texts_and_show_each():
+    """A number in a window's code is one that the table of names does not see change."""
+    named_uses = set()
+    for file in (PROJECT / "src").rglob("*.cpp"):
+        source = file.read_text(encoding="utf-8")
+        named_uses.update(re.findall(r"text_id::(\w+)", source))
+        if "windows" in file.relative_to(PROJECT / "src").parts:
+            assert not re.findall(r'tag = "\d|"mnu\w+", "\d|AddTab\("\d|[tT]ext\(\d\d|String\(\d\d',
+                                  source), file
+    assert named_uses == set(NAMED)
+
+
 def test_the_groups_are_those_of_the_forms():
     """What a form's design names is in a group, so that a new control cannot be forgotten."""
     grouped = set().union(*TOGETHER.values())
@@ -116,8 +143,7 @@ def test_the_groups_are_those_of_the_forms():
     for file in ("main/frmMainDesign", "options/frmOptions", "about/frmAbout",
                  "progress/frmProgress", "find/frmSearchFor", "filter/frmFilters"):
         source = (PROJECT / f"src/windows/{file}.cpp").read_text(encoding="utf-8")
-        used = re.findall(r'\.tag = "(\d+)"|\{\d, "mnu\w+", "(\d+)"|AddTab\("(\d+)"\)', source)
-        numbers = {int("".join(found)) for found in used}
+        numbers = {NAMED[name] for name in re.findall(r"text_id::(\w+)\.tag", source)}
         assert numbers, file
         assert numbers <= grouped | titles | own_text, file
     assert {number for number, text in ENGLISH.items() if "&" in text} <= grouped

@@ -1,15 +1,12 @@
 #include "windows/about/Help.h"
 
 #include "base/FileNames.h"
+#include "base/TextIds.h"
 #include "hostconfig/mAppCommon.h"
 
 namespace ordalyn {
 
-namespace {
-
-constexpr std::int32_t kFileNotFoundText = 3056;
-
-}  // namespace
+namespace {}  // namespace
 
 std::string HelpFile(const HelpSurroundings& around) {
     std::string common = around.programFolder + "Readme.chm";
@@ -23,7 +20,7 @@ std::string HelpFile(const HelpSurroundings& around) {
 void ShowHelp(const HelpSurroundings& around, toolkit::Form& ownerForm) {
     const std::string path = HelpFile(around);
     if (!around.files.Exists(path)) {
-        around.toolkit.ShowMessage(&ownerForm, around.text(kFileNotFoundText),
+        around.toolkit.ShowMessage(&ownerForm, around.text(text_id::kFileNotFound),
                                    mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
         return;
     }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/TextIds.h"
 #include "hostconfig/mAppCommon.h"
 #include "windows/about/Publisher.h"
 #include "windows/about/Version.h"
@@ -30,14 +31,14 @@ constexpr toolkit::ControlDesign kControls[] = {
     // First, so that it has the focus when the box opens, and not the address.
     {.kind = Kind::CommandButton,
      .name = "cmdOK",
-     .tag = "1008",
+     .tag = text_id::kOk.tag,
      .bounds = {kFrameWidth + 105 - 1215, 2760, 1215, 375},
      .isDefault = true,
      .isCancel = true},
     {.kind = Kind::Frame, .name = "Frame1", .bounds = {105, 105, kFrameWidth, kFrameHeight}},
     {.kind = Kind::Label,
      .name = "lblProgrammedBy",
-     .tag = "1502",
+     .tag = text_id::kProgrammedBy.tag,
      .bounds = {kLeft, 270, kLabelWidth, kLine},
      .container = "Frame1"},
     {.kind = Kind::Label,
@@ -46,7 +47,7 @@ constexpr toolkit::ControlDesign kControls[] = {
      .container = "Frame1"},
     {.kind = Kind::Label,
      .name = "lblVersion",
-     .tag = "1503",
+     .tag = text_id::kVersion.tag,
      .bounds = {kLeft, 585, kLabelWidth, kLine},
      .container = "Frame1"},
     {.kind = Kind::Label,
@@ -55,23 +56,23 @@ constexpr toolkit::ControlDesign kControls[] = {
      .container = "Frame1"},
     {.kind = Kind::Label,
      .name = "Label4",
-     .tag = "1505",
+     .tag = text_id::kLatestInformation.tag,
      .bounds = {kLeft, 975, kFrameWidth - 2 * kLeft, 2 * kLine},
      .container = "Frame1"},
     {.kind = Kind::Label,
      .name = "lblWebAddress",
-     .tag = "1506",
+     .tag = text_id::kWebSite.tag,
      .bounds = {kLeft, 1620, kLabelWidth, kLine},
      .container = "Frame1"},
     {.kind = Kind::Label,
      .name = "lblURL",
-     .tag = "1508",
+     .tag = text_id::kVisitNow.tag,
      .bounds = {kSecondColumn, 1620, kValueWidth, kLine},
      .container = "Frame1",
      .tabStop = true},
     {.kind = Kind::Label,
      .name = "lblEmail",
-     .tag = "1507",
+     .tag = text_id::kEmail.tag,
      .bounds = {kLeft, 1935, kLabelWidth, kLine},
      .container = "Frame1"},
     {.kind = Kind::Label,
@@ -82,7 +83,7 @@ constexpr toolkit::ControlDesign kControls[] = {
 
 constexpr toolkit::FormDesign kDesign = {
     .name = "frmAbout",
-    .tag = "1501",
+    .tag = text_id::kAboutTitle.tag,
     .clientSize = {kFrameWidth + 2 * 105, kFrameHeight + 105 + 90 + 375 + 105},
     .style = {},
     .controls = kControls,
@@ -114,16 +115,16 @@ frmAbout::frmAbout(toolkit::Toolkit& toolkit, platform::Shell& shell, const Text
     const auto show = [this](const char* name, std::string_view text) {
         Get<Label>(name).SetCaption(text);
     };
-    show("lblProgrammedBy", texts.text(1502));
+    show("lblProgrammedBy", texts.text(text_id::kProgrammedBy));
     show("lblAuthorName", publisher::kMaker);
-    show("lblVersion", texts.text(1503));
+    show("lblVersion", texts.text(text_id::kVersion));
     show("lblVersionNo", GetVersionText(""));
-    show("lblWebAddress", texts.text(1506));
-    show("lblEmail", texts.text(1507));
+    show("lblWebAddress", texts.text(text_id::kWebSite));
+    show("lblEmail", texts.text(text_id::kEmail));
     show("lbleMialAddress", publisher::kMail);
 
     auto& lblURL = Get<Label>("lblURL");
-    lblURL.SetToolTip(texts.text(1508));
+    lblURL.SetToolTip(texts.text(text_id::kVisitNow));
     lblURL.SetCaption(publisher::kHomePage);
     lblURL.SetRightToLeft(false);  // an address is the same in every language
     lblURL.SetForeColor(kLinkColor);

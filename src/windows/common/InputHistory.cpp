@@ -3,16 +3,13 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "base/TextIds.h"
 #include "hostconfig/mAppCommon.h"
 #include "settings/InterfaceStrings.h"
 
 namespace ordalyn {
 
-namespace {
-
-constexpr std::int32_t kAreYouSureText = 3009;
-
-}  // namespace
+namespace {}  // namespace
 
 void InputHistory::LoadHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax) {
     for (const std::string& text : history_.Read(strKey, intMax))
@@ -41,7 +38,7 @@ void InputHistory::AddToHistory(toolkit::ComboBox& cbo, std::string_view strKey,
 bool InputHistory::ClearHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax,
                                 toolkit::Form& owner) {
     const toolkit::Answer answer = owner.toolkit().ShowMessage(
-        &owner, strings_.GetInterfaceString(kAreYouSureText), mAppCommon::kProgramTitle,
+        &owner, strings_.GetInterfaceString(text_id::kAreYouSure), mAppCommon::kProgramTitle,
         toolkit::MessageIcon::Question, toolkit::MessageButtons::YesNo);
     if (answer != toolkit::Answer::Yes)
         return false;

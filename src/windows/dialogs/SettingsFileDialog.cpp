@@ -2,16 +2,13 @@
 
 #include <utility>
 
+#include "base/TextIds.h"
 #include "hostconfig/mAppCommon.h"
 #include "windows/dialogs/cCommonDialog.h"
 
 namespace ordalyn {
 
-namespace {
-
-constexpr std::int32_t kNoSettingsFileText = 3046;
-
-}  // namespace
+namespace {}  // namespace
 
 SettingsFileDialog::SettingsFileDialog(toolkit::Toolkit& toolkit, cCommonDialog& dialog,
                                        toolkit::Form* owner, TextSource text)
@@ -19,7 +16,7 @@ SettingsFileDialog::SettingsFileDialog(toolkit::Toolkit& toolkit, cCommonDialog&
 
 SettingsFileQuestion::Answer SettingsFileDialog::AskForSettingsFile(
     const std::string& startFolder) {
-    toolkit_.ShowMessage(owner_, text_(kNoSettingsFileText), mAppCommon::kProgramTitle,
+    toolkit_.ShowMessage(owner_, text_(text_id::kNoCommanderSettings), mAppCommon::kProgramTitle,
                          toolkit::MessageIcon::Exclamation, toolkit::MessageButtons::Ok);
     if (Ended())
         return {Outcome::ProgramEnded, {}};

@@ -11,6 +11,7 @@
 #include "base/CheckedMath.h"
 #include "base/Errors.h"
 #include "base/Text.h"
+#include "base/TextIds.h"
 #include "hostconfig/cRegistry.h"
 #include "hostconfig/mAppCommon.h"
 
@@ -29,7 +30,6 @@ constexpr std::string_view kFilters[] = {
     "TC Log File(*.log)\0*.log\0All Files (*.*)\0*.*\0"sv,
 };
 
-constexpr std::int32_t kOpenText = 1605;
 constexpr std::size_t kRoomForPath = 768;
 
 // Old libraries refuse a record with the fields that version 5 added at its end.
@@ -86,7 +86,7 @@ void cCommonDialog::ShowOpenDialog(platform::WindowHandle lngOwnerFormHwnd,
     request.filter = kFilters[lngFilter];
     request.fileName = strFileName;
     request.initialFolder = strInitDir.empty() ? lastFolder_ : std::string(strInitDir);
-    request.title = strTitle.empty() ? text_(kOpenText) : std::string(strTitle);
+    request.title = strTitle.empty() ? text_(text_id::kOpenTitle) : std::string(strTitle);
     request.flags = kOpenFlags | (blnFileMustExist ? kFileMustExist : 0);
     request.bufferSize = CharacterCount(strFileName) + kRoomForPath;
     request.recordSize =

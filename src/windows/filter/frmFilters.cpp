@@ -6,6 +6,7 @@
 
 #include "base/Attempt.h"
 #include "base/Text.h"
+#include "base/TextIds.h"
 #include "settings/SettingsTable.h"
 #include "windows/common/ControlFont.h"
 #include "windows/common/WindowPlacement.h"
@@ -17,8 +18,6 @@ using toolkit::Twips;
 
 namespace {
 
-constexpr std::int32_t kSourceText = 4001, kTargetText = 4002, kContainsText = 4033,
-                       kDoesNotContainText = 4034, kApplyFilterText = 4035, kClearListText = 109;
 // Buttons of Toolbar1. The one between them only keeps them apart.
 constexpr int kApplyButton = 1, kRemoveButton = 3;
 constexpr int kClearEntry = 0;
@@ -45,14 +44,14 @@ constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::ToolBar, .name = "Toolbar1", .bounds = {0, kEdge, kBarWidth, kBarHeight}},
     {.kind = Kind::CommandButton,
      .name = "cmdCancel",
-     .tag = "1009",
+     .tag = text_id::kCancel.tag,
      .bounds = {0, kEdge, kCancelWidth, kBoxHeight},
      .isCancel = true},
 };
 
 constexpr toolkit::FormDesign kDesign = {
     .name = "frmFilters",
-    .tag = "4031",
+    .tag = text_id::kFilterTitle.tag,
     .clientSize = {kClientWidth, kBoxHeight + 2 * kEdge},
     .style = {.toolWindow = true},
     .controls = kControls,
@@ -131,10 +130,10 @@ void frmFilters::LoadInterface() {
     const auto label = [this](toolkit::ComboBox& box, int item, std::int32_t text) {
         box.SetItem(item, around_.strings.GetInterfaceString(text));
     };
-    label(cboContains, 0, kContainsText);
-    label(cboContains, 1, kDoesNotContainText);
-    label(cboSource, 0, kSourceText);
-    label(cboSource, 1, kTargetText);
+    label(cboContains, 0, text_id::kContains);
+    label(cboContains, 1, text_id::kDoesNotContain);
+    label(cboSource, 0, text_id::kSource);
+    label(cboSource, 1, text_id::kTarget);
 
     constexpr double kPlainSize = 8;
     for (toolkit::ComboBox* box : {&cboFilter, &cboContains, &cboSource}) {
@@ -145,9 +144,10 @@ void frmFilters::LoadInterface() {
         box->SetBackColor(settings.BackgroundColor);
     }
     around_.language.ApplyLanguage(*this);
-    Toolbar1.SetButtonToolTip(kApplyButton, around_.strings.GetInterfaceString(kApplyFilterText));
+    Toolbar1.SetButtonToolTip(kApplyButton,
+                              around_.strings.GetInterfaceString(text_id::kApplyFilter));
     Toolbar1.SetMenuEntryText(kRemoveButton, kClearEntry,
-                              around_.strings.GetInterfaceString(kClearListText));
+                              around_.strings.GetInterfaceString(text_id::kClearList));
     const auto pixel = static_cast<Twips>(std::lround(toolkit().TwipsPerPixelY()));
     SetClientHeight(cboSource.Height() + kHeightAroundBoxes * pixel);
     Arrange();

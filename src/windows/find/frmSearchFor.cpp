@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Text.h"
+#include "base/TextIds.h"
 #include "hostconfig/mAppCommon.h"
 #include "settings/SettingsTable.h"
 
@@ -13,7 +14,6 @@ using toolkit::Twips;
 
 namespace {
 
-constexpr std::int32_t kCannotFindText = 259;
 constexpr std::int32_t kSourceColumn = 0, kTargetColumn = 1;
 
 constexpr Twips kEdge = 120;
@@ -31,7 +31,7 @@ constexpr Twips kButtonWidth = 1710, kButtonHeight = 375;
 constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::Label,
      .name = "Label1",
-     .tag = "254",
+     .tag = text_id::kFindWhat.tag,
      .bounds = {kEdge, 180, kLabelWidth, kLine}},
     {.kind = Kind::ComboBox,
      .name = "cboFindWhat",
@@ -39,48 +39,48 @@ constexpr toolkit::ControlDesign kControls[] = {
      .editable = true},
     {.kind = Kind::Frame,
      .name = "Frame1",
-     .tag = "255",
+     .tag = text_id::kSearchIn.tag,
      .bounds = {kEdge, kFrameTop, kFrameWidth, kFrameHeight}},
     {.kind = Kind::OptionButton,
      .name = "optColumn",
-     .tag = "4003",
+     .tag = text_id::kSourceOption.tag,
      .bounds = {150, 315, kOptionWidth, kLine},
      .container = "Frame1",
      .index = 0},
     {.kind = Kind::OptionButton,
      .name = "optColumn",
-     .tag = "4004",
+     .tag = text_id::kTargetOption.tag,
      .bounds = {150, 675, kOptionWidth, kLine},
      .container = "Frame1",
      .index = 1},
     {.kind = Kind::CheckBox,
      .name = "chkWholeWord",
-     .tag = "258",
+     .tag = text_id::kWholeWordOnly.tag,
      .bounds = {kChecksLeft, kFrameTop + 315, kChecksWidth, kLine}},
     {.kind = Kind::CheckBox,
      .name = "chkSelectedDate",
-     .tag = "4016",
+     .tag = text_id::kSelectedDateOnly.tag,
      .bounds = {kChecksLeft, kFrameTop + 675, kChecksWidth, kLine}},
     {.kind = Kind::CommandButton,
      .name = "cmdFindNext",
-     .tag = "252",
+     .tag = text_id::kFindNext.tag,
      .bounds = {kButtonsLeft, 105, kButtonWidth, kButtonHeight},
      .isDefault = true},
     {.kind = Kind::CommandButton,
      .name = "cmdCancel",
-     .tag = "1009",
+     .tag = text_id::kCancel.tag,
      .bounds = {kButtonsLeft, 570, kButtonWidth, kButtonHeight},
      .isCancel = true},
     {.kind = Kind::CommandButton,
      .name = "cmdClearList",
-     .tag = "109",
+     .tag = text_id::kClearList.tag,
      .bounds = {kButtonsLeft, kFrameTop + kFrameHeight - kButtonHeight, kButtonWidth,
                 kButtonHeight}},
 };
 
 constexpr toolkit::FormDesign kDesign = {
     .name = "frmSearchFor",
-    .tag = "253",
+    .tag = text_id::kFindTitle.tag,
     .clientSize = {kButtonsLeft + kButtonWidth + kEdge, kFrameTop + kFrameHeight + kEdge},
     .style = {},
     .controls = kControls,
@@ -96,7 +96,8 @@ void FindNextString(EntrySearch& search, const InterfaceStrings& strings, toolki
     if (search.FindNext())
         return;
     owner.toolkit().ShowMessage(
-        &owner, strings.GetInterfaceString(kCannotFindText) + " \"" + search.Options().text + "\"",
+        &owner,
+        strings.GetInterfaceString(text_id::kCannotFind) + " \"" + search.Options().text + "\"",
         mAppCommon::kProgramTitle, toolkit::MessageIcon::Information);
 }
 

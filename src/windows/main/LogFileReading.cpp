@@ -3,17 +3,10 @@
 #include <exception>
 
 #include "base/FileNames.h"
+#include "base/TextIds.h"
 #include "toolkit/ScopedPointer.h"
 
 namespace ordalyn {
-
-namespace {
-
-constexpr std::int32_t kErrorInFileText = 3015;
-constexpr std::int32_t kLineText = 3016;
-constexpr std::int32_t kReadingText = 3250;
-
-}  // namespace
 
 LogFileReading::LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow, LogReader& reader,
                                EntryLists& entries, DayPanels& panels, ReadingProgress& progress,
@@ -77,7 +70,7 @@ void LogFileReading::Prepare(const std::string& fileName, bool startNewList) {
     } else {
         progress_.PrepareTall(GetFileName(fileName));
     }
-    progress_.ShowProgress(shared_.Text(kReadingText), reader_.LineCount());
+    progress_.ShowProgress(shared_.Text(text_id::kReading), reader_.LineCount());
 }
 
 void LogFileReading::ReadWhole(const std::string& fileName, bool addToRecentFiles,
@@ -112,11 +105,11 @@ void LogFileReading::ReadAppendedLines(const std::string& fileName) {
 
 // The message is modal: what events can change may have changed when it returns.
 void LogFileReading::ShowReadError() {
-    shared_.toolkit.ShowMessage(&mainWindow_,
-                                shared_.Text(kErrorInFileText) + "\r\n" + reader_.CurrentLogFile() +
-                                    "\r\n" + shared_.Text(kLineText) + " " +
-                                    std::to_string(reader_.LineNumber()),
-                                mAppCommon::kProgramTitle);
+    shared_.toolkit.ShowMessage(
+        &mainWindow_,
+        shared_.Text(text_id::kErrorInFile) + "\r\n" + reader_.CurrentLogFile() + "\r\n" +
+            shared_.Text(text_id::kLine) + " " + std::to_string(reader_.LineNumber()),
+        mAppCommon::kProgramTitle);
 }
 
 }  // namespace ordalyn

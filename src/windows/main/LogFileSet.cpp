@@ -2,13 +2,12 @@
 
 #include "base/Attempt.h"
 #include "base/Text.h"
+#include "base/TextIds.h"
 
 namespace ordalyn {
 
 namespace {
 
-constexpr std::int32_t kAreYouSureText = 3009;
-constexpr std::int32_t kAllFilesText = 4006;
 // Places in the list when it begins with "All files".
 constexpr int kAllFilesItem = 0;
 constexpr int kLiveLogItem = 1;
@@ -45,7 +44,7 @@ void LogFileSet::BuildLogFileList() {
     controls_.cboFiles.Clear();
     Attempt([this] {
         const RotatedLogs logs(shared_.services.files, ReadRotationSettings(),
-                               shared_.Text(kAllFilesText));
+                               shared_.Text(text_id::kAllFiles));
         liveLogName_ = logs.LiveLogName();
         logFolder_ = logs.LogFolder();
         title_.SetLogFolder(logFolder_);
@@ -89,7 +88,7 @@ void LogFileSet::DeselectLogFile() {
 
 void LogFileSet::LanguageChanged() {
     if (controls_.cboFiles.Visible() && controls_.cboFiles.ListCount() > 0)
-        controls_.cboFiles.SetItem(0, shared_.Text(kAllFilesText));
+        controls_.cboFiles.SetItem(0, shared_.Text(text_id::kAllFiles));
 }
 
 void LogFileSet::FileComboClicked() {
@@ -131,7 +130,7 @@ void LogFileSet::ReadAllFiles() {
         ReadOnlyLiveLog();
         return;
     }
-    title_.SetTitle(shared_.Text(kAllFilesText));
+    title_.SetTitle(shared_.Text(text_id::kAllFiles));
     Attempt([this] { entries_.FreeExtraItems(); });
     reading_.HideProgress();
     panels_.BuildDateList(false);
@@ -147,7 +146,7 @@ bool LogFileSet::ReadSiblings() {
         if (!reading_.CancelReading || reading_.Stopped())
             continue;
         const toolkit::Answer answer = shared_.toolkit.ShowMessage(
-            &controls_.form, shared_.Text(kAreYouSureText), mAppCommon::kProgramTitle,
+            &controls_.form, shared_.Text(text_id::kAreYouSure), mAppCommon::kProgramTitle,
             toolkit::MessageIcon::Question, toolkit::MessageButtons::YesNo, toolkit::Answer::No);
         if (answer == toolkit::Answer::Yes)
             return false;

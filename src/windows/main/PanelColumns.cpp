@@ -5,6 +5,7 @@
 #include "base/Attempt.h"
 #include "base/CheckedMath.h"
 #include "base/Text.h"
+#include "base/TextIds.h"
 
 namespace ordalyn {
 
@@ -12,7 +13,8 @@ using toolkit::ListView;
 
 namespace {
 
-constexpr std::int32_t kFirstCaption = 4000;  // time; source and target follow
+// By field.
+constexpr TextId kCaptions[] = {text_id::kTime, text_id::kSource, text_id::kTarget};
 
 std::string WholeWidth(const ListView& list, int column) {
     return std::to_string(TruncateToLong(list.ColumnWidth(column)));
@@ -21,7 +23,7 @@ std::string WholeWidth(const ListView& list, int column) {
 }  // namespace
 
 std::string PanelColumns::Caption(EntryRows::Field field) const {
-    return shared_.strings->GetInterfaceString(kFirstCaption + field);
+    return shared_.strings->GetInterfaceString(kCaptions[field]);
 }
 
 std::string PanelColumns::TargetCaption() const {

@@ -3,17 +3,10 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/TextIds.h"
 #include "hostconfig/mAppCommon.h"
 
 namespace ordalyn {
-
-namespace {
-
-constexpr std::int32_t kNoFilesId = 108;
-constexpr std::int32_t kClearId = 109;
-constexpr std::int32_t kWarningId = 3009;
-
-}  // namespace
 
 RecentFilesMenu::RecentFilesMenu(cRecentFiles& list, TextSource text)
     : list_(list), text_(std::move(text)) {
@@ -68,9 +61,9 @@ bool RecentFilesMenu::Clear() {
 }
 
 void RecentFilesMenu::ChangeLanguage() {
-    noFilesText_ = text_(kNoFilesId);
-    clearText_ = text_(kClearId);
-    warningText_ = text_(kWarningId);
+    noFilesText_ = text_(text_id::kNoRecentFiles);
+    clearText_ = text_(text_id::kClearList);
+    warningText_ = text_(text_id::kAreYouSure);
     RefreshMenu();
 }
 

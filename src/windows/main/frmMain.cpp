@@ -5,6 +5,7 @@
 
 #include "base/Attempt.h"
 #include "base/Text.h"
+#include "base/TextIds.h"
 #include "windows/about/Help.h"
 #include "windows/about/Version.h"
 #include "windows/about/frmAbout.h"
@@ -158,7 +159,8 @@ void frmMain::WireParts() {
 
 void frmMain::LoadRecentFiles() {
     recentFilesMenu_.Setup(shared_.settings->NumberOfRecentFiles, *this, Menu("mnuFileRecentGroup"),
-                           shared_.Text(108), shared_.Text(109), shared_.Text(3009));
+                           shared_.Text(text_id::kNoRecentFiles), shared_.Text(text_id::kClearList),
+                           shared_.Text(text_id::kAreYouSure));
     recentFilesMenu_.FileChosen.Subscribe([this](std::int32_t index) { OpenRecentFile(index); });
     recentFilesMenu_.ClearChosen.Subscribe([this] {
         if (recentFilesMenu_.Clear())
@@ -185,11 +187,10 @@ void frmMain::FirstActivation() {
     std::string logFile;
     Attempt([&] { logFile = locator_.FindLogFile(); });
     if (!shared_.common.FileExists(logFile)) {
-        constexpr std::int32_t kNoLogText = 4050;
         reader_.ForgetLogFile();
         SetTitle("");
-        shared_.toolkit.ShowMessage(this, shared_.Text(kNoLogText), mAppCommon::kProgramTitle,
-                                    toolkit::MessageIcon::Critical);
+        shared_.toolkit.ShowMessage(this, shared_.Text(text_id::kNoCommanderLog),
+                                    mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
         return;
     }
     files_.BuildLogFileList();
@@ -222,7 +223,8 @@ void frmMain::OpenRecentFile(std::int32_t index) {
         return;
     }
     shared_.toolkit.ShowMessage(this,
-                                shared_.Text(3021) + " " + path + "\r\n\r\n" + shared_.Text(3022),
+                                shared_.Text(text_id::kCannotFindFile) + " " + path + "\r\n\r\n" +
+                                    shared_.Text(text_id::kVerifyPath),
                                 mAppCommon::kProgramTitle, toolkit::MessageIcon::Exclamation);
     recent.RemoveFile(index, true);
     SaveRecentFiles();

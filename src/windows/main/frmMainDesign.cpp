@@ -1,5 +1,7 @@
 #include "windows/main/frmMainDesign.h"
 
+#include "base/TextIds.h"
+
 namespace ordalyn {
 
 namespace {
@@ -40,33 +42,33 @@ constexpr Modifiers kControl{.control = true};
 
 // Captions are string ids until the interface language has given the texts.
 constexpr toolkit::MenuDesign kMenus[] = {
-    {0, "mnuFile", "101"},
-    {1, "mnuFileOpen", "103", {'O', kControl}},
-    {1, "mnuFileRecentGroup", "107"},
-    {2, "mnuFileRecentFiles", "108"},
+    {0, "mnuFile", text_id::kFileMenu.tag},
+    {1, "mnuFileOpen", text_id::kOpenFile.tag, {'O', kControl}},
+    {1, "mnuFileRecentGroup", text_id::kRecentFiles.tag},
+    {2, "mnuFileRecentFiles", text_id::kNoRecentFiles.tag},
     {1, "mnuFileSeparator", "-"},
-    {1, "mnuFileExit", "110", {}, "Alt+F4"},
-    {0, "mnuSearch", "250"},
-    {1, "mnuSearchFind", "251", {'F', kControl}},
-    {1, "mnuSearchFindNext", "252", {key::F3, {}}},
+    {1, "mnuFileExit", text_id::kExit.tag, {}, "Alt+F4"},
+    {0, "mnuSearch", text_id::kSearchMenu.tag},
+    {1, "mnuSearchFind", text_id::kFind.tag, {'F', kControl}},
+    {1, "mnuSearchFindNext", text_id::kFindNext.tag, {key::F3, {}}},
     {1, "mnuSearchSeparator", "-"},
-    {1, "mnuSearchFilter", "4030", {'L', kControl}},
-    {0, "mnuView", "141"},
-    {1, "mnuViewStatusBar", "143"},
-    {1, "mnuViewTwoPanels", "4021"},
-    {1, "mnuViewVerticalPanels", "145"},
+    {1, "mnuSearchFilter", text_id::kFilterItem.tag, {'L', kControl}},
+    {0, "mnuView", text_id::kViewMenu.tag},
+    {1, "mnuViewStatusBar", text_id::kStatusBar.tag},
+    {1, "mnuViewTwoPanels", text_id::kTwoPanels.tag},
+    {1, "mnuViewVerticalPanels", text_id::kVerticalPanels.tag},
     {1, "mnuViewSeparator", "-"},
-    {1, "mnuViewRefresh", "4020", {key::F5, {}}},
+    {1, "mnuViewRefresh", text_id::kRefresh.tag, {key::F5, {}}},
     {1, "mnuViewOptionsSeparator", "-"},
-    {1, "mnuViewOptions", "150"},
-    {0, "mnuHelp", "161"},
-    {1, "mnuHelpHelpTopics", "162", {key::F1, {}}},
+    {1, "mnuViewOptions", text_id::kOptionsItem.tag},
+    {0, "mnuHelp", text_id::kHelpMenu.tag},
+    {1, "mnuHelpHelpTopics", text_id::kHelpTopics.tag, {key::F1, {}}},
     {1, "mnuHelpSeparator", "-"},
-    {1, "mnuHelpAbout", "163"},
+    {1, "mnuHelpAbout", text_id::kAboutItem.tag},
     // These keys are handled when they are released, so they are hints and no shortcuts.
     {0, "mnuContext", "", {}, "", false},
-    {1, "mnuContextCopySource", "4022", {}, "Ctrl+C"},
-    {1, "mnuContextCopyTarget", "4023", {}, "Ctrl+Alt+C"},
+    {1, "mnuContextCopySource", text_id::kCopySource.tag, {}, "Ctrl+C"},
+    {1, "mnuContextCopyTarget", text_id::kCopyTarget.tag, {}, "Ctrl+Alt+C"},
 };
 
 }  // namespace

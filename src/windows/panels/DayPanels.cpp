@@ -7,6 +7,7 @@
 #include "base/Attempt.h"
 #include "base/CheckedMath.h"
 #include "base/Text.h"
+#include "base/TextIds.h"
 #include "log/DayRows.h"
 #include "windows/panels/EntryRows.h"
 #include "windows/panels/RowOfEntry.h"
@@ -14,13 +15,7 @@
 
 namespace ordalyn {
 
-namespace {
-
-constexpr std::int32_t kAllDatesText = 4005;
-constexpr std::int32_t kOperationsText = 4010;
-constexpr std::int32_t kFilterText = 4032;
-
-}  // namespace
+namespace {}  // namespace
 
 DayPanels::DayPanels(const Controls& controls, const EntryLists& entries,
                      const FilterChoice& filter, const SettingsValues& settings,
@@ -64,7 +59,7 @@ void DayPanels::BuildDateList(bool selectLastDate) {
         for (std::string& date : dates)
             date = LongDate(date);
     if (days_.FirstDayItem() == 1)
-        dates.insert(dates.begin(), text_(kAllDatesText));
+        dates.insert(dates.begin(), text_(text_id::kAllDates));
     cboDate.AddItems(dates);
     shownDay_ = kNothingShown;
     Attempt([&] { cboDate.SetListIndex(selectLastDate ? cboDate.ListCount() - 1 : 0); });
@@ -134,11 +129,11 @@ void DayPanels::ApplyFilter(bool blnPreShow) {
 void DayPanels::ShowOperationCount() {
     const std::string count = std::to_string(controls_.SourceListView.RowCount());
     ShowStatus(controls_.StatusBar1, kCountPanel,
-               ReplaceIgnoreCase(text_(kOperationsText), "%i", count));
+               ReplaceIgnoreCase(text_(text_id::kOperations), "%i", count));
 }
 
 void DayPanels::ShowFilterInStatusBar() {
-    ShowStatus(controls_.StatusBar1, kFilterPanel, text_(kFilterText) + filter_.boxText);
+    ShowStatus(controls_.StatusBar1, kFilterPanel, text_(text_id::kFilterStatus) + filter_.boxText);
 }
 
 void DayPanels::ShowDateInStatusBar(bool asGiven, std::string_view dateText) {
@@ -152,7 +147,7 @@ void DayPanels::ApplyNewDateFormat(std::int32_t lngLd) {
     cboDate.Clear();
     std::vector<std::string> labels;
     if (days_.FirstDayItem() == 1)
-        labels.push_back(text_(kAllDatesText));
+        labels.push_back(text_(text_id::kAllDates));
     for (std::int32_t day = 0; day < days_.DayCount(); ++day) {
         // Days that are older than the entries can have lost their dates; they keep their places.
         std::string label;
@@ -222,7 +217,7 @@ void DayPanels::LanguageChanged() {
     ShowOperationCount();
     ShowFilterInStatusBar();
     if (days_.FirstDayItem() == 1)
-        controls_.cboDate.SetItem(0, text_(kAllDatesText));
+        controls_.cboDate.SetItem(0, text_(text_id::kAllDates));
 }
 
 bool DayPanels::ShowEntry(std::int32_t entry) {

@@ -1,5 +1,7 @@
 #include "windows/progress/frmProgress.h"
 
+#include "base/TextIds.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -26,7 +28,7 @@ constexpr toolkit::ControlDesign kControls[] = {
      .bounds = {kMargin, 480, kWidth - 3 * kMargin - kButtonWidth, kTextHeight}},
     {.kind = Kind::CommandButton,
      .name = "cmdCancel",
-     .tag = "1009",
+     .tag = text_id::kCancel.tag,
      .bounds = {kWidth - kMargin - kButtonWidth, 420, kButtonWidth, kButtonHeight},
      .isCancel = true},
 };

@@ -1,0 +1,116 @@
+// The texts that the program shows, by name. A text's number is its key in the language files; the
+// built-in English texts are in settings/cDefaultStrings.cpp.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace ordalyn {
+
+// A text's number, also in digits, as the designs of forms name it.
+struct TextId {
+    const char* tag;
+    std::int32_t number;
+
+    consteval TextId(const char* digits) : tag(digits), number(0) {
+        for (const char digit : std::string_view(digits))
+            number = number * 10 + (digit - '0');
+    }
+    constexpr operator std::int32_t() const { return number; }
+};
+
+namespace text_id {
+
+// The menus.
+inline constexpr TextId kFileMenu{"101"};
+inline constexpr TextId kOpenFile{"103"};
+inline constexpr TextId kRecentFiles{"107"};
+inline constexpr TextId kNoRecentFiles{"108"};
+inline constexpr TextId kClearList{"109"};
+inline constexpr TextId kExit{"110"};
+inline constexpr TextId kViewMenu{"141"};
+inline constexpr TextId kStatusBar{"143"};
+inline constexpr TextId kVerticalPanels{"145"};
+inline constexpr TextId kOptionsItem{"150"};
+inline constexpr TextId kHelpMenu{"161"};
+inline constexpr TextId kHelpTopics{"162"};
+inline constexpr TextId kAboutItem{"163"};
+inline constexpr TextId kSearchMenu{"250"};
+inline constexpr TextId kFind{"251"};
+inline constexpr TextId kFindNext{"252"};
+inline constexpr TextId kRefresh{"4020"};
+inline constexpr TextId kTwoPanels{"4021"};
+inline constexpr TextId kCopySource{"4022"};
+inline constexpr TextId kCopyTarget{"4023"};
+inline constexpr TextId kFilterItem{"4030"};
+
+// The find dialog and its message.
+inline constexpr TextId kFindTitle{"253"};
+inline constexpr TextId kFindWhat{"254"};
+inline constexpr TextId kSearchIn{"255"};
+inline constexpr TextId kWholeWordOnly{"258"};
+inline constexpr TextId kCannotFind{"259"};
+inline constexpr TextId kSourceOption{"4003"};
+inline constexpr TextId kTargetOption{"4004"};
+inline constexpr TextId kSelectedDateOnly{"4016"};
+
+// The filter dialog and its tool bar.
+inline constexpr TextId kFilterTitle{"4031"};
+inline constexpr TextId kContains{"4033"};
+inline constexpr TextId kDoesNotContain{"4034"};
+inline constexpr TextId kApplyFilter{"4035"};
+
+// The options dialog.
+inline constexpr TextId kOptionsTitle{"1001"};
+inline constexpr TextId kLayoutPage{"1002"};
+inline constexpr TextId kLanguagePage{"1006"};
+inline constexpr TextId kApply{"1010"};
+inline constexpr TextId kVisualEffects{"1021"};
+inline constexpr TextId kGridLines{"1024"};
+inline constexpr TextId kFixedBorders{"1025"};
+inline constexpr TextId kFlatInterface{"1026"};
+inline constexpr TextId kChangeFont{"1044"};
+inline constexpr TextId kTextColors{"1051"};
+inline constexpr TextId kForeground{"1052"};
+inline constexpr TextId kBackground{"1053"};
+inline constexpr TextId kFontName{"1065"};
+inline constexpr TextId kChangeLanguage{"1089"};
+inline constexpr TextId kDefaultLanguage{"1090"};
+inline constexpr TextId kOtherLanguage{"1091"};
+inline constexpr TextId kLongDateFormat{"4015"};
+
+// The about box.
+inline constexpr TextId kAboutTitle{"1501"};
+inline constexpr TextId kProgrammedBy{"1502"};
+inline constexpr TextId kVersion{"1503"};
+inline constexpr TextId kLatestInformation{"1505"};
+inline constexpr TextId kWebSite{"1506"};
+inline constexpr TextId kEmail{"1507"};
+inline constexpr TextId kVisitNow{"1508"};
+
+// Buttons, questions and messages that windows share.
+inline constexpr TextId kOk{"1008"};
+inline constexpr TextId kCancel{"1009"};
+inline constexpr TextId kOpenTitle{"1605"};
+inline constexpr TextId kAreYouSure{"3009"};
+inline constexpr TextId kErrorInFile{"3015"};
+inline constexpr TextId kLine{"3016"};
+inline constexpr TextId kCannotFindFile{"3021"};
+inline constexpr TextId kVerifyPath{"3022"};
+inline constexpr TextId kNoCommanderSettings{"3046"};
+inline constexpr TextId kFileNotFound{"3056"};
+inline constexpr TextId kReading{"3250"};
+inline constexpr TextId kNoCommanderLog{"4050"};
+
+// The main window: columns, lists and status bar.
+inline constexpr TextId kTime{"4000"};
+inline constexpr TextId kSource{"4001"};
+inline constexpr TextId kTarget{"4002"};
+inline constexpr TextId kAllDates{"4005"};
+inline constexpr TextId kAllFiles{"4006"};
+inline constexpr TextId kOperations{"4010"};
+inline constexpr TextId kFilterStatus{"4032"};
+
+}  // namespace text_id
+
+}  // namespace ordalyn
