@@ -18,13 +18,16 @@ END = "<!-- end of rooms -->"
 
 
 def read_parts(path):
-    """The parts of the table: [(title, rooms)]. A comment right above a row begins a part; its title
-    ends at the first colon or full stop."""
+    """The parts of the table: [(title, rooms)]. A comment behind an empty line and right above a row
+    begins a part; its title ends at the first colon or full stop. Other comments are notes."""
     parts = [("", [])]
     comment = ""
+    before = ""
     for line in path.read_text(encoding="utf-8").splitlines():
+        behind_gap, before = not before.strip(), line
         if line.startswith("#"):
-            comment = comment or line.lstrip("# ")
+            if behind_gap:
+                comment = line.lstrip("# ")
             continue
         if line.strip():
             if comment:

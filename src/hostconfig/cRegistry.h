@@ -38,7 +38,7 @@ class cRegistry {
     // itself with a NUL at its end.
     void WriteValue(std::string_view strValuePath, std::string_view strValueName,
                     const NewValue& vntValue, std::uint32_t uValueType) const;
-    // Removes a key that has no sub-keys. Always answers an empty text, whatever happened.
+    // Removes a key that has no sub-keys. Always returns an empty text, whatever happened.
     std::string Deletekey(std::string_view strKeyPath) const;
 
   private:

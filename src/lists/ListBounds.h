@@ -16,7 +16,7 @@ class ListBounds {
     std::int32_t LastIndex() const { return last_; }
     std::int32_t UpperIndex() const { return upper_; }
 
-    // Makes room for one more item and answers its index. Throws Overflow when the last index or
+    // Makes room for one more item and returns its index. Throws Overflow when the last index or
     // the upper index cannot grow. The storage grows by one step only: after such a failure the
     // last index stays ahead of the storage and SubscriptOutOfRange follows as long as a step does
     // not reach it.
@@ -24,7 +24,7 @@ class ListBounds {
     // Cuts the storage to the items. Throws SubscriptOutOfRange when there are none: a list is
     // never without any slot.
     void Trim();
-    // Empties a list that has items and answers true; leaves an empty one alone and answers false.
+    // Empties a list that has items and returns true; leaves an empty one alone: false.
     bool Reset();
     // Throws SubscriptOutOfRange unless the index lies in the storage (which may reach beyond the
     // last item).

@@ -24,7 +24,7 @@ class cLongArray {
     // Cuts the storage to the items. Throws SubscriptOutOfRange when there are none.
     void FreeExtraItems() { bounds_.Trim(); }
     // Throws SubscriptOutOfRange outside the storage. A slot of the storage beyond the last item
-    // holds no number: reading it throws TypeMismatch (where a cStringArray answers the empty
+    // holds no number: reading it throws TypeMismatch (where a cStringArray returns the empty
     // text).
     std::int32_t List(std::int32_t index) const;
     // Empties the list; an empty list keeps its storage as it is.

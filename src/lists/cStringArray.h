@@ -91,7 +91,7 @@ class cStringArray {
         return storage_->Position(index);
     }
 
-    // The text at a place that Position has answered.
+    // The text at a place that Position has returned.
     std::string_view TextAt(TextPosition position) const { return storage_->texts->Text(position); }
 
     // Highest index that List takes.
@@ -105,7 +105,9 @@ class cStringArray {
     StringListView Snapshot() const { return {storage_, bounds_}; }
 
   private:
-    // Dates are of 8 to 16 bytes, and comparing them is a good part of adding an entry.
+    // As a == b, without its call of memcmp for texts of 8 to 16 bytes: dates, each of which is
+    // compared with the one before, and the call is a good part of adding an entry. Their first and
+    // their last eight bytes, which overlap, are compared as two numbers.
     static bool Same(std::string_view a, std::string_view b) {
         if (a.size() != b.size() || a.size() < 8 || a.size() > 16)
             return a == b;

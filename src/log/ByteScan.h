@@ -1,16 +1,13 @@
 // ByteScan: the few searches through bytes that reading a log consists of. Sixteen bytes at a time
-// where the processor can (the C library's own searches are slow on some systems), one at a time
-// elsewhere; both ways give the same results.
+// where the processor can (under Wine the C library's own searches are slow: docs/performance.md),
+// one at a time elsewhere; both ways give the same results.
 #pragma once
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 
-#if defined(__SSE2__) || defined(_M_X64)
-#define ORDALYN_SSE2 1
-#include <emmintrin.h>
-#endif
+#include "base/Sse2.h"
 
 namespace ordalyn::bytescan {
 
@@ -44,7 +41,7 @@ inline Marks FindMarks(const char* at, const char* end) {
     return {blank, blank == end ? end : FindArrow(blank + 1, end)};
 }
 
-// Notes where the bytes hold a CR or LF, as distances from the first byte, and answers how many
+// Notes where the bytes hold a CR or LF, as distances from the first byte, and returns how many
 // there are. `places` must have room for as many as there are bytes.
 std::size_t FindLineEnds(const char* at, const char* end, std::uint32_t* places);
 
@@ -75,7 +72,7 @@ inline std::uint64_t Bits(__m128i a, __m128i b, __m128i c, __m128i d) {
            (std::uint64_t{bits(c) | (bits(d) << 16U)} << 32U);
 }
 
-// Where the lowest bit stands; anything for no bits. The library's function answers 64 for these,
+// Where the lowest bit stands; anything for no bits. The library's function returns 64 for these,
 // for which compilers may jump, and such a jump is guessed wrong half the time.
 inline int LowestBit(std::uint64_t bits) {
     return std::countr_zero(bits | (std::uint64_t{1} << 63U));

@@ -21,9 +21,9 @@ class DayIndex {
   public:
     DayIndex();
 
-    // Builds the index anew and answers the date of each day, in order, as it stands in the log.
-    // When no entry has a date the answer is empty, DayStarts too, and FirstDayItem keeps its
-    // value.
+    // Rebuilds the index and returns the date of each day, in order, as it stands in the log.
+    // When no entry has a date there are no days, DayStarts is empty too, and FirstDayItem keeps
+    // its value.
     std::vector<std::string> Build(const cStringArray& dates);
 
     // Element k is the first entry of day k; one more element behind the last day holds the number

@@ -94,7 +94,7 @@ inline std::optional<std::string_view> LineReader::Next() {
     return utf8_ && !maybeMarked ? line : Decode(line);
 }
 
-// Reads a file to its end and answers the number of its lines PLUS ONE, for a progress bar whose
+// Reads a file to its end and returns the number of its lines PLUS ONE, for a progress bar whose
 // value starts at 1 and grows by one with each line. Throws FileError, and Overflow for more lines
 // than 32 bits hold.
 std::int32_t CountFileLines(platform::Files& files, std::string_view path);

@@ -31,7 +31,8 @@ class LogBytes {
 
     std::unique_ptr<platform::ReadableFile> file_;
     Encoding encoding_ = Encoding::Unknown;
-    // What was read to see whether there is a mark, and is none.
+    // The first bytes of a file without a byte order mark: they were read to look for one, and are
+    // text that the next Read returns.
     std::array<char, 4> start_{};
     std::size_t startCount_ = 0;
     // UTF-16: what waits for its other half (0 for none), and the units as they are read.

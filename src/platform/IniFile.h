@@ -39,7 +39,7 @@ class IniFile {
     std::string Section(std::string_view section) const;  // name=value, quotes kept
     std::string SectionNames() const;
 
-    // Each answers whether the text has changed. A new key goes to the end of its section, a new
+    // Each returns whether the text has changed. A new key goes to the end of its section, a new
     // section to the end of the text. An entry is deleted from the first section of that name that
     // holds one.
     bool WriteEntry(std::string_view section, std::string_view key, std::string_view value);

@@ -151,7 +151,7 @@ class Registry {
 };
 
 // The system's standard dialogs. Each is modal to its owner; messages are handled meanwhile.
-// Nothing is answered when the user cancels or the dialog fails.
+// No value is returned when the user cancels or the dialog fails.
 class Dialogs {
   public:
     virtual ~Dialogs() = default;

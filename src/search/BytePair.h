@@ -6,10 +6,7 @@
 #include <bit>
 #include <cstddef>
 
-#if defined(__SSE2__) || defined(_M_X64)
-#define ORDALYN_BYTE_PAIR_SSE2 1
-#include <emmintrin.h>
-#endif
+#include "base/Sse2.h"
 
 namespace ordalyn {
 
@@ -36,7 +33,7 @@ class BytePair {
     // which `look` has said no may be asked for again.
     template <typename Look>
     const char* Find(const char* at, const char* end, const Look& look) const {
-#ifdef ORDALYN_BYTE_PAIR_SSE2
+#ifdef ORDALYN_SSE2
         if (end - at >= kBlock)
             return FindInBlocks(at, end, look);
 #endif
@@ -55,7 +52,7 @@ class BytePair {
   private:
     static constexpr std::ptrdiff_t kBlock = 16;
 
-#ifdef ORDALYN_BYTE_PAIR_SSE2
+#ifdef ORDALYN_SSE2
     // One of two values differs from the other in some bits, mostly in one. With those bits set
     // both look alike, and hardly anything else does.
     struct Alike {

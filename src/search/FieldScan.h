@@ -28,7 +28,7 @@ class FieldScan {
           wordSearcher_(" " + std::string(wanted) + " ") {}
 
     // Goes through the entries entryAt(0) to entryAt(count - 1) and calls found(n), n ascending,
-    // for each whose field holds the text, until it answers true. Answers whether it did. Throws
+    // for each whose field holds the text, until it returns true. Returns whether it did. Throws
     // SubscriptOutOfRange for an entry outside the list's storage; found may have been called for
     // entries before it by then, but need not.
     template <typename EntryAt, typename Found>

@@ -18,8 +18,8 @@ def test_the_picture_of_the_rooms_is_that_of_their_table():
 
 
 def test_the_picture_of_the_rooms_has_their_parts_purposes_and_direct_arrows(tmp_path):
-    (tmp_path / "rooms.txt").write_text("# The rooms: a table.\n\n# Down here: known.\nlow:\nmid: low\n"
-                                        "# Up here.\nup/high: low mid\n")
+    (tmp_path / "rooms.txt").write_text("# The rooms: a table.\n\n# Down here: known.\nlow:\n# A note.\nmid: low\n"
+                                        "\n# Up here.\nup/high: low mid\n")
     for room in ("low", "mid", "up/high"):
         (tmp_path / room).mkdir(parents=True)
         (tmp_path / room / "CMakeLists.txt").write_text(f"# The purpose\n# of {room}.\nordalyn_room()\n")

@@ -30,7 +30,7 @@ class InputHistory {
     // whatever happens next. An empty text and one that the list holds in any letter case change
     // nothing: the older item keeps its place. The oldest item gives way when the list is full.
     void AddToHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax);
-    // Asks first; answers whether the user agreed. Then the list, the box and the entries of the
+    // Asks first; returns whether the user agreed. Then the list, the box and the entries of the
     // settings file are empty. Shows a message box: whatever events can change may have changed on
     // return.
     bool ClearHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax,

@@ -28,7 +28,7 @@ struct ScreenFactors {
 class SharedObjects {
   public:
     // Makes the objects and loads the settings. A settings file with a number that is no number
-    // leaves the settings behind it at their defaults; the user is not told.
+    // leaves the settings behind it at their defaults; the user is not notified.
     SharedObjects(const platform::Services& services, toolkit::Toolkit& toolkit);
     ~SharedObjects() { Release(); }
     SharedObjects(const SharedObjects&) = delete;

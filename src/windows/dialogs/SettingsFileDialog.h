@@ -1,4 +1,4 @@
-// SettingsFileDialog: tells the user that the file manager's settings file cannot be found, in a
+// SettingsFileDialog: notifies the user that the file manager's settings file cannot be found, in a
 // message box, and offers to choose it, in the open dialog.
 #pragma once
 

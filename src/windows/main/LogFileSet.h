@@ -25,7 +25,8 @@ class LogFileSet {
     LogFileSet(SharedObjects& shared, const Controls& controls, EntryLists& entries,
                LogFileReading& reading, DayPanels& panels, MainTitle& title);
 
-    // Lists the files anew, with the live log selected but not read. Errors end single steps only.
+    // Rebuilds the list of files, with the live log selected but not read. Errors end single steps
+    // only.
     void BuildLogFileList();
     // A log from elsewhere is shown: no file of the set is.
     void DeselectLogFile();

@@ -19,7 +19,7 @@ class PanelColumns {
         : shared_(shared), source_(source), target_(target) {}
 
     // Makes the columns as wide as the settings file says; a single panel has one more, for the
-    // targets. A width that is no width becomes the default one.
+    // targets. A missing, negative or too large width becomes the default one.
     void Load();
     // Puts the columns of the source panel where the settings file says. A place that is none
     // leaves its column where it is.

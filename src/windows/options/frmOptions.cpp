@@ -369,7 +369,7 @@ void frmOptions::ApplyOptions() {
         settings.LanguageFile = txtLanguageFilePath.Text();
     around_.applySettings();
     settings.SaveSettings();
-    // A language file that cannot be found has been told by now, and given up.
+    // A language file that cannot be found has been reported by now, and given up.
     ShowLanguageSource();
     cmdApply.SetEnabled(false);
 }

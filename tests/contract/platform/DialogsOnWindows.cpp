@@ -24,6 +24,7 @@ class Presser {
     }
     Presser(const Presser&) = delete;
     Presser& operator=(const Presser&) = delete;
+    bool SawDialog() const { return sawDialog_; }
 
   private:
     static BOOL CALLBACK IsOurDialog(HWND window, LPARAM found) {
@@ -42,12 +43,15 @@ class Presser {
         for (int poll = 0; poll < kPolls && !done_; ++poll) {
             HWND dialog = nullptr;
             EnumWindows(IsOurDialog, reinterpret_cast<LPARAM>(&dialog));
-            if (dialog != nullptr)
+            if (dialog != nullptr) {
+                sawDialog_ = true;
                 PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+            }
             Sleep(kPollMilliseconds);
         }
     }
     std::atomic<bool> done_{false};
+    std::atomic<bool> sawDialog_{false};
     std::thread thread_;
 };
 
@@ -160,7 +164,9 @@ TEST_F(DialogsOnWindows, TheShellOpensADocumentWithItsProgram) {
 }
 
 TEST_F(DialogsOnWindows, WhatTheShellCannotOpenIsNoError) {
-    System().Services().shell.Open(0, System().Path("none.exe"));
+    const Presser confirm(IDOK);
+    EXPECT_NO_THROW(System().Services().shell.Open(0, System().Path("none.exe")));
+    EXPECT_FALSE(confirm.SawDialog());
 }
 
 }  // namespace ordalyn::contract
