@@ -7,7 +7,7 @@
 
 namespace ordalyn {
 
-// Runs one step. Answers whether it succeeded; an Error ends the step, not the caller. Anything
+// Runs one step. Returns whether it succeeded; an Error ends the step, not the caller. Anything
 // that is not an Error (out of memory, a broken invariant) passes through.
 template <typename Step>
 bool Attempt(Step&& step) {

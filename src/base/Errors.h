@@ -1,6 +1,6 @@
 // The errors that the program's operations raise. They are thrown where something goes wrong and
 // caught where the behaviour says what the user sees; what nobody catches reaches the last handler
-// of the message loop, which notifies the user and keeps the program running.
+// of the Windows side (LastHandler), which notifies the user and keeps the program running.
 #pragma once
 
 #include <stdexcept>

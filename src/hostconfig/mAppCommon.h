@@ -1,7 +1,8 @@
 // mAppCommon: the values that are fixed or found once and shared by the whole program, and the
 // helpers for paths. Paths that are stored in settings files are written in a symbolic form, so
-// that a program on a removable drive finds its files under another drive letter: "velmordane:\"
-// stands for the program's folder, "%Commander_Path%\" for the file manager's.
+// that a program on a removable drive finds its files under another drive letter: "velmordane:\",
+// a made-up drive that no system has, stands for the program's folder, "%Commander_Path%\" for the
+// file manager's.
 #pragma once
 
 #include <cstdint>

@@ -79,7 +79,7 @@ class cStringArray {
     void FreeExtraItems() { bounds_.Trim(); }
 
     // The item; the empty text for a slot of the storage beyond the last item. Throws
-    // SubscriptOutOfRange outside the storage. The answer stays valid until Clear, or for as long
+    // SubscriptOutOfRange outside the storage. The text stays valid until Clear, or for as long
     // as a view is kept.
     std::string_view List(std::int32_t index) const {
         return storage_->texts->Text(Position(index));

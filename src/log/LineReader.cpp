@@ -35,7 +35,7 @@ bool LineReader::Skip() {
     return NextRaw(begin, end);
 }
 
-// Finds the ends of the next lines, and whether these are UTF-8. Answers false when the file holds
+// Finds the ends of the next lines, and whether these are UTF-8. Returns false when the file holds
 // no further end.
 bool LineReader::FindEnds() {
     nextEnd_ = 0;
@@ -54,7 +54,7 @@ bool LineReader::FindEnds() {
     return true;
 }
 
-// Reads more behind what is left of the buffer. Answers false at the end of the file.
+// Reads more behind what is left of the buffer. Returns false at the end of the file.
 bool LineReader::Fill() {
     const bool afterCr = end_ != 0 && buffer_[end_ - 1] == '\r';
     if (capacity_ - end_ < kLeastRoom)

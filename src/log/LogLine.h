@@ -3,8 +3,8 @@
 //     date blank time separator blank operation-and-source [ -> blank target ]
 //     ; comment
 //
-// Nothing else in a line is interpreted. Texts are UTF-8; characters are code points. The answers
-// are parts of the text that was given and live as long as it does.
+// Nothing else in a line is interpreted. Texts are UTF-8; characters are code points. What
+// is returned are parts of the text that was given, valid as long as it is.
 #pragma once
 
 #include <string>
@@ -31,7 +31,7 @@ std::string CommentSource(std::string_view line);
 // the rest is cut at its first "->" into source and target. The character behind the arrow is
 // dropped, whatever it is; the blank before the arrow stays with the source. Throws MalformedText
 // when the line has no blank. bytescan::kSlack bytes behind the line must be there to be looked at,
-// as they are behind what LineReader answers.
+// as they are behind what LineReader returns.
 inline LogLine SplitOperationLine(std::string_view line) {
     const char* end = line.data() + line.size();
     const auto between = [](const char* from, const char* to) {

@@ -33,8 +33,7 @@ class IniFile {
     static std::string Otherwise(std::string_view text);
 
     // The lists, each element followed by a NUL character. Comment lines are left out; lines
-    // without
-    // "=" are no keys, but stand among a section's entries.
+    // without "=" are no keys, but stand among a section's entries.
     std::string KeyNames(std::string_view section) const;
     std::string Section(std::string_view section) const;  // name=value, quotes kept
     std::string SectionNames() const;

@@ -178,9 +178,9 @@ void TextSearcher::PrepareAscii() {
         way_ = Way::AsciiWithStrangers;
 }
 
-// Answers false for a needle that has no byte to look for, or, with pairOnly, no two at a fixed
-// distance; nothing has changed then. Invalid bytes are left to walking: seen
-// alone, a byte in the middle of a character looks like one.
+// Returns false for a needle that has no byte to look for, or, with pairOnly, no two at a fixed
+// distance; nothing has changed then. Invalid bytes are left to walking: seen alone, a byte in the
+// middle of a character looks like one.
 bool TextSearcher::PrepareCharacters(bool pairOnly) {
     const bool valid =
         std::all_of(needle_.begin(), needle_.end(), [](char32_t c) { return c < kInvalidBytes; });
@@ -226,8 +226,10 @@ bool TextSearcher::FitsAsAscii(const char* start) const {
     return true;
 }
 
-// Hardly any text does. The two bytes that begin the long s or the Kelvin sign are looked for at
-// once; those that begin neither cost time only.
+// Whether a text may hold one of the two characters beyond ASCII whose other case is an ASCII
+// letter, the long s and the Kelvin sign. Hardly any text does. Only their first two bytes are
+// looked for, both characters in one pass; a yes for another character that begins alike costs
+// time, no more.
 bool TextSearcher::MayHoldStranger(std::string_view text) {
     static const BytePair strangers({0xC5, 0xE2}, {0xBF, 0x84}, 1);
     if (text.size() < 2)

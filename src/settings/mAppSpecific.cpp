@@ -38,7 +38,7 @@ void mAppSpecific::Take(const Setting& setting, std::string_view text) {
 void mAppSpecific::Load(const Setting& setting) {
     Take(setting, Read(setting.section, setting.key,
                        setting.fallback != nullptr ? setting.fallback : common_.NoValueMarker()));
-    // The path helpers lie below the settings and are handed what they may do.
+    // The path helpers lie below the settings and cannot read this one themselves.
     common_.SetUnExpandPaths(UnExpandPaths);
 }
 

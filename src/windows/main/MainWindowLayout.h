@@ -1,9 +1,9 @@
 // MainWindowLayout places the main window's controls and switches between its three arrangements:
 // two panels side by side, two panels one above the other, a single panel.
 //
-// In the two-panel arrangements the panels live in picSpliterContainer and are arranged by the
-// splitter. A single panel is SourceListView directly on the window, with the targets as its last
-// column; TargetListView then has no rows.
+// In the two-panel arrangements the panels live in picSpliterContainer, where cSplitter gives them
+// their sizes. A single panel is SourceListView directly on the window, with the targets as its
+// last column; TargetListView then has no rows.
 #pragma once
 
 #include <cstdint>
@@ -42,7 +42,7 @@ class MainWindowLayout {
     MainWindowLayout(const Controls& controls, mAppSpecific& settings, PixelSize pixel,
                      std::function<std::string()> targetCaption);
 
-    // Another number of panels shows the selected row (0-based).
+    // The selected row (0-based) is shown by another number of panels than before.
     toolkit::Event<int> RowMoved;
 
     // Sets the menu's marks and makes the first arrangement as the settings say. The columns must

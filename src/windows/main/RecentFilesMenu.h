@@ -29,7 +29,7 @@ class RecentFilesMenu {
     // Takes the items that Setup added away again and enables the first one.
     void RestartClass();
 
-    // Asks and, unless the answer is No, empties the list. Answers whether it did. Messages are
+    // Asks and, unless the user says No, empties the list. Returns whether it did. Messages are
     // handled while the question is open.
     bool Clear();
     // Fetches the three texts in the language now in use and shows them.

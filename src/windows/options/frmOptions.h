@@ -23,10 +23,10 @@ class frmOptions : public toolkit::Form {
         std::string programFolder;  // with a trailing backslash
         // Whether a path is the mark of a setting that is absent.
         std::function<bool(const std::string&)> isNoValue;
-        // The main window's: shows the settings; labels the dates anew (non-zero: long); repaints.
-        std::function<void()> applySettings;
-        std::function<void(std::int32_t lngLd)> applyNewDateFormat;
-        std::function<void()> refreshMainWindow;
+        // The main window's.
+        std::function<void()> applySettings;                         // shows the settings
+        std::function<void(std::int32_t lngLd)> applyNewDateFormat;  // non-zero: long dates
+        std::function<void()> refreshMainWindow;                     // repaints it
     };
 
     frmOptions(toolkit::Toolkit& toolkit, Surroundings surroundings);
