@@ -128,10 +128,16 @@ std::string TotalCommanderLocator::AskForIni() {
 }
 
 std::string TotalCommanderLocator::MakeFreshIni() {
+    const mAppCommon& common = around_.common;
     std::string path = InFolderOf("windir", "wincmd.ini");
-    around_.profile.WriteValue(kConfigurationSection, "firstmnu", "512", path);
-    around_.profile.WriteValue(kConfigurationSection, "PanelsVertical", "0", path);
-    WriteCommonEntry(kIniKey, around_.common.UnExpandPath(path));
+    // One that is there belongs to the file manager.
+    if (!common.FileExists(path)) {
+        around_.profile.WriteValue(kConfigurationSection, "firstmnu", "512", path);
+        around_.profile.WriteValue(kConfigurationSection, "PanelsVertical", "0", path);
+    }
+    // Not everybody may write there.
+    if (common.FileExists(path))
+        WriteCommonEntry(kIniKey, common.UnExpandPath(path));
     return path;
 }
 

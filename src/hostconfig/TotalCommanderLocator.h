@@ -40,9 +40,10 @@ class TotalCommanderLocator {
     std::string FindCommanderFolder();
 
     // The path of the settings file. When it is nowhere to be found the user is asked for it; a
-    // user who cancels gets a fresh one in the Windows folder. Whatever events can change may have
-    // changed on return in that case. The marker of absent values when the program has ended
-    // meanwhile.
+    // user who cancels gets the one in the Windows folder, a fresh one when there is none; a file
+    // that exists is never written, and one that cannot be made is not remembered. Whatever events
+    // can change may have changed on return in that case. The marker of absent values when the
+    // program has ended meanwhile.
     std::string FindCommanderIni();
 
     // The log of the command line, else the one that the settings file names; as it is, or in the

@@ -255,6 +255,20 @@ def test_whoever_declines_gets_a_fresh_settings_file_once(folder, windows_ini):
     assert windows_ini.read_bytes() == written
 
 
+def test_whoever_declines_keeps_the_settings_file_of_the_windows_folder(folder, windows_ini):
+    log = folder.write("windows.log", [line("windows")])
+    windows_ini.write_bytes(
+        f"[Configuration]\r\nfirstmnu=1717\r\nLogFile={windows_path(log)}\r\n".encode())
+    written = windows_ini.read_bytes()
+    app = folder.start()
+    app.message(30).press("OK")
+    FileDialog.of(app).cancel()
+    shows(app, "windows")
+    app.close()
+    assert windows_ini.read_bytes() == written
+    assert common(folder)["UserDefinedWincmd"].lower() == r"c:\windows\wincmd.ini"
+
+
 @pytest.mark.parametrize("question", ["message", "dialog"])
 def test_ending_the_program_behind_the_first_question_declines_nothing(folder, windows_ini,
                                                                        question):

@@ -121,12 +121,28 @@ TEST_F(CommanderIni, TheFreshFileIsFoundWithoutAskingNextTime) {
     EXPECT_TRUE(AskedNothing());
 }
 
-// The file may be there already when the registry does not name it.
-TEST_F(CommanderIni, TheFreshEntriesFollowARedirection) {
+// The file may be there already when the registry does not name it: it is the file manager's.
+TEST_F(CommanderIni, AFileThatIsThereAlreadyIsTakenAsItIs) {
+    const std::string before = "[Configuration]\r\nfirstmnu=1717\r\nLogFile=d:\\tc.log\r\n";
+    system.files.Set("C:\\Windows\\wincmd.ini", before);
+    EXPECT_EQ(locator.FindCommanderIni(), "C:\\Windows\\wincmd.ini");
+    EXPECT_EQ(system.files.Get("C:\\Windows\\wincmd.ini"), before);
+    EXPECT_EQ(Remembered("UserDefinedWincmd"), "C:\\Windows\\wincmd.ini");
+}
+
+TEST_F(CommanderIni, NorIsAFileWrittenThatItRedirectsTo) {
     system.files.Set("C:\\Windows\\wincmd.ini", "[Configuration]\r\nRedirectSection=own.ini\r\n");
+    system.files.Set("C:\\Windows\\own.ini", "");
     locator.FindCommanderIni();
-    EXPECT_EQ(system.files.Get("C:\\Windows\\own.ini"),
-              "[Configuration]\r\nfirstmnu=512\r\nPanelsVertical=0\r\n");
+    EXPECT_EQ(system.files.Get("C:\\Windows\\own.ini"), "");
+}
+
+// Windows' folder is not everybody's to write in.
+TEST_F(CommanderIni, AFileThatCannotBeMadeIsNotRemembered) {
+    system.environment.SetVariable("windir", "C:\\Nowhere");
+    EXPECT_EQ(locator.FindCommanderIni(), "C:\\Nowhere\\wincmd.ini");
+    ASSERT_FALSE(system.files.Get("C:\\Nowhere\\wincmd.ini").has_value());
+    EXPECT_EQ(Remembered("UserDefinedWincmd"), "(absent)");
 }
 
 TEST_F(CommanderIni, TheFreshFileIsRememberedInItsSymbolicForm) {
