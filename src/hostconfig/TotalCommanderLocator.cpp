@@ -26,13 +26,26 @@ std::string_view WithoutEnclosingQuotes(std::string_view text) {
     return WithoutLastCharacter(text);
 }
 
+// A path of the common section of the program's settings file.
+std::string ReadCommon(const mAppCommon& common, cProfile& profile, std::string_view key) {
+    return common.ExpandPath(
+        profile.ReadValue(kCommonSection, key, common.NoValueMarker(), common.SettingsFile())
+            .value_or(""));
+}
+
 }  // namespace
+
+void ProvideRememberedCommanderFolder(mAppCommon& common, cProfile& profile) {
+    common.ProvideCommanderVariable(ReadCommon(common, profile, TotalCommanderLocator::kFolderKey));
+}
 
 TotalCommanderLocator::TotalCommanderLocator(const Surroundings& around) : around_(around) {}
 
 std::string TotalCommanderLocator::FindCommanderFolder() {
+    around_.common.WithdrawCommanderVariable();
     std::string folder = SearchFolder();
     around_.common.SetCommanderFolder(folder);
+    around_.common.ProvideCommanderVariable(folder);
     return folder;
 }
 
@@ -86,13 +99,14 @@ std::string TotalCommanderLocator::SearchFolder() {
         }
     }
     const std::string remembered = ReadCommonEntry(kFolderKey);
-    return around_.common.IsNoValue(remembered) ? around_.common.NoValueMarker()
-                                                : mAppCommon::AddBackslash(remembered);
+    if (remembered.empty() || around_.common.IsNoValue(remembered))
+        return around_.common.NoValueMarker();
+    return mAppCommon::AddBackslash(remembered);
 }
 
 std::optional<std::string> TotalCommanderLocator::FolderInRegistry(std::string_view path) const {
     std::string folder = around_.common.ExpandPath(around_.registry.ReadValue(path, "InstallDir"));
-    if (around_.common.IsNoValue(folder))
+    if (folder.empty() || around_.common.IsNoValue(folder))
         return std::nullopt;
     return folder;
 }
@@ -142,11 +156,7 @@ std::string TotalCommanderLocator::MakeFreshIni() {
 }
 
 std::string TotalCommanderLocator::ReadCommonEntry(std::string_view key) const {
-    const mAppCommon& common = around_.common;
-    return common.ExpandPath(
-        around_.profile
-            .ReadValue(kCommonSection, key, common.NoValueMarker(), common.SettingsFile())
-            .value_or(""));
+    return ReadCommon(around_.common, around_.profile, key);
 }
 
 void TotalCommanderLocator::WriteCommonEntry(std::string_view key, std::string_view value) const {

@@ -17,6 +17,10 @@ class cProfile;
 class cRegistry;
 class mAppCommon;
 
+// Lets paths that begin with %Commander_Path% be read before the folder has been looked for: it is
+// the one that was found last.
+void ProvideRememberedCommanderFolder(mAppCommon& common, cProfile& profile);
+
 class TotalCommanderLocator {
   public:
     struct Surroundings {
@@ -36,7 +40,9 @@ class TotalCommanderLocator {
 
     // The folder with a trailing backslash, or the marker of absent values. Whether it exists is
     // not looked at. A folder from the environment or the registry is remembered for the next
-    // start.
+    // start; an empty one of the registry or of memory is none. Afterwards %Commander_Path% is the
+    // folder's, but the search takes it as it was when the program was started: what was
+    // remembered then does not hide what the registry says now.
     std::string FindCommanderFolder();
 
     // The path of the settings file. When it is nowhere to be found the user is asked for it; a

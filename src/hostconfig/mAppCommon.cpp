@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::string_view kProgramPrefix = "velmordane:\\";
 constexpr std::string_view kCommanderPrefix = "%Commander_Path%\\";
+constexpr std::string_view kCommanderVariable = "Commander_Path";
 
 std::string Digits(int number, std::size_t width) {
     const std::string text = std::to_string(number);
@@ -40,6 +41,22 @@ mAppCommon::mAppCommon(const platform::Services& services)
 
 bool mAppCommon::IsNoValue(std::string_view text) const {
     return EqualsIgnoreCase(text, noValueMarker_);
+}
+
+void mAppCommon::ProvideCommanderVariable(std::string_view folder) {
+    WithdrawCommanderVariable();
+    if (folder.empty() || IsNoValue(folder) || !environment_.Variable(kCommanderVariable).empty())
+        return;
+    // Like the file manager's own: paths go on with a backslash behind it.
+    environment_.SetVariable(kCommanderVariable,
+                             folder.back() == '\\' ? WithoutLastCharacter(folder) : folder);
+    variableProvided_ = true;
+}
+
+void mAppCommon::WithdrawCommanderVariable() {
+    if (variableProvided_)
+        environment_.SetVariable(kCommanderVariable, "");
+    variableProvided_ = false;
 }
 
 std::string mAppCommon::ExpandPath(std::string_view path) const {

@@ -37,6 +37,13 @@ class mAppCommon {
     // cannot be found.
     const std::string& CommanderFolder() const { return commanderFolder_; }
     void SetCommanderFolder(std::string_view folder) { commanderFolder_ = folder; }
+    // The file manager sets %Commander_Path% for the programs that it starts. For a program that
+    // was started otherwise this sets it to the folder, so that stored paths that begin with it
+    // can be read. A variable that the program was started with stays as it is, and a folder that
+    // is empty or the marker is none.
+    void ProvideCommanderVariable(std::string_view folder);
+    // Takes back what ProvideCommanderVariable has set: the variable is as it was at the start.
+    void WithdrawCommanderVariable();
     // Path of the file manager's settings file; empty before it is known.
     const std::string& CommanderIni() const { return commanderIni_; }
     void SetCommanderIni(std::string_view path) { commanderIni_ = path; }
@@ -67,6 +74,7 @@ class mAppCommon {
     std::string noValueMarker_;
     std::string commanderFolder_;
     std::string commanderIni_;
+    bool variableProvided_ = false;
     std::int32_t unExpandPaths_ = kUnExpandProgramFolder | kUnExpandCommanderFolder;
 };
 

@@ -92,6 +92,9 @@ class Environment {
     virtual std::string Expand(std::string_view text) = 0;
     // Empty when the variable is not defined.
     virtual std::string Variable(std::string_view name) = 0;
+    // For this process, and for those that it starts from now on. An empty value removes the
+    // variable.
+    virtual void SetVariable(std::string_view name, std::string_view value) = 0;
     // What stands on the command line behind the program's own name, as written, blanks at its ends
     // removed.
     virtual std::string CommandLine() = 0;

@@ -127,6 +127,18 @@ def test_a_bare_name_in_the_registry_means_the_windows_folder(folder, registry, 
     shows(folder.start(), "machine")
 
 
+def test_what_is_stored_by_the_file_manager_s_folder_follows_it(folder, registry):
+    # Found last in one place, and now, by the registry, in another.
+    install(folder, "before")
+    install(folder, "now")
+    folder.write_settings(Common={"TCInstallDir": folder.windows("before"),
+                                  "UserDefinedWincmd": r"%Commander_Path%\wincmd.ini"})
+    registry.registry_import({USER: {"InstallDir": ""},
+                              MACHINE: {"InstallDir": folder.windows("now")}})
+    shows(folder.start(), "now").close()
+    assert common(folder)["TCInstallDir"] == folder.windows("now")
+
+
 def test_the_machine_s_registry_comes_before_what_is_remembered(folder, registry):
     install(folder, "machine")
     install(folder, "remembered")
@@ -197,7 +209,12 @@ def test_the_user_is_asked_and_the_choice_is_remembered(folder):
     assert common(folder)["UserDefinedWincmd"] == r"%Commander_Path%\wincmd.ini"
     app.close()
 
-    # That form needs the variable, which is not there: the user is asked again.
+    # The next start knows the folder again, though the file manager has set no variable.
+    shows(folder.start(), "asked").close()
+    assert common(folder)["UserDefinedWincmd"] == r"%Commander_Path%\wincmd.ini"
+
+    folder.write_settings(Common={"TCInstallDir": folder.windows("asked"),
+                                  "UserDefinedWincmd": folder.windows("gone.ini")})
     app = folder.start()
     app.message(30).press("OK")
     FileDialog.of(app).choose(folder.windows("Ordalyn", "beside", "wincmd.ini"))

@@ -37,6 +37,11 @@ std::string Win32Environment::Variable(std::string_view name) {
     }
 }
 
+void Win32Environment::SetVariable(std::string_view name, std::string_view value) {
+    const std::wstring wideValue = ToWide(value);
+    SetEnvironmentVariableW(ToWide(name).c_str(), value.empty() ? nullptr : wideValue.c_str());
+}
+
 std::string Win32Environment::CommandLine() {
     const std::string whole = FromWide(GetCommandLineW());
     return std::string(BehindProgramName(whole));

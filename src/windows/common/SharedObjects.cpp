@@ -2,6 +2,7 @@
 
 #include "base/Attempt.h"
 #include "base/CheckedMath.h"
+#include "hostconfig/TotalCommanderLocator.h"
 
 namespace ordalyn {
 
@@ -21,6 +22,7 @@ SharedObjects::SharedObjects(const platform::Services& allServices, toolkit::Too
                                                  *defaultStrings);
     language = std::make_unique<FormLanguage>(*settings, *strings);
     recentFiles = std::make_unique<cRecentFiles>(*profile, common);
+    Attempt([this] { ProvideRememberedCommanderFolder(common, *profile); });
     Attempt([this] { settings->LoadSettings(); });
 }
 

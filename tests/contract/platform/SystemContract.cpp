@@ -25,6 +25,16 @@ TEST_P(SystemContract, VariablesAreKnownInAnyLetterCase) {
     EXPECT_EQ(Environment().Variable("Ordalyn_None"), "");
 }
 
+TEST_P(SystemContract, TheProcessCanSetAVariableOfItsOwnAndRemoveItAgain) {
+    System().SetVariable("Ordalyn_Path", "D:\\before");
+    Environment().SetVariable("ORDALYN_path", "D:\\tc \xD0\x96");
+    EXPECT_EQ(Environment().Variable("Ordalyn_Path"), "D:\\tc \xD0\x96");
+    EXPECT_EQ(Environment().Expand("%ordalyn_path%\\a"), "D:\\tc \xD0\x96\\a");
+    Environment().SetVariable("Ordalyn_Path", "");
+    EXPECT_EQ(Environment().Variable("Ordalyn_Path"), "");
+    EXPECT_EQ(Environment().Expand("%Ordalyn_Path%\\a"), "%Ordalyn_Path%\\a");
+}
+
 TEST_P(SystemContract, ALongVariableIsReadWhole) {
     const std::string value(3000, 'x');
     System().SetVariable("Ordalyn_Long", value);

@@ -8,7 +8,10 @@
 namespace ordalyn::test {
 
 void MemoryEnvironment::SetVariable(std::string_view name, std::string_view value) {
-    variables_[FoldCase(name)] = std::string(value);
+    if (value.empty())
+        RemoveVariable(name);
+    else
+        variables_[FoldCase(name)] = std::string(value);
 }
 
 void MemoryEnvironment::RemoveVariable(std::string_view name) {

@@ -17,11 +17,11 @@ class MemoryEnvironment : public platform::Environment {
     std::string programPath = "C:\\Ordalyn\\Ordalyn.exe";
     platform::LocalTime now = {2026, 11, 16, 0, 5, 3};
 
-    void SetVariable(std::string_view name, std::string_view value);
     void RemoveVariable(std::string_view name);
 
     std::string Expand(std::string_view text) override;
     std::string Variable(std::string_view name) override;
+    void SetVariable(std::string_view name, std::string_view value) override;
     std::string CommandLine() override;
     std::string ProgramPath() override { return programPath; }
     platform::LocalTime Now() override { return now; }

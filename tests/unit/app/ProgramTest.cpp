@@ -47,6 +47,19 @@ TEST_F(ProgramStart, TakesALogFromTheCommandLine) {
     EXPECT_EQ(Main().Caption(), Title("C:\\logs\\x.log"));
 }
 
+// Its path begins with a variable that only the file manager sets.
+TEST_F(ProgramStart, ReadsALanguageFileThatIsStoredByTheFileManagersFolder) {
+    system.environment.RemoveVariable("Commander_Path");
+    system.files.Set("C:\\tc\\own.lng", "[UserLanguage]\r\n4000=Zeit\r\n");
+    system.files.Set("C:\\Ordalyn\\Ordalyn.ini",
+                     "[Common]\r\nTCInstallDir=C:\\tc\r\n"
+                     "LanguageFile=%Commander_Path%\\own.lng\r\n"
+                     "[Ordalyn]\r\nUseDefaultLanguage=0\r\n");
+    Start();
+    EXPECT_EQ(program->Shared().Text(4000), "Zeit");
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
 TEST_F(ProgramStart, FindsABareLogNameInTheTemporaryFolder) {
     SetIni("LogFile=bare.log");
     SetLog("C:\\Temp\\bare.log", {"05.03.2024 10:00:00: Copy x -> y"});

@@ -8,7 +8,10 @@
 namespace ordalyn {
 namespace {
 
-class CommanderFolder : public testing::Test, public test::LocatorRoom {};
+class CommanderFolder : public testing::Test, public test::LocatorRoom {
+  protected:
+    std::string Variable() { return system.environment.Variable("Commander_Path"); }
+};
 
 TEST_F(CommanderFolder, TheVariableComesFirstAndIsRemembered) {
     system.environment.SetVariable("Commander_Path", "d:\\tc");
@@ -59,18 +62,73 @@ TEST_F(CommanderFolder, TheRememberedFolderComesLast) {
     EXPECT_EQ(Remembered("TCInstallDir"), "%Drive%\\before");
 }
 
-// A value that is there, if empty, is found.
-TEST_F(CommanderFolder, AnEmptyRegistryValueIsAFolder) {
+TEST_F(CommanderFolder, AnEmptyRegistryValueIsNone) {
     Register(kUser, "InstallDir", "");
     Register(kMachine, "InstallDir", "c:\\machine");
-    EXPECT_EQ(locator.FindCommanderFolder(), "\\");
+    EXPECT_EQ(locator.FindCommanderFolder(), "c:\\machine\\");
+    EXPECT_EQ(Remembered("TCInstallDir"), "c:\\machine");
+}
+
+TEST_F(CommanderFolder, AnEmptyRememberedFolderIsNone) {
+    system.files.Set(kOwnFile, "[Common]\r\nTCInstallDir=\r\n");
+    EXPECT_EQ(locator.FindCommanderFolder(), common.NoValueMarker());
     EXPECT_EQ(Remembered("TCInstallDir"), "");
+    EXPECT_EQ(Variable(), "");
 }
 
 TEST_F(CommanderFolder, WithoutAnyItIsTheMarkerAndNothingIsRemembered) {
     EXPECT_EQ(locator.FindCommanderFolder(), common.NoValueMarker());
     EXPECT_EQ(common.CommanderFolder(), common.NoValueMarker());
     EXPECT_EQ(Remembered("TCInstallDir"), "(absent)");
+}
+
+TEST_F(CommanderFolder, WhatWasFoundCanBeReadBack) {
+    Register(kUser, "InstallDir", "c:\\user\\");
+    locator.FindCommanderFolder();
+    EXPECT_EQ(Variable(), "c:\\user");
+    EXPECT_EQ(common.ExpandPath(common.UnExpandPath("C:\\User\\a.ini")), "c:\\user\\a.ini");
+}
+
+TEST_F(CommanderFolder, WhatWasRememberedCanBeReadBackBeforeTheSearch) {
+    system.environment.SetVariable("Drive", "d:");
+    Remember("TCInstallDir", "%Drive%\\before");
+    ProvideRememberedCommanderFolder(common, profile);
+    EXPECT_EQ(common.ExpandPath("%commander_path%\\a.ini"), "d:\\before\\a.ini");
+    EXPECT_EQ(locator.FindCommanderFolder(), "d:\\before\\");
+    EXPECT_EQ(Variable(), "d:\\before");
+}
+
+TEST_F(CommanderFolder, WhatWasRememberedDoesNotHideTheRegistry) {
+    Remember("TCInstallDir", "c:\\before");
+    Register(kMachine, "InstallDir", "c:\\machine");
+    ProvideRememberedCommanderFolder(common, profile);
+    EXPECT_EQ(locator.FindCommanderFolder(), "c:\\machine\\");
+    EXPECT_EQ(Remembered("TCInstallDir"), "c:\\machine");
+    EXPECT_EQ(Variable(), "c:\\machine");
+}
+
+// Not even by a reference to the variable.
+TEST_F(CommanderFolder, TheRegistryDoesNotReferToWhatWasRemembered) {
+    Remember("TCInstallDir", "c:\\before");
+    Register(kUser, "InstallDir", "%Commander_Path%");
+    ProvideRememberedCommanderFolder(common, profile);
+    EXPECT_EQ(locator.FindCommanderFolder(), "%Commander_Path%\\");
+}
+
+TEST_F(CommanderFolder, AVariableOfTheStartStaysAsItIs) {
+    system.environment.SetVariable("Commander_Path", "d:\\tc\\");
+    Remember("TCInstallDir", "c:\\before");
+    ProvideRememberedCommanderFolder(common, profile);
+    EXPECT_EQ(Variable(), "d:\\tc\\");
+    EXPECT_EQ(locator.FindCommanderFolder(), "d:\\tc\\");
+    EXPECT_EQ(Variable(), "d:\\tc\\");
+}
+
+TEST_F(CommanderFolder, WithoutAnyThereIsNoVariable) {
+    ProvideRememberedCommanderFolder(common, profile);
+    EXPECT_EQ(Variable(), "");
+    locator.FindCommanderFolder();
+    EXPECT_EQ(Variable(), "");
 }
 
 class AbsolutePath : public testing::Test, public test::LocatorRoom {
