@@ -22,8 +22,8 @@ std::optional<std::int32_t> ZeroOrOneAt(const std::vector<std::string>& parts, s
 }
 
 std::optional<bool> FlagAt(const std::vector<std::string>& parts, std::size_t index) {
-    const std::optional<std::int32_t> number = ZeroOrOneAt(parts, index);
-    return number ? std::optional(*number == 1) : std::nullopt;
+    const std::optional<std::int32_t> number = LongAt(parts, index);
+    return number ? std::optional(*number != 0) : std::nullopt;
 }
 
 template <typename T>

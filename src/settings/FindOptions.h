@@ -19,7 +19,7 @@ struct FindOptions {
     bool operator==(const FindOptions&) const = default;
 };
 
-// Four numbers with commas between them.
+// Four numbers with commas between them. Whatever is not 0 turns a flag on.
 FindOptions ParseFindOptions(std::string_view text);
 // A part without a value is empty.
 std::string FindOptionsText(const FindOptions& options);

@@ -162,6 +162,18 @@ def test_the_status_bar_hides_at_once_and_stays_hidden(folder):
     assert app.main.status_bar.visible
 
 
+def test_a_flag_is_on_when_it_is_not_zero_and_one_click_turns_it_off(folder):
+    folder.write_settings(Ordalyn={"StatusBarVisible": 2, "VerticalPanels": -1, "TwoPanels": 3})
+    app = folder.show(LOG)
+    assert app.main.status_bar.visible
+    for entry in ("Status Bar", "Vertical Panels", "Two Panels"):
+        assert app.main.menu("View", entry).checked, entry
+        app.main.choose("View", entry)
+        assert not app.main.menu("View", entry).checked, entry
+    assert not app.main.status_bar.visible
+    assert not app.main.two_panels
+
+
 @pytest.mark.parametrize("size", [(400, 300), (1200, 800)])
 def test_the_panels_fill_the_window(show, size):
     app = show(LOG)

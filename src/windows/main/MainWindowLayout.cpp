@@ -138,7 +138,7 @@ void MainWindowLayout::PutSourceListOnWindow() {
 }
 
 void MainWindowLayout::ToggleStatusBar() {
-    const bool visible = settings_.StatusBarVisible != 1;
+    const bool visible = settings_.StatusBarVisible == 0;
     controls_.StatusBar1.SetVisible(visible);
     controls_.mnuViewStatusBar.SetChecked(visible);
     settings_.StatusBarVisible = visible ? 1 : 0;

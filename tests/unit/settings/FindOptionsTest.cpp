@@ -27,13 +27,17 @@ const Bad kBad[] = {
     {"3,2,1,1", {3, std::nullopt, true, true}},  // there is no third column
     {"3,-1,1,1", {3, std::nullopt, true, true}},
     {"4,1,x,0", {4, 1, std::nullopt, false}},
-    {"5,0,0,7", {5, 0, false, std::nullopt}},
-    {"5,0,-1,0", {5, 0, std::nullopt, false}},
+    {"4,1,1,x", {4, 1, true, std::nullopt}},
 };
 
 TEST(FindOptions, APartThatIsNoneHasNoValueAndTheOthersAreRead) {
     for (const Bad& bad : kBad)
         EXPECT_EQ(ParseFindOptions(bad.text), bad.expected) << bad.text;
+}
+
+TEST(FindOptions, AFlagIsOnWhenItIsNotZero) {
+    EXPECT_EQ(ParseFindOptions("5,0,0,7"), (FindOptions{5, 0, false, true}));
+    EXPECT_EQ(ParseFindOptions("5,0,-1,0"), (FindOptions{5, 0, true, false}));
 }
 
 TEST(FindOptions, AreWrittenByPlace) {

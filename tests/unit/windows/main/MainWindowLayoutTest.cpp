@@ -186,13 +186,26 @@ TEST_F(Layout, HidingTheStatusBarEnlargesThePanelsAtOnce) {
     EXPECT_EQ(container.Height(), before);
 }
 
-TEST_F(Layout, AnyStatusBarSettingButOneTurnsItOn) {
+// Whatever is not 0 is on, and one click turns it off.
+TEST_F(Layout, EverySettingButZeroIsOn) {
     settings.StatusBarVisible = 5;
+    settings.VerticalPanels = -1;
+    settings.TwoPanels = 2;
     layout.ArrangeFirstTime();
     EXPECT_TRUE(StatusBar1.Visible());
+    EXPECT_TRUE(mnuViewStatusBar.Checked());
+    EXPECT_TRUE(mnuViewVerticalPanels.Checked());
+    EXPECT_TRUE(mnuViewTwoPanels.Checked());
     layout.ToggleStatusBar();
-    EXPECT_TRUE(StatusBar1.Visible());
-    EXPECT_EQ(settings.StatusBarVisible, 1);
+    EXPECT_FALSE(StatusBar1.Visible());
+    EXPECT_FALSE(mnuViewStatusBar.Checked());
+    EXPECT_EQ(settings.StatusBarVisible, 0);
+    layout.ToggleVerticalPanels();
+    EXPECT_FALSE(mnuViewVerticalPanels.Checked());
+    EXPECT_EQ(settings.VerticalPanels, 0);
+    layout.ToggleTwoPanels();
+    EXPECT_FALSE(mnuViewTwoPanels.Checked());
+    EXPECT_EQ(settings.TwoPanels, 0);
 }
 
 TEST_F(Layout, TogglingTheOrientationTwiceReturnsTheBar) {
