@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "toolkit/Basics.h"
 #include "toolkit/Peer.h"
@@ -60,7 +61,10 @@ class Toolkit {
     // The screen. TwipsPerPixel are exact; users that want whole numbers round them.
     virtual double TwipsPerPixelX() = 0;
     virtual double TwipsPerPixelY() = 0;
-    virtual Rect WorkArea() = 0;                   // of the primary screen, twips
+    virtual Rect WorkArea() = 0;                // of the primary screen, twips
+    virtual std::vector<Rect> WorkAreas() = 0;  // of all screens, the primary one first
+    // The smallest outer size that the system lets a user give a window with a title bar, twips.
+    virtual Size LeastFormSize() = 0;
     virtual void SetPointer(Pointer pointer) = 0;  // over all of the program's windows
     virtual void Beep() = 0;
 

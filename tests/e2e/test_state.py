@@ -57,6 +57,26 @@ def test_a_maximised_window_starts_maximised_and_keeps_its_normal_placement(fold
     assert app.main.rect == (120, 90, 1020, 690)
 
 
+@pytest.mark.parametrize("stored", ["99999,99999,1,1", "", "-30000,100,12030,8520",
+                                    "300,-9000,12030,8520", "a,b,c,d"])
+def test_a_window_that_nobody_could_take_starts_at_its_default_place(folder, stored):
+    folder.write_settings(Ordalyn={"MainPosition": stored, "FiltersPosition": "99999,99999,1,1"})
+    app = folder.show(LOG)
+    assert app.main.rect == (0, 0, 12030 // TPP, 8520 // TPP)
+    app.keys("Ctrl+L")
+    bounds = app.window("Filter").rect
+    assert (bounds.left, bounds.top) == (3495 // TPP, 7740 // TPP)
+
+
+def test_a_window_is_at_least_as_large_as_the_system_lets_it_be(folder):
+    folder.write_settings(Ordalyn={"MainPosition": "1500,1500,1,1"})
+    app = folder.show(LOG)
+    bounds = app.main.rect
+    assert (bounds.left, bounds.top) == (100, 100)
+    assert bounds.right - bounds.left >= 80
+    assert bounds.bottom - bounds.top >= 20
+
+
 def test_a_minimised_window_starts_normal(folder):
     app = folder.show(LOG)
     app.main.minimise()

@@ -96,6 +96,31 @@ Rect Win32Toolkit::WorkArea() {
     return desktop_.scale.Twips(area);
 }
 
+std::vector<Rect> Win32Toolkit::WorkAreas() {
+    std::vector<Rect> areas = {WorkArea()};
+    struct Screens {
+        const Scale& scale;
+        std::vector<Rect>& areas;
+    } screens{desktop_.scale, areas};
+    EnumDisplayMonitors(
+        nullptr, nullptr,
+        [](HMONITOR monitor, HDC, RECT*, LPARAM parameter) -> BOOL {
+            const Screens& found = *reinterpret_cast<Screens*>(parameter);
+            MONITORINFO about = {};
+            about.cbSize = sizeof about;
+            if (GetMonitorInfoW(monitor, &about) && (about.dwFlags & MONITORINFOF_PRIMARY) == 0)
+                found.areas.push_back(found.scale.Twips(about.rcWork));
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&screens));
+    return areas;
+}
+
+Size Win32Toolkit::LeastFormSize() {
+    return {desktop_.scale.TwipsX(GetSystemMetrics(SM_CXMINTRACK)),
+            desktop_.scale.TwipsY(GetSystemMetrics(SM_CYMINTRACK))};
+}
+
 void Win32Toolkit::Beep() {
     MessageBeep(MB_OK);
 }

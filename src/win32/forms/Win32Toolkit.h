@@ -46,6 +46,8 @@ class Win32Toolkit : public toolkit::Toolkit {
     double TwipsPerPixelX() override { return desktop_.scale.TwipsPerPixelX(); }
     double TwipsPerPixelY() override { return desktop_.scale.TwipsPerPixelY(); }
     toolkit::Rect WorkArea() override;
+    std::vector<toolkit::Rect> WorkAreas() override;
+    toolkit::Size LeastFormSize() override;
     void SetPointer(toolkit::Pointer pointer) override { desktop_.SetCommonPointer(pointer); }
     void Beep() override;
     toolkit::Answer ShowMessage(toolkit::Form* owner, std::string_view text, std::string_view title,

@@ -1,4 +1,6 @@
 // The life of forms: shown, hidden, modal, unloaded, destroyed.
+#include <algorithm>
+
 #include "contract/toolkit/ToolkitContract.h"
 
 namespace ordalyn::contract {
@@ -376,6 +378,19 @@ TEST_P(Forms, TheScreenIsKnown) {
     EXPECT_GT(Kit().TwipsPerPixelY(), 0);
     EXPECT_GT(Kit().WorkArea().width, 3000);
     EXPECT_GT(Kit().WorkArea().height, 3000);
+    const std::vector<Rect> areas = Kit().WorkAreas();
+    ASSERT_FALSE(areas.empty());
+    EXPECT_EQ(areas.front(), Kit().WorkArea());
+    for (const Rect& area : areas) {
+        EXPECT_GT(area.width, 3000);
+        EXPECT_GT(area.height, 3000);
+        EXPECT_EQ(std::count(areas.begin(), areas.end(), area), 1);
+    }
+    // Room for a title bar and its buttons, and less than any form of this program has.
+    EXPECT_GT(Kit().LeastFormSize().width, 600);
+    EXPECT_LT(Kit().LeastFormSize().width, 6000);
+    EXPECT_GT(Kit().LeastFormSize().height, 240);
+    EXPECT_LT(Kit().LeastFormSize().height, 2000);
     EXPECT_NO_THROW(Kit().SetPointer(Pointer::Hourglass));
     EXPECT_NO_THROW(Kit().SetPointer(Pointer::Default));
 }

@@ -236,6 +236,12 @@ void MemoryToolkit::DoLaterWork() {
     }
 }
 
+std::vector<Rect> MemoryToolkit::WorkAreas() {
+    std::vector<Rect> areas = {workArea};
+    areas.insert(areas.end(), otherWorkAreas.begin(), otherWorkAreas.end());
+    return areas;
+}
+
 void MemoryToolkit::SetPointer(Pointer newPointer) {
     pointer = newPointer;
     pointers.push_back(newPointer);

@@ -101,6 +101,7 @@ class MemoryToolkit : public toolkit::Toolkit {
     // What the tests script and look at.
     double twipsPerPixelX = 15, twipsPerPixelY = 15;
     toolkit::Rect workArea{0, 0, 19200, 15000};
+    std::vector<toolkit::Rect> otherWorkAreas;  // of screens beside the primary one
     std::vector<ShownMessage> messages;
     // Called for each message box; the default gives the default button's answer.
     std::function<toolkit::Answer(const ShownMessage&)> onMessage;
@@ -168,6 +169,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     double TwipsPerPixelX() override { return twipsPerPixelX; }
     double TwipsPerPixelY() override { return twipsPerPixelY; }
     toolkit::Rect WorkArea() override { return workArea; }
+    std::vector<toolkit::Rect> WorkAreas() override;
+    toolkit::Size LeastFormSize() override { return {1800, 600}; }
     void SetPointer(toolkit::Pointer newPointer) override;
     void Beep() override { ++beeps; }
     toolkit::Answer ShowMessage(toolkit::Form* owner, std::string_view text, std::string_view title,

@@ -1,5 +1,6 @@
 #include "windows/common/WindowPlacement.h"
 
+#include "settings/Placement.h"
 #include "support/windows/FormFixture.h"
 
 namespace ordalyn::test {
@@ -40,10 +41,51 @@ TEST_F(RestorePosition, EachFormHasItsOwnEntries) {
     EXPECT_EQ(filters.Bounds(), (Rect{30, 40, 9000, 800}));
 }
 
-TEST_F(RestorePosition, APlacementOffTheScreenIsKept) {
-    Put("Ordalyn", "MainPosition", "-90000,90000,3000,4000");
+// Its title bar decides: a window that cannot be taken cannot be brought back.
+TEST_F(RestorePosition, APlacementWhoseTitleBarIsOnNoScreenIsNotUsed) {
+    for (const char* lost : {"-90000,90000,3000,4000", "99999,99999,1,1", "19200,0,3000,4000",
+                             "0,15000,3000,4000", "-2900,0,3000,4000", "100,-300,3000,4000",
+                             "100,-4000,3000,6000", "100,14900,3000,4000"}) {
+        Put("Ordalyn", "MainPosition", lost);
+        RestoreWindowPosition(settings, form, true);
+        EXPECT_EQ(form.Bounds(), (Rect{0, 0, 12030, 8520})) << lost;
+    }
+}
+
+TEST_F(RestorePosition, APlacementThatCanBeTakenIsKept) {
+    toolkit.otherWorkAreas = {{-15000, -300, 15000, 9000}};
+    for (const Rect& kept : {Rect{-2000, 0, 3000, 4000}, Rect{18000, 14000, 3000, 4000},
+                             Rect{100, -100, 3000, 4000}, Rect{-14000, -300, 3000, 4000}}) {
+        Put("Ordalyn", "MainPosition",
+            PlacementText({kept.left, kept.top, kept.width, kept.height}));
+        RestoreWindowPosition(settings, form, true);
+        EXPECT_EQ(form.Bounds(), kept);
+    }
+}
+
+TEST_F(RestorePosition, WithoutASizeTheDefaultCounts) {
+    for (const char* nonsense : {"", "100", "100,200,3000", "100,200,0,4000", "10,20,-3000,4000",
+                                 "10,20,3000,-1", "1e300,0,3000,4000", "a,b,c,d"}) {
+        Put("Ordalyn", "MainPosition", nonsense);
+        RestoreWindowPosition(settings, form, true);
+        EXPECT_EQ(form.Bounds(), (Rect{0, 0, 12030, 8520})) << nonsense;
+    }
+}
+
+TEST_F(RestorePosition, AWindowIsNotSmallerThanTheSystemsLeast) {
+    Put("Ordalyn", "MainPosition", "100,200,1,1");
     RestoreWindowPosition(settings, form, true);
-    EXPECT_EQ(form.Bounds(), (Rect{-90000, 90000, 3000, 4000}));
+    EXPECT_EQ(form.Bounds(), (Rect{100, 200, 1800, 600}));
+}
+
+TEST_F(RestorePosition, TheDefaultLiesInsideTheWorkArea) {
+    toolkit.workArea = {600, 450, 9000, 7000};
+    Put("Ordalyn", "MainPosition", "");
+    Put("Ordalyn", "FiltersPosition", "");
+    RestoreWindowPosition(settings, form, true);
+    RestoreWindowPosition(settings, filters, false);
+    EXPECT_EQ(form.Bounds(), (Rect{600, 450, 9000, 7000}));
+    EXPECT_EQ(filters.Bounds(), (Rect{690, 6655, 8910, 795}));
 }
 
 struct Parts {
@@ -56,8 +98,6 @@ constexpr Parts kParts[] = {
     {",,3000,4000", {0, 0, 3000, 4000}},
     {"10,20,3000,4000,99", {10, 20, 3000, 4000}},
     {"1.5,2,3000,4000", {1.5F, 2, 3000, 4000}},
-    {"100,200,3000", {100, 200, 3000, 0}},
-    {"100", {100, 0, 0, 0}},
 };
 
 TEST_F(RestorePosition, PartsThatAreMissingOrNoNumbersAreZero) {
@@ -68,15 +108,14 @@ TEST_F(RestorePosition, PartsThatAreMissingOrNoNumbersAreZero) {
     }
 }
 
-TEST_F(RestorePosition, APlacementThatTheFormRefusesLeavesItInPlaceAndTheStateIsStillSet) {
-    const Rect before = form.Bounds();
+TEST_F(RestorePosition, TheStateIsSetWhateverThePlacement) {
     Put("Ordalyn", "MainWindowState", "2");
-    for (const char* refused : {"10,20,-3000,4000", "10,20,3000,-1", "1e300,0,3000,4000"}) {
+    for (const char* refused : {"10,20,-3000,4000", "1e300,0,3000,4000"}) {
         Put("Ordalyn", "MainPosition", refused);
         RestoreWindowPosition(settings, form, true);
         EXPECT_EQ(form.State(), WindowState::Maximised) << refused;
         form.SetState(WindowState::Normal);
-        EXPECT_EQ(form.Bounds(), before) << refused;
+        EXPECT_EQ(form.Bounds(), (Rect{0, 0, 12030, 8520})) << refused;
     }
 }
 
