@@ -167,6 +167,28 @@ def test_closing_with_one_panel_leaves_the_splitter_settings(folder):
         "1", "5001", "3002")
 
 
+def test_a_bar_beyond_the_normal_window_survives_a_start_maximised(folder):
+    # The screen is larger than the window is when it is not maximised.
+    folder.write_settings(Ordalyn={"MainPosition": "0,0,9000,6000", "MainWindowState": 2,
+                                   "HSplitPosition": 7000})
+    app = folder.show(LOG)
+    height = app.main.source.rect.bottom - app.main.source.rect.top
+    assert abs(height - 7000 // TPP) <= 2
+    app = restart(folder, app)
+    assert saved(folder)["HSplitPosition"] == "7000"
+    assert app.main.source.rect.bottom - app.main.source.rect.top == height
+
+
+def test_a_bar_beyond_the_design_s_size_survives_a_start_with_one_panel(folder):
+    folder.write_settings(Ordalyn={"MainPosition": "0,0,14000,10500", "TwoPanels": 0,
+                                   "HSplitPosition": 8000})
+    app = folder.show(LOG)
+    app.main.choose("View", "Two Panels")
+    assert abs(app.main.source.rect.bottom - app.main.source.rect.top - 8000 // TPP) <= 2
+    app.close()
+    assert saved(folder)["HSplitPosition"] == "8000"
+
+
 def test_the_status_bar_hides_at_once_and_stays_hidden(folder):
     app = folder.show(LOG)
     height = app.main.status_bar.rect.bottom - app.main.status_bar.rect.top
@@ -200,8 +222,9 @@ def test_the_panels_fill_the_window(show, size):
     app.main.place(10, 10, *size)
     client = app.main.info["client"]
     panel, target = app.main.source.rect, app.main.target.rect
-    assert client[0] <= panel.left <= client[0] + 3
-    assert client[2] - 5 <= panel.right <= client[2]
+    # A pixel is left at each side.
+    assert panel.left == client[0] + 1
+    assert panel.right == target.right == client[2] - 1
     assert target.bottom <= app.main.status_bar.rect.top
     assert app.main.status_bar.rect.top - target.bottom <= 3
 

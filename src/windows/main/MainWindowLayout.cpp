@@ -6,13 +6,14 @@
 
 namespace ordalyn {
 
+using toolkit::Rect;
 using toolkit::Twips;
 
 namespace {
 
 // Pixels between and around the controls.
 constexpr std::int32_t kBelowCombos = 4;
-constexpr std::int32_t kFrames = 10;
+constexpr std::int32_t kBesidePanels = 1;
 constexpr std::int32_t kBarThickness = 3;
 
 Twips Pixels(std::int32_t count, std::int32_t twipsPerPixel) {
@@ -49,20 +50,25 @@ Twips MainWindowLayout::StatusBarHeight() const {
     return controls_.StatusBar1.Visible() ? controls_.StatusBar1.Height() : 0;
 }
 
+// From the inside, whatever frame the system draws around it.
+Rect MainWindowLayout::PanelsArea() const {
+    const auto comboHeight = static_cast<Twips>(RoundToLong(controls_.cboDate.Height()));
+    const Twips top = comboHeight + Pixels(kBelowCombos, pixel_.y);
+    const Twips side = Pixels(kBesidePanels, pixel_.x);
+    const toolkit::Size inside = controls_.form.ClientSize();
+    return {side, top, inside.width - 2 * side, inside.height - top - StatusBarHeight()};
+}
+
 void MainWindowLayout::WindowResized() {
     Attempt([this] {
-        const auto comboHeight = static_cast<Twips>(RoundToLong(controls_.cboDate.Height()));
-        const Twips top = comboHeight + Pixels(kBelowCombos, pixel_.y);
-        // The width comes from the outer width, the height from the inside: deliberately mixed.
-        const Twips height = controls_.form.ClientSize().height - top - StatusBarHeight();
-        const Twips width = controls_.form.Width() - Pixels(kFrames, pixel_.x);
+        const Rect area = PanelsArea();
         if (settings_.TwoPanels != 0) {
-            Attempt([&] { controls_.picSpliterContainer.SetTop(top); });
-            splitter_.Resize(height, width);
+            Attempt([&] { controls_.picSpliterContainer.SetTop(area.top); });
+            splitter_.Resize(area.height, area.width);
         } else {
-            Attempt([&] { controls_.SourceListView.SetTop(top); });
-            Attempt([&] { controls_.SourceListView.SetHeight(height); });
-            Attempt([&] { controls_.SourceListView.SetWidth(width); });
+            Attempt([&] { controls_.SourceListView.SetTop(area.top); });
+            Attempt([&] { controls_.SourceListView.SetHeight(area.height); });
+            Attempt([&] { controls_.SourceListView.SetWidth(area.width); });
         }
     });
 }
@@ -74,16 +80,23 @@ void MainWindowLayout::ArrangePanels() {
     splitter_.CreateSplitter(controls_.picSpliterContainer, controls_.Frame1,
                              controls_.SourceListView, controls_.TargetListView,
                              sideBySide ? cSplitter::kSideBySide : cSplitter::kStacked,
-                             sideBySide ? settings_.VSplitPosition : settings_.HSplitPosition,
-                             CheckedMultiply(kBarThickness, pixel_.x), 0, 0, 0, 0);
+                             BarPosition(), CheckedMultiply(kBarThickness, pixel_.x), 0, 0, 0, 0);
+    arrangedPosition_ = splitter_.SplitPosition();
+}
+
+std::int32_t& MainWindowLayout::BarPosition() {
+    return settings_.VerticalPanels != 0 ? settings_.VSplitPosition : settings_.HSplitPosition;
+}
+
+void MainWindowLayout::KeepBarPosition() {
+    if (splitter_.SplitPosition() != arrangedPosition_)
+        BarPosition() = RoundToLong(splitter_.SplitPosition());
 }
 
 void MainWindowLayout::ChangePanelsOrientation(bool blnSaveCurrent) {
-    const bool wasSideBySide = settings_.VerticalPanels != 0;
     if (blnSaveCurrent)
-        (wasSideBySide ? settings_.VSplitPosition : settings_.HSplitPosition) =
-            RoundToLong(splitter_.SplitPosition());
-    settings_.VerticalPanels = wasSideBySide ? 0 : 1;
+        KeepBarPosition();
+    settings_.VerticalPanels = settings_.VerticalPanels != 0 ? 0 : 1;
     ArrangePanels();
 }
 
@@ -117,6 +130,13 @@ void MainWindowLayout::MoveToTwoPanels() {
     // The two panels show the same rows of the same source.
     target.Fill(source.Source(), source.RowTags());
     target.SetColumnWidth(0, source.ColumnWidth(kTargetField));
+    // The bar is placed in a container of the size that it will have: the window may have had
+    // another one when there were two panels last.
+    Attempt([&] {
+        const Rect area = PanelsArea();
+        source.SetContainer(controls_.picSpliterContainer);
+        controls_.picSpliterContainer.Move(area);
+    });
     ArrangePanels();
     source.RemoveLastColumn();
     controls_.picSpliterContainer.SetVisible(true);
@@ -149,9 +169,7 @@ void MainWindowLayout::SaveSplitterSettings() {
     // A single panel has no bar: what the file says about two panels stays.
     if (settings_.TwoPanels == 0)
         return;
-    const std::int32_t position = RoundToLong(splitter_.SplitPosition());
-    (settings_.VerticalPanels != 0 ? settings_.VSplitPosition : settings_.HSplitPosition) =
-        position;
+    KeepBarPosition();
     settings_.SaveAllOf(SettingWriter::PanelLayout);
 }
 

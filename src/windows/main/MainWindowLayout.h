@@ -61,11 +61,19 @@ class MainWindowLayout {
     cSplitter& Splitter() { return splitter_; }
     // Brings the window into the mode that the TwoPanels setting now says.
     void ChangePanelsCount();
-    // Writes the orientation and both bar positions. With a single panel it writes nothing at all.
+    // Writes the orientation and both bar positions: the bar's as it was stored, unless it was
+    // moved since. With a single panel it writes nothing at all.
     void SaveSplitterSettings();
 
   private:
     toolkit::Twips StatusBarHeight() const;
+    // Where one or two panels go: below the boxes, above the status bar, with a pixel at each side.
+    toolkit::Rect PanelsArea() const;
+    // The setting for the bar of the present orientation.
+    std::int32_t& BarPosition();
+    // Takes the bar's position for the setting when it was moved since the panels were arranged. A
+    // position that only a small window has made is none that anybody has chosen.
+    void KeepBarPosition();
     // Arranges the panels side by side or stacked, as the VerticalPanels setting now says.
     void ArrangePanels();
     void MoveToTwoPanels();
@@ -77,6 +85,7 @@ class MainWindowLayout {
     mAppSpecific& settings_;
     PixelSize pixel_;
     std::function<std::string()> targetCaption_;
+    float arrangedPosition_ = 0;
 };
 
 }  // namespace ordalyn

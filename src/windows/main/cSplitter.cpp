@@ -38,12 +38,13 @@ float Between(std::int32_t margin, std::int32_t otherMargin, float extent) {
 
 }  // namespace
 
+// Controls that were observed before may be observed again; only the last subscription counts.
 void cSplitter::Observe(Control& container, Control& splitter) {
     if (mobjContainerControl != &container) {
         mobjContainerControl = &container;
-        container.Resize.Subscribe([this, &container] {
-            if (mobjContainerControl != &container)
-                return;  // another container has taken over
+        container.Resize.Subscribe([this, turn = ++containerTurn_] {
+            if (turn != containerTurn_)
+                return;
             LayOut();
             ContainerResized.Raise();
         });
@@ -51,7 +52,7 @@ void cSplitter::Observe(Control& container, Control& splitter) {
     if (mobjSplitterControl == &splitter)
         return;
     mobjSplitterControl = &splitter;
-    const auto current = [this, &splitter] { return mobjSplitterControl == &splitter; };
+    const auto current = [this, turn = ++splitterTurn_] { return turn == splitterTurn_; };
     splitter.MouseDown.Subscribe([this, current](int, toolkit::Modifiers, float x, float y) {
         if (current())
             BarPressed(x, y);
@@ -96,14 +97,12 @@ void cSplitter::CreateSplitter(Control& container, Control& splitter, Control& p
     leftPanelVisible_ = true;
     rightPanelVisible_ = true;
     splitPosition_ = static_cast<float>(splitterStartPos);
+    pulledBack_ = false;
 
     const float size = SideBySide() ? container.Width() : container.Height();
     if (createdBefore_ && splitPosition_ >= size)
         splitPosition_ = size / 2;
-    if (SideBySide())
-        splitter.SetLeft(splitPosition_);
-    else
-        splitter.SetTop(splitPosition_);
+    SetBarPosition(splitPosition_);
     LayOut();
     createdBefore_ = true;
 }
@@ -187,30 +186,43 @@ void cSplitter::BarMoved(int buttons, float x, float y) {
     // not hide below the pointer; after that it follows the pointer exactly, because the pointer's
     // place inside the bar has grown by the same amount.
     const float edge = position - static_cast<float>(splitterSize_) + kPointerOffset;
-    if (SideBySide())
-        bar.SetLeft(edge);
-    else
-        bar.SetTop(edge);
+    SetBarPosition(edge);
+    pulledBack_ = false;
     FitPanes();
 }
 
 void cSplitter::BarReleased() {
     dragging_ = false;
-    splitPosition_ = SideBySide() ? mobjSplitterControl->Left() : mobjSplitterControl->Top();
+    // A click moves nothing: where the bar had to go is not where it was put.
+    if (!pulledBack_)
+        splitPosition_ = BarPosition();
+}
+
+float cSplitter::BarPosition() const {
+    return SideBySide() ? mobjSplitterControl->Left() : mobjSplitterControl->Top();
+}
+
+void cSplitter::SetBarPosition(float position) {
+    if (SideBySide())
+        mobjSplitterControl->SetLeft(position);
+    else
+        mobjSplitterControl->SetTop(position);
+}
+
+void cSplitter::KeepBarInside(float size) {
+    if (pulledBack_ && splitPosition_ <= size) {
+        SetBarPosition(splitPosition_);
+        pulledBack_ = false;
+    } else if (BarPosition() > size && size > kSmallestPullBack) {
+        SetBarPosition(size - kPullBack);
+        pulledBack_ = true;
+    }
 }
 
 void cSplitter::Resize(float containerHeight, float containerWidth) {
     if (mobjContainerControl == nullptr)
         return;
-    Control& bar = *mobjSplitterControl;
-    Attempt([&] {
-        if (SideBySide()) {
-            if (bar.Left() > containerWidth && containerWidth > kSmallestPullBack)
-                bar.SetLeft(containerWidth - kPullBack);
-        } else if (bar.Top() > containerHeight && containerHeight > kSmallestPullBack) {
-            bar.SetTop(containerHeight - kPullBack);
-        }
-    });
+    Attempt([&] { KeepBarInside(SideBySide() ? containerWidth : containerHeight); });
     Attempt([&] { mobjContainerControl->SetHeight(containerHeight); });
     Attempt([&] { mobjContainerControl->SetWidth(containerWidth); });
 }
@@ -256,6 +268,7 @@ void cSplitter::SetVisible(bool visible) {
 
 void cSplitter::SetSplitPosition(float position) {
     splitPosition_ = position;
+    pulledBack_ = false;
     FitPanes();
 }
 

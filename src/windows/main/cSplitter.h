@@ -41,7 +41,8 @@ class cSplitter {
     void SetSplitPosition(float position);
 
     // The owner's window has another size: height first. A bar that lies below (right of) the new
-    // inside is pulled back when the container is larger than 1800 twips.
+    // inside is pulled back when the container is larger than 1800 twips, and returns to its
+    // committed position as soon as that lies inside again.
     void Resize(float containerHeight, float containerWidth);
     // Exchanges the panes. The visibility properties then speak of the exchanged panes.
     void SwapPanels();
@@ -64,6 +65,10 @@ class cSplitter {
     void BarPressed(float x, float y);
     void BarMoved(int buttons, float x, float y);
     void BarReleased();
+    // The bar's left or top edge as it is shown.
+    float BarPosition() const;
+    void SetBarPosition(float position);
+    void KeepBarInside(float size);
 
     std::int32_t direction_ = 0;
     bool swapped_ = false;
@@ -84,6 +89,10 @@ class cSplitter {
     toolkit::Control* mobjContainerControl = nullptr;
     toolkit::Control* mobjSplitterControl = nullptr;
     bool createdBefore_ = false;
+    bool pulledBack_ = false;  // the bar could not stay at its committed position
+    // How many containers and bars were observed so far.
+    int containerTurn_ = 0;
+    int splitterTurn_ = 0;
 };
 
 }  // namespace ordalyn

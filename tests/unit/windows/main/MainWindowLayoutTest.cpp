@@ -130,7 +130,8 @@ TEST_F(Layout, FillsTheWindowBelowTheCombos) {
     EXPECT_EQ(container.Left(), 15);
     EXPECT_EQ(container.Top(), 315 + 4 * 12);
     EXPECT_EQ(container.Height(), Inside());
-    EXPECT_EQ(container.Width(), form.Width() - 10 * 15);  // from the outer width, deliberately
+    // To one pixel before the right edge of the inside.
+    EXPECT_EQ(container.Width(), form.ClientSize().width - 2 * 15);
 }
 
 TEST_F(Layout, CountsTheCombosInWholeTwips) {
@@ -149,8 +150,8 @@ TEST_F(Layout, FollowsTheWindowsSize) {
     tools.ResizeByUser(form, {0, 0, 6000, 5000});
     layout.WindowResized();
     EXPECT_EQ(container.Height(), Inside());
-    EXPECT_EQ(container.Width(), 6000 - 150);
-    EXPECT_EQ(target.Width(), 6000 - 150);
+    EXPECT_EQ(container.Width(), form.ClientSize().width - 30);
+    EXPECT_EQ(target.Width(), form.ClientSize().width - 30);
 }
 
 TEST_F(Layout, AWindowTooSmallLeavesWhatCannotBePlaced) {
@@ -167,7 +168,7 @@ TEST_F(Layout, ASinglePanelLiesDirectlyOnTheWindow) {
     layout.ArrangeFirstTime();
     EXPECT_FALSE(container.Visible());
     EXPECT_EQ(source.Container(), &form);
-    EXPECT_EQ(source.Bounds(), (Rect{15, 315 + 4 * 12, form.Width() - 150, Inside()}));
+    EXPECT_EQ(source.Bounds(), (Rect{15, 315 + 4 * 12, form.ClientSize().width - 30, Inside()}));
     EXPECT_FALSE(mnuViewVerticalPanels.Enabled());
     EXPECT_FALSE(mnuViewTwoPanels.Checked());
 }
@@ -233,6 +234,43 @@ TEST_F(Layout, APositionBeyondTheWindowIsKeptFirstAndHalvedAtTheNextChange) {
     EXPECT_EQ(bar.Left(), container.Width() / 2);
 }
 
+// A window that is shown maximised has its normal size first.
+TEST_F(Layout, AStartMaximisedShowsTheBarWhereItWasStored) {
+    settings.HSplitPosition = 9000;
+    layout.ArrangeFirstTime();
+    EXPECT_LT(bar.Top(), 9000);
+    tools.ResizeByUser(form, {0, 0, 19200, 15000});
+    layout.WindowResized();
+    EXPECT_EQ(bar.Top(), 9000);
+    EXPECT_EQ(source.Height(), 9000);
+    layout.SaveSplitterSettings();
+    EXPECT_EQ(Stored("HSplitPosition"), "9000");
+}
+
+TEST_F(Layout, AStartWithOnePanelShowsTheBarWhereItWasStored) {
+    SinglePanel();
+    settings.HSplitPosition = 9000;
+    layout.ArrangeFirstTime();
+    tools.ResizeByUser(form, {0, 0, 19200, 15000});
+    layout.WindowResized();
+    layout.ToggleTwoPanels();
+    EXPECT_EQ(bar.Top(), 9000);
+    EXPECT_EQ(container.Bounds(), (Rect{15, 315 + 4 * 12, form.ClientSize().width - 30, Inside()}));
+}
+
+TEST_F(Layout, AWindowTooSmallForTheBarDoesNotChangeWhatIsStored) {
+    settings.HSplitPosition = 9000;
+    settings.VSplitPosition = 30000;
+    layout.ArrangeFirstTime();
+    layout.ToggleVerticalPanels();
+    EXPECT_EQ(bar.Left(), container.Width() / 2);
+    layout.ToggleVerticalPanels();
+    EXPECT_EQ(bar.Top(), container.Height() / 2);
+    layout.SaveSplitterSettings();
+    EXPECT_EQ(Stored("HSplitPosition"), "9000");
+    EXPECT_EQ(Stored("VSplitPosition"), "30000");
+}
+
 TEST_F(Layout, GoingToOnePanelAndBackKeepsOrientationBarAndWidth) {
     layout.ArrangeFirstTime();
     FillBoth();
@@ -249,7 +287,7 @@ TEST_F(Layout, GoingToOnePanelAndBackKeepsOrientationBarAndWidth) {
     EXPECT_EQ(target.RowCount(), 0);
     EXPECT_EQ(source.Container(), &form);
     EXPECT_FALSE(container.Visible());
-    EXPECT_EQ(source.Bounds(), (Rect{15, 315 + 4 * 12, form.Width() - 150, Inside()}));
+    EXPECT_EQ(source.Bounds(), (Rect{15, 315 + 4 * 12, form.ClientSize().width - 30, Inside()}));
 
     MemoryToolkit::DragColumn(source, 2, 2222);
     layout.ToggleTwoPanels();
@@ -326,7 +364,7 @@ TEST_F(Layout, OverflowInThePixelArithmeticIsAnError) {
     MainWindowLayout huge{{form, cboDate, container, bar, source, target, StatusBar1,
                            mnuViewStatusBar, mnuViewTwoPanels, mnuViewVerticalPanels},
                           settings,
-                          {1000000000, 15},
+                          {1000000000, 1000000000},
                           [] { return std::string(); }};
     EXPECT_THROW(huge.ChangePanelsOrientation(false), Overflow);
     const Rect before = container.Bounds();

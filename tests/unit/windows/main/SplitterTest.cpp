@@ -17,6 +17,8 @@ using toolkit::Rect;
 constexpr toolkit::ControlDesign kControls[] = {
     {.kind = toolkit::Kind::PictureBox, .name = "container", .bounds = {0, 0, 6000, 4000}},
     {.kind = toolkit::Kind::Frame, .name = "bar", .bounds = {0, 0, 45, 45}},
+    {.kind = toolkit::Kind::PictureBox, .name = "otherContainer", .bounds = {0, 0, 6000, 4000}},
+    {.kind = toolkit::Kind::Frame, .name = "otherBar", .bounds = {0, 0, 45, 45}},
     {.kind = toolkit::Kind::ListView, .name = "one", .bounds = {0, 0, 100, 100}},
     {.kind = toolkit::Kind::ListView, .name = "two", .bounds = {0, 0, 100, 100}},
 };
@@ -217,6 +219,56 @@ TEST_F(Splitter, ResizePullsBackALostBarSideBySide) {
     EXPECT_EQ(bar.Left(), 5000);
     splitter.Resize(4000, 2000);
     EXPECT_EQ(bar.Left(), 1910);
+}
+
+TEST_F(Splitter, ABarThatWasPulledBackReturnsWhenThereIsRoomAgain) {
+    Create(1, 5000);
+    splitter.Resize(4000, 4000);
+    EXPECT_EQ(bar.Left(), 3910);
+    EXPECT_EQ(splitter.SplitPosition(), 5000);
+    splitter.Resize(4000, 4500);
+    EXPECT_EQ(bar.Left(), 3910);
+    splitter.Resize(4000, 5000);
+    EXPECT_EQ(bar.Left(), 5000);
+    EXPECT_EQ(one.Width(), 5000);
+}
+
+TEST_F(Splitter, AClickDoesNotCommitWhereTheBarWasPulledTo) {
+    Create(1, 5000);
+    splitter.Resize(4000, 4000);
+    bar.MouseDown.Raise(1, {}, 0, 0);
+    bar.MouseUp.Raise(1, {}, 0, 0);
+    EXPECT_EQ(splitter.SplitPosition(), 5000);
+}
+
+TEST_F(Splitter, ADraggedBarDoesNotReturnToWhereItWasBefore) {
+    Create(1, 5000);
+    splitter.Resize(4000, 4000);
+    bar.MouseDown.Raise(1, {}, 0, 0);
+    Drag(1, -880, 0);  // 3910 - 880 - 45 + 15
+    bar.MouseUp.Raise(1, {}, 0, 0);
+    EXPECT_EQ(splitter.SplitPosition(), 3000);
+    splitter.Resize(4000, 6000);
+    EXPECT_EQ(bar.Left(), 3000);
+}
+
+TEST_F(Splitter, ControlsThatComeBackAreObservedOnce) {
+    toolkit::PictureBox& other = form.Get<toolkit::PictureBox>("otherContainer");
+    toolkit::Frame& otherBar = form.Get<toolkit::Frame>("otherBar");
+    int raised = 0;
+    splitter.ContainerResized.Subscribe([&] { ++raised; });
+    Create(1, 2000);
+    splitter.CreateSplitter(other, otherBar, one, two, 1, 2000, 45, 0, 0, 0, 0);
+    container.SetWidth(5900);
+    EXPECT_EQ(raised, 0);
+    Create(1, 2000);
+    container.SetWidth(5800);
+    EXPECT_EQ(raised, 1);
+    other.SetWidth(5800);
+    EXPECT_EQ(raised, 1);
+    bar.MouseDown.Raise(1, {}, 0, 0);
+    Drag(1, 100, 0);  // 2000 + 100 - 45 + 15, once
+    EXPECT_EQ(bar.Left(), 2070);
 }
 
 TEST_F(Splitter, ResizeSetsTheContainerAndLaysOut) {
