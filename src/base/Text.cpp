@@ -303,6 +303,12 @@ bool IsValidUtf8(std::string_view bytes) {
     return true;
 }
 
+bool IsUtf8BeyondAscii(std::string_view bytes) {
+    const bool ascii =
+        std::all_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) == 0; });
+    return !ascii && IsValidUtf8(bytes);
+}
+
 std::string ToValidUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());

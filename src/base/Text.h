@@ -48,6 +48,8 @@ double LeadingNumber(std::string_view text);
 // UTF-8 and UTF-16. Invalid sequences become U+FFFD, one for each maximal invalid part.
 bool IsAscii(std::string_view text);
 bool IsValidUtf8(std::string_view bytes);
+// Whether it is UTF-8, not just ASCII, which every code page has in common.
+bool IsUtf8BeyondAscii(std::string_view bytes);
 std::string ToValidUtf8(std::string_view bytes);
 std::u16string Utf8ToUtf16(std::string_view text);
 std::string Utf16ToUtf8(std::u16string_view text);

@@ -5,6 +5,7 @@
 
 #include "base/Attempt.h"
 #include "base/Text.h"
+#include "hostconfig/LanguageFileText.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/mAppCommon.h"
 #include "log/LineReader.h"
@@ -127,7 +128,8 @@ std::vector<OperationWord> OperationWords::LoadOperationKeywords() {
 std::string OperationWords::CollectKeywords(std::string_view languageFile) const {
     const std::vector<std::string> elements = Split(loggingID_, ',');
     std::string keywords;
-    LineReader lines(around_.files.OpenForReading(languageFile), around_.codePages);
+    LineReader lines(OpenLanguageFile(around_.files, around_.codePages, languageFile),
+                     around_.codePages);
     while (const std::optional<std::string_view> line = lines.Next()) {
         const std::string_view trimmed = TrimBlanks(*line);
         const std::optional<std::string_view> key = KeyOf(trimmed);

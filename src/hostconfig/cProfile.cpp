@@ -47,10 +47,11 @@ std::optional<std::string> cProfile::ReadValue(std::string_view strSectionName,
                                                std::string_view strKeyName,
                                                std::string_view strDefaultValue,
                                                std::string_view strFileName,
-                                               std::size_t lngMaxBufferSize, unsigned codePage) {
+                                               std::size_t lngMaxBufferSize,
+                                               std::optional<unsigned> languageCodePage) {
     const std::string file = ResolveRedirectedFile(strSectionName, strKeyName, strFileName);
     return ReadRawValue(strSectionName, strKeyName, strDefaultValue, file, lngMaxBufferSize,
-                        codePage);
+                        languageCodePage);
 }
 
 void cProfile::WriteValue(std::string_view strSectionName, std::string_view strKeyName,
@@ -159,8 +160,9 @@ bool cProfile::IsExempt(std::string_view section) const {
 
 std::optional<std::string> cProfile::ReadRawValue(std::string_view section, std::string_view key,
                                                   std::string_view otherwise, std::string_view file,
-                                                  std::size_t size, unsigned codePage) {
-    std::string value = text_.ReadEntry(section, key, otherwise, file, size, codePage);
+                                                  std::size_t size,
+                                                  std::optional<unsigned> languageCodePage) {
+    std::string value = text_.ReadEntry(section, key, otherwise, file, size, languageCodePage);
     if (value.empty())
         return std::nullopt;
     return value;

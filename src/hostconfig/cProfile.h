@@ -49,14 +49,14 @@ class cProfile {
     cProfile(const platform::Services& services, const mAppCommon& common);
 
     // No value when the text read is empty: for an empty entry as for an absent one with an empty
-    // default. An absent entry gives a default that is not empty. A file without a byte order mark
-    // is in `codePage`.
+    // default. An absent entry gives a default that is not empty. The code page is that of the
+    // language whose texts the file has, as ProfileText says.
     std::optional<std::string> ReadValue(std::string_view strSectionName,
                                          std::string_view strKeyName,
                                          std::string_view strDefaultValue,
                                          std::string_view strFileName,
                                          std::size_t lngMaxBufferSize = kBufferSize,
-                                         unsigned codePage = platform::CodePages::kSystem);
+                                         std::optional<unsigned> languageCodePage = std::nullopt);
     // Without quotation the value is written without blanks at its ends; with it, between double
     // quotes as it is. The marker of absent values is not written at all, so that a caller can pass
     // on what it read.
@@ -103,10 +103,10 @@ class cProfile {
                                  std::string_view file);
     bool IsExempt(std::string_view section) const;
     // Without redirection.
-    std::optional<std::string> ReadRawValue(std::string_view section, std::string_view key,
-                                            std::string_view otherwise, std::string_view file,
-                                            std::size_t size,
-                                            unsigned codePage = platform::CodePages::kSystem);
+    std::optional<std::string> ReadRawValue(
+        std::string_view section, std::string_view key, std::string_view otherwise,
+        std::string_view file, std::size_t size,
+        std::optional<unsigned> languageCodePage = std::nullopt);
     // Unlike WriteValue it removes the blanks first: it does not write a marker with blanks around
     // it, and quotes protect no blanks.
     void WriteRawValue(std::string_view section, std::string_view key, std::string_view value,

@@ -63,6 +63,10 @@ ProfileText::Kind ProfileText::KindOf(std::string_view file) {
     return StartsWith(bytes, kUtf8Mark) ? Kind::Utf8 : Kind::CodePage;
 }
 
+bool ProfileText::IsUtf8WithoutMark(std::string_view file) {
+    return IsUtf8BeyondAscii(ReadAllBytes(files_, file).value_or(""));
+}
+
 bool ProfileText::ReadsItself(Kind kind, unsigned codePage) const {
     // The calls take a file's bytes through the system code page and drop what is a blank there,
     // which may be part of a letter in another one.
@@ -144,8 +148,11 @@ std::string ProfileText::DecodedList(Kind kind, std::string_view stored, std::si
 
 std::string ProfileText::ReadEntry(std::string_view section, std::string_view key,
                                    std::string_view otherwise, std::string_view file,
-                                   std::size_t size, unsigned codePage) {
-    const Kind kind = KindOf(file);
+                                   std::size_t size, std::optional<unsigned> languageCodePage) {
+    Kind kind = KindOf(file);
+    if (languageCodePage && kind == Kind::CodePage && IsUtf8WithoutMark(file))
+        kind = Kind::Utf8;
+    const unsigned codePage = languageCodePage.value_or(CodePages::kSystem);
     const std::string storedSection = Encoded(kind, section);
     const std::string storedKey = Encoded(kind, key);
     if (ReadsItself(kind, codePage)) {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,11 +22,12 @@ class ProfileText {
   public:
     explicit ProfileText(const Services& services);
 
-    // The value without one pair of enclosing quotes, or `otherwise` when the entry is absent. A
-    // file without a mark is in `codePage`.
+    // The value without one pair of enclosing quotes, or `otherwise` when the entry is absent. With
+    // a code page, that of the language whose texts the file has, a file without a mark is UTF-8
+    // when all of it is and it has characters beyond ASCII, else in that code page.
     std::string ReadEntry(std::string_view section, std::string_view key,
                           std::string_view otherwise, std::string_view file, std::size_t size,
-                          unsigned codePage = CodePages::kSystem);
+                          std::optional<unsigned> languageCodePage = std::nullopt);
     // The lists: each element is followed by a NUL character.
     std::string ReadKeyNames(std::string_view section, std::string_view file, std::size_t size);
     std::string ReadSection(std::string_view section, std::string_view file, std::size_t size);
@@ -38,6 +40,7 @@ class ProfileText {
   private:
     enum class Kind { CodePage, Utf16, Utf8 };
     Kind KindOf(std::string_view file);
+    bool IsUtf8WithoutMark(std::string_view file);
 
     bool ReadsItself(Kind kind, unsigned codePage = CodePages::kSystem) const;
     IniFile Parse(Kind kind, std::string_view bytes);

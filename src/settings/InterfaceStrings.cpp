@@ -45,7 +45,7 @@ bool InterfaceStrings::RightToLeftLanguage() const {
     return !value.empty() && ToLong(value) != 0;
 }
 
-// A translator wrote the file either in UTF-8, which its mark tells, or in the code page of the
+// A translator wrote the file either in UTF-8, with a mark or without, or in the code page of the
 // language. That is the one of the character set that the user has chosen for it, not the one of
 // this system: on a western Windows a Cyrillic file has to be read with a Cyrillic character set.
 std::string InterfaceStrings::ReadLanguageFile(std::string_view key,

@@ -16,6 +16,13 @@ TEST(TextEncoding, KnowsAscii) {
     EXPECT_FALSE(IsAscii("ä"));
 }
 
+TEST(TextEncoding, AsciiAloneIsNotToldFromACodePage) {
+    EXPECT_FALSE(IsUtf8BeyondAscii(""));
+    EXPECT_FALSE(IsUtf8BeyondAscii("plain"));
+    EXPECT_FALSE(IsUtf8BeyondAscii("a\xE4"));
+    EXPECT_TRUE(IsUtf8BeyondAscii("aä"));
+}
+
 TEST(TextEncoding, KnowsValidUtf8) {
     EXPECT_TRUE(IsValidUtf8(""));
     EXPECT_TRUE(IsValidUtf8("aä€𐐀"));

@@ -253,6 +253,31 @@ TEST_F(Keywords, OfACodePageFileAreReadInTheCodePage) {
     EXPECT_THAT(Load(), ElementsAre("Копирование"));
 }
 
+// "Копирование" on a western system.
+TEST_F(Keywords, OfACodePageFileAreReadInTheCodePageThatItNames) {
+    const std::string word = "1802=\"\xCA\xEE\xEF\xE8\xF0\xEE\xE2\xE0\xED\xE8\xE5\"\r\n";
+    Put("LoggingID", "1802");
+    UseLanguageFile("Russian\r\n CodePage=1251\r\n" + word);
+    EXPECT_THAT(Load(), ElementsAre("Копирование"));
+    for (const char* none : {"", "codepage=\r\n", "codepage=-1\r\n", "codepage=1e9\r\n",
+                             "codepage=12345\r\n", "xcodepage=1251\r\n"}) {
+        UseLanguageFile(none + word);
+        EXPECT_THAT(Load(), ElementsAre("Êîïèðîâàíèå")) << none;
+    }
+    // What looks like UTF-8 is not, in a file that is not.
+    UseLanguageFile("codepage=1251\r\n1801=\"\xD0\x90\"\r\n" + word);
+    Put("LoggingID", "1801,1802");
+    EXPECT_THAT(Load(), ElementsAre("Рђ", "Копирование"));
+}
+
+TEST_F(Keywords, OfAUtf8FileAreReadAsSuchWhateverCodePageItNames) {
+    Put("LoggingID", "1802");
+    UseLanguageFile("codepage=1251\r\n1802=\"Копирование\"\r\n");
+    EXPECT_THAT(Load(), ElementsAre("Копирование"));
+    UseLanguageFile("codepage=65001\r\n1802=\"Kopi\xFF\"\r\n");
+    EXPECT_THAT(Load(), ElementsAre("Kopi\xEF\xBF\xBD"));
+}
+
 TEST_F(Keywords, OfAUtf8FileAreReadAsSuchWithAndWithoutAMark) {
     system.codePages.systemCodePage = 1251;
     UseLanguageFile(

@@ -119,6 +119,19 @@ TEST_F(InterfaceStringsTest, WithoutAMarkTheCodePageIsThatOfTheCharacterSet) {
     EXPECT_EQ(strings.GetInterfaceString(4000), "Âðåìÿ");
 }
 
+TEST_F(InterfaceStringsTest, WithoutAMarkAFileThatIsUtf8IsReadAsSuch) {
+    for (const std::int32_t script : {1, 204, 128}) {
+        settings.FontScript = script;
+        UseLanguageFile(Section("4000=Время\r\n4001=\"Quelle \"\r\n"));
+        EXPECT_EQ(strings.GetInterfaceString(4000), "Время") << script;
+        EXPECT_EQ(strings.GetInterfaceString(4001), "Quelle ") << script;
+        EXPECT_EQ(strings.GetInterfaceString(4002), "Target") << script;
+        // One letter that is none makes it a file of a code page.
+        UseLanguageFile(Section("4000=Время\r\n4001=\xFF\r\n"));
+        EXPECT_NE(strings.GetInterfaceString(4000), "Время") << script;
+    }
+}
+
 TEST_F(InterfaceStringsTest, EveryCharacterSetHasItsCodePage) {
     UseLanguageFile(Section("4000=\xBF\xF1\xE1\r\n"));
     settings.FontScript = 161;  // Greek
