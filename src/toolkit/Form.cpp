@@ -248,6 +248,11 @@ void Form::UserClosed() {
     Unload();
 }
 
+void Form::SystemActivated(bool byClickOnControl) {
+    activatedByClickOnControl_ = byClickOnControl;
+    Activate.Raise();
+}
+
 void Form::SystemResized(const Rect& outer, WindowState state) {
     if (unloaded_ || state == WindowState::Minimised)
         return;  // there is nothing to lay out

@@ -71,6 +71,10 @@ class Form : public Control {
     void PopUpMenu(MenuItem& item) { peer_->PopUp(item); }
 
     Event<> Activate;
+    // Whether a click on one of its controls made the form the active one the last time. The user
+    // has said then what is to be used: a handler that took the focus elsewhere would do so while
+    // the button is still down, and the click would be lost.
+    bool ActivatedByClickOnControl() const { return activatedByClickOnControl_; }
     Event<bool&> QueryUnload;  // set the argument to true to keep the form
     Event<> Unloading;
     Event<const std::vector<std::string>&> FilesDropped;  // full paths
@@ -82,7 +86,7 @@ class Form : public Control {
     void UserKeyUp(int key, Modifiers modifiers) { KeyUp.Raise(key, modifiers); }
     // For the peer.
     void UserClosed();  // close box, Alt+F4, end of the session
-    void SystemActivated() { Activate.Raise(); }
+    void SystemActivated(bool byClickOnControl = false);
     void SystemResized(const Rect& outer, WindowState state);
 
   private:
@@ -101,6 +105,7 @@ class Form : public Control {
     Control* defaultButton_ = nullptr;
     Control* cancelButton_ = nullptr;
     std::shared_ptr<const int> lifetime_ = std::make_shared<const int>(0);
+    bool activatedByClickOnControl_ = false;
     bool modal_ = false;
     bool unloaded_ = false;
 };

@@ -68,6 +68,35 @@ def test_the_apply_button_works_like_enter(app, folder):
     assert folder.settings["Ordalyn"]["Filter1"] == '"pack"'
 
 
+def test_every_control_works_at_the_first_click(app, folder):
+    dialog = open_filter(app)
+    app.main.place(0, 0, 700, 300)
+    dialog.move(0, 320)
+    dialog.filter.type("copy")
+    app.main.activate()
+    dialog.click_apply()
+    assert app.main.status[0] == "4 Operation(s)  "
+    for box, by_keys, rows in ((dialog.contains, "Does not contain", 5), (dialog.source, "Target", 5)):
+        app.main.activate()
+        box.click()
+        app.keys("Down", "Enter")
+        assert box.chosen == by_keys
+        assert app.main.source.row_count == rows
+    app.main.activate()
+    dialog.drop_down(0).choose("Pack")
+    assert dialog.filter.value == "Pack"
+    app.main.activate()
+    dialog.filter.click()
+    assert dialog.focus_is_in(dialog.filter)
+    app.main.activate()
+    dialog.click_remove()
+    assert dialog.filter.value == ""
+    assert app.main.source.row_count == len(LOG)
+    app.main.activate()
+    dialog.cancel.click()
+    dialog.wait_for_end()
+
+
 def test_the_boxes_say_what_they_choose_between(app):
     dialog = open_filter(app)
     assert dialog.contains.items == ["Contains", "Does not contain"]

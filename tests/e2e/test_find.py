@@ -61,6 +61,52 @@ def test_fast_clicks_each_find_the_next(show):
     assert found(app) == ("01.03.2024", 2)
 
 
+def click_slowly(app, x, y):
+    """A click as slow as a hand's: the program has done all that the press leads to before the
+    button comes up."""
+    app.point_at(x, y)
+    app.mouse(("down", "left"))
+    app.settle()
+    app.mouse(("up", "left"))
+    app.settle()
+
+
+@pytest.mark.parametrize("click", ["slow", "fast"])
+def test_every_control_works_at_the_first_click(show, click):
+    app = show(LOG)
+    dialog = open_find(app)
+    dialog.what.type("copy")
+    app.main.place(0, 0, 700, 300)
+    dialog.move(0, 320)
+
+    def from_the_main_window(caption):
+        app.main.activate()
+        assert not dialog.focus_is_in(dialog.what)
+        place = center(dialog.button(caption).rect)
+        click_slowly(app, *place) if click == "slow" else app.click(*place)
+        return dialog.button(caption)
+
+    # The focus stays where the click puts it.
+    assert from_the_main_window("Find Next").focused
+    assert found(app) == ("01.03.2024", 0)
+    assert from_the_main_window("Match whole word only").checked
+    assert from_the_main_window("Selected date only").checked
+    assert from_the_main_window("Target").checked
+    assert from_the_main_window("Target").focused
+    # Without a click on a control the text is ready to be typed over.
+    app.main.activate()
+    dialog.activate()
+    assert dialog.focus_is_in(dialog.what)
+    app.main.activate()
+    left, top, right, _ = dialog.rect
+    app.click((left + right) // 2, top + 10)
+    assert dialog.focus_is_in(dialog.what)
+    app.main.activate()
+    place = center(dialog.button("Cancel").rect)
+    click_slowly(app, *place) if click == "slow" else app.click(*place)
+    dialog.wait_for_end()
+
+
 def test_f3_goes_on_in_the_main_window(show):
     app = show(LOG)
     assert not app.main.menu("Search", "Find Next").enabled

@@ -350,6 +350,10 @@ class Window(Control):
         self.ask("place", left=left, top=top, width=width, height=height)
         self.app.settle()
 
+    def move(self, left, top):
+        rect = self.rect
+        self.place(left, top, rect.right - rect.left, rect.bottom - rect.top)
+
     def maximise(self):
         self._command("maximise", lambda: self.maximised)
 

@@ -14,6 +14,8 @@ class FormHost {
     virtual ~FormHost() = default;
     virtual HWND FormHandle() const = 0;
     virtual bool Resizable() const = 0;
+    // The user presses a mouse button on a control of the form, which may not be the active one.
+    virtual void ControlIsPressed() = 0;
     // The control with the focus can no longer have it.
     virtual void FocusWasLost() = 0;
     // What is to get the focus when the form's turn comes.

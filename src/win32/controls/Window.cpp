@@ -147,6 +147,12 @@ LRESULT Window::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (ChoosePointer(lParam))
                 return TRUE;
             break;
+        case WM_MOUSEACTIVATE: {
+            FormHost* const around = form();
+            if (around != nullptr && around->FormHandle() != handle_)
+                around->ControlIsPressed();
+            break;
+        }
         case WM_SETFOCUS: {
             const std::weak_ptr<const void> alive = Lifetime();
             const LRESULT answer = Default(message, wParam, lParam);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "toolkit/FormKeyboard.h"
@@ -278,6 +279,7 @@ void FormWindow::FocusWasLost() {
 }
 
 void FormWindow::ActivationChanged(bool active, bool minimised) {
+    const bool byClickOnControl = std::exchange(pressedFromOutside_, false) && active;
     if (!active) {
         const HWND focus = GetFocus();
         if (focus != nullptr && IsChild(handle(), focus))
@@ -288,7 +290,7 @@ void FormWindow::ActivationChanged(bool active, bool minimised) {
         return;
     // The event comes when the form is on the screen, and never inside the call that shows it.
     activationPosted_ = true;
-    PostMessageW(handle(), kActivated, 0, 0);
+    PostMessageW(handle(), kActivated, byClickOnControl ? TRUE : FALSE, 0);
 }
 
 void FormWindow::SetDefaultButton(ControlPeer* button) {
@@ -333,7 +335,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case kActivated:
             activationPosted_ = false;
             if (IsWindowVisible(handle()))
-                form_.SystemActivated();
+                form_.SystemActivated(wParam != FALSE);
             return 0;
         case kMenusChanged:
             FlushMenus();

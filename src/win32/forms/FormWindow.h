@@ -28,6 +28,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     // Focus and keys. The cues are those that the system hides from users of the mouse.
     void ShowKeyboardCues(WORD cues);
     void RememberFocus(HWND window) override { focus_ = window; }
+    void ControlIsPressed() override { pressedFromOutside_ = GetActiveWindow() != handle(); }
     void FocusWasLost() override;
     void FocusFirstTabStop();
     void ShowDefaultButton(CommandButtonWindow* button) override;
@@ -90,6 +91,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     toolkit::WindowState stateWhenShown_ = toolkit::WindowState::Normal;
     HWND focus_ = nullptr;  // what had the focus, or is to get it
     bool activationPosted_ = false;
+    bool pressedFromOutside_ = false;  // on a control, while another window was the active one
     CommandButtonWindow* defaultButton_ = nullptr;
     HWND toolTips_ = nullptr;  // owned by the form's window, goes with it
     ModalRun* modal_ = nullptr;

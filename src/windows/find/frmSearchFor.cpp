@@ -147,7 +147,8 @@ void frmSearchFor::WireControls() {
     cmdClearList.Click.Subscribe([this] { ClearList(); });
     Get<toolkit::CommandButton>("cmdCancel").Click.Subscribe([this] { Hide(); });
     Activate.Subscribe([this] {
-        cboFindWhat.SetFocus();
+        if (!ActivatedByClickOnControl())
+            cboFindWhat.SetFocus();
         if (cboFindWhat.ListCount() > 0)
             cmdClearList.SetEnabled(true);
     });

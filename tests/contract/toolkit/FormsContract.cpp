@@ -39,6 +39,26 @@ TEST_P(Forms, ActivateComesFromTheMessageLoopOnce) {
     EXPECT_EQ(activated.Take(), 1);
 }
 
+TEST_P(Forms, AFormSaysWhetherAClickOnAControlActivatedIt) {
+    Show();
+    auto dialog = NewForm();
+    dialog->Show();
+    Settle();
+    std::vector<bool> byClick;
+    Form().Activate.Subscribe([&] { byClick.push_back(Form().ActivatedByClickOnControl()); });
+    auto& button = Get<CommandButton>("cmdOk");
+    Counter clicked(button.Click);
+    User().PressFromOutside(button);
+    EXPECT_EQ(clicked.Take(), 1);
+    EXPECT_THAT(byClick, ElementsAre(true));
+    // The next time it is something else, also after clicks in the active form.
+    User().Press(button);
+    dialog->Show();
+    Settle();
+    Show();
+    EXPECT_THAT(byClick, ElementsAre(true, false));
+}
+
 TEST_P(Forms, ClosingAsksTellsAndTakesTheFormAway) {
     std::vector<std::string> order;
     Form().QueryUnload.Subscribe([&](bool&) {

@@ -54,6 +54,11 @@ class MemoryDriver : public ToolkitDriver {
                 button.UserClicked();
         });
     }
+    void PressFromOutside(Control& button) override {
+        auto& form = static_cast<Form&>(const_cast<Control&>(FormOf(button)));
+        Do(button, [&] { form.SystemActivated(true); });
+        Press(button);
+    }
     void PressTwice(Control& button) override {
         Press(button);
         Press(button);

@@ -55,6 +55,8 @@ class ToolkitDriver {
     virtual void Type(toolkit::TextBox& box, std::string_view text) = 0;
     virtual void Type(toolkit::ComboBox& box, std::string_view text) = 0;
     virtual void Press(toolkit::Control& button) = 0;
+    // The same while another form is the active one.
+    virtual void PressFromOutside(toolkit::Control& button) = 0;
     // Two presses, as fast as those of a double click.
     virtual void PressTwice(toolkit::Control& button) = 0;
     // The control with the focus gets it, when its form leaves it to that.

@@ -110,6 +110,27 @@ class Win32Driver : public Win32Sight {
         Click(window, Middle(inside));
         Settle();
     }
+    // The system asks the window under the pointer and activates the form before it hands over the
+    // press; what the form posts to itself comes before the release.
+    void PressFromOutside(Control& button) override {
+        const HWND window = HandleOf(button);
+        if (!CanReach(window))
+            return;
+        const HWND form = GetAncestor(window, GA_ROOT);
+        RECT inside = {};
+        GetClientRect(window, &inside);
+        Ask(window, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(form),
+            MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN));
+        SetActiveWindow(form);
+        {
+            const Held held({VK_LBUTTON});
+            Ask(window, WM_LBUTTONDOWN, MK_LBUTTON, At(Middle(inside)));
+            Settle();
+        }
+        if (IsWindow(window))
+            Ask(window, WM_LBUTTONUP, 0, At(Middle(inside)));
+        Settle();
+    }
     void PressTwice(Control& button) override {
         const HWND window = HandleOf(button);
         Press(button);

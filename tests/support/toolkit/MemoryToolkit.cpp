@@ -216,8 +216,8 @@ void MemoryToolkit::ResizeByUser(Form& form, const Rect& outer) {
     });
 }
 
-void MemoryToolkit::ActivateByUser(Form& form) {
-    AsTheMessageLoop([&] { form.SystemActivated(); });
+void MemoryToolkit::ActivateByUser(Form& form, bool byClickOnControl) {
+    AsTheMessageLoop([&] { form.SystemActivated(byClickOnControl); });
 }
 
 void MemoryToolkit::DragColumn(const ListView& list, int column, Twips width) {

@@ -129,7 +129,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     void PressIn(toolkit::Form& form, toolkit::Control& control, int key,
                  toolkit::Modifiers modifiers = {});
     void ResizeByUser(toolkit::Form& form, const toolkit::Rect& outer);
-    void ActivateByUser(toolkit::Form& form);
+    // By a click on one of its controls, or by any other means.
+    void ActivateByUser(toolkit::Form& form, bool byClickOnControl = false);
     void AsTheMessageLoop(const std::function<void()>& work);
     static void DragColumn(const toolkit::ListView& list, int column, toolkit::Twips width);
     static void MoveColumn(const toolkit::ListView& list, int column, int position);

@@ -140,6 +140,23 @@ TEST_F(FindDialog, SearchFindShowsItWithItsTextSelected) {
     EXPECT_TRUE(cmdClearList.Enabled());
 }
 
+TEST_F(FindDialog, WhoComesBackToItFindsTheTextReady) {
+    Show();
+    cmdCancel.SetFocus();
+    tools.ActivateByUser(dialog);
+    EXPECT_EQ(tools.focus, &cboFindWhat);
+}
+
+TEST_F(FindDialog, AClickThatActivatesItLeavesTheFocusToTheControl) {
+    Type("copy");
+    FindNext();
+    cmdClearList.SetEnabled(false);
+    cmdFindNext.SetFocus();
+    tools.ActivateByUser(dialog, true);
+    EXPECT_EQ(tools.focus, &cmdFindNext);
+    EXPECT_TRUE(cmdClearList.Enabled());
+}
+
 TEST_F(FindDialog, WithAllDatesShownTheSelectedDateIsClearedAndDisabled) {
     ShowDay(1);
     chkSelectedDate.UserToggled();
