@@ -46,8 +46,9 @@ std::int32_t EntrySearch::FindString(std::string_view strString, std::int32_t ln
             searchPosition_ = kNotFound;
             return kNotFound;
         }
-        if (searchPosition_ == kNotFound)
-            start = days_.FirstEntryOf(day);
+        const std::int32_t first = days_.FirstEntryOf(day);
+        // The last search may have stopped before the day, when another one was chosen since.
+        start = searchPosition_ == kNotFound ? first : std::max(start, first);
         end = std::min(days_.FirstEntryOf(day + 1) - 1, last);
     }
     searchPosition_ = start;

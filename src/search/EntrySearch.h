@@ -54,9 +54,10 @@ class EntrySearch {
     // after it, where the next search begins, or kNotFound: a search does not go back to the first
     // entry.
     //
-    // With lngSelectedDate 1 the search ends with the selected day. It begins with that day's first
-    // entry only after a search that has failed (or before any); otherwise with lngStartItem, even
-    // when another day has been chosen meanwhile. A day that the log does not have (any more) holds
+    // With lngSelectedDate 1 the search stays within the selected day. After a search that has
+    // failed (or before any) it begins with that day's first entry; otherwise with lngStartItem,
+    // which can lie behind the whole day when another one has been chosen meanwhile, and from which
+    // entries before the day are passed over. A day that the log does not have (any more) holds
     // nothing: kNotFound.
     std::int32_t FindString(std::string_view strString, std::int32_t lngStartItem,
                             std::int32_t lngColumnNo, std::int32_t lngWholeWord,

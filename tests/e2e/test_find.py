@@ -201,6 +201,33 @@ def test_the_selected_date_only(show):
     assert found(app) == ("01.03.2024", 0)
 
 
+def test_hits_outside_the_selected_date_are_passed_over(show):
+    app = show(LOG)
+    app.main.dates.choose("01.03.2024")
+    dialog = open_find(app)
+    dialog.search("c:\\")
+    assert found(app) == ("01.03.2024", 0)
+    app.main.dates.choose("03.03.2024")
+    dialog.button("Selected date only").click()
+    for row in (0, 1):
+        dialog.button("Find Next").click()
+        assert found(app) == ("03.03.2024", row)
+    dialog.button("Find Next").click()
+    cannot_find(app, "c:\\")
+    # All dates take the restriction away while the dialog is open, and a day lets it be chosen.
+    app.main.dates.choose("All dates")
+    box = dialog.button("Selected date only")
+    assert (box.checked, box.enabled) == (False, False)
+    dialog.button("Find Next").click()
+    assert found(app) == ("All dates", 0)
+    app.main.dates.choose("02.03.2024")
+    assert (box.checked, box.enabled) == (False, True)
+    # An item of the list begins the search again, though its text is the same.
+    dialog.what.choose("c:\\")
+    dialog.button("Find Next").click()
+    assert found(app) == ("01.03.2024", 0)
+
+
 def test_there_is_no_selected_date_while_all_are_shown(show):
     app = show(LOG)
     dialog = open_find(app)

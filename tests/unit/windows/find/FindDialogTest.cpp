@@ -1,42 +1,12 @@
 // The find dialog.
 #include "support/settings/DesignIds.h"
-#include "support/windows/FindWindow.h"
+#include "unit/windows/find/FindDialogFixture.h"
 
 namespace ordalyn::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class FindDialog : public FindWindow {
-  protected:
-    FindDialog() {
-        Load({
-            "01.03.2024 10:15:30: Copy C:\\a.txt -> D:\\a.txt",   // 0
-            "01.03.2024 10:15:31: Move C:\\b.txt -> E:\\copies",  // 1
-            "02.03.2024 10:15:32: Copy C:\\c.txt -> D:\\c.txt",   // 2
-            "02.03.2024 10:15:33: Delete C:\\Copy\\d.txt",        // 3
-        });
-        ShowDay(0);
-    }
-    void Show() {
-        main.Menu("mnuSearchFind").Choose();
-        tools.DoLaterWork();
-    }
-    void Type(std::string_view text) { cboFindWhat.UserEdited(text); }
-    void FindNext() { cmdFindNext.UserClicked(); }
-    std::vector<std::string> History() const { return MemoryToolkit::Of(cboFindWhat).items; }
-
-    frmSearchFor& dialog = commands.FindDialog();
-    toolkit::ComboBox& cboFindWhat = dialog.Get<toolkit::ComboBox>("cboFindWhat");
-    toolkit::OptionButton& optSource = dialog.Get<toolkit::OptionButton>("optColumn", 0);
-    toolkit::OptionButton& optTarget = dialog.Get<toolkit::OptionButton>("optColumn", 1);
-    toolkit::CheckBox& chkWholeWord = dialog.Get<toolkit::CheckBox>("chkWholeWord");
-    toolkit::CheckBox& chkSelectedDate = dialog.Get<toolkit::CheckBox>("chkSelectedDate");
-    toolkit::CommandButton& cmdFindNext = dialog.Get<toolkit::CommandButton>("cmdFindNext");
-    toolkit::CommandButton& cmdCancel = dialog.Get<toolkit::CommandButton>("cmdCancel");
-    toolkit::CommandButton& cmdClearList = dialog.Get<toolkit::CommandButton>("cmdClearList");
-};
 
 // A dialog that finds the settings file as the test has left it.
 class FindDialogStart : public FindWindow {
@@ -157,29 +127,6 @@ TEST_F(FindDialog, AClickThatActivatesItLeavesTheFocusToTheControl) {
     EXPECT_TRUE(cmdClearList.Enabled());
 }
 
-TEST_F(FindDialog, WithAllDatesShownTheSelectedDateIsClearedAndDisabled) {
-    ShowDay(1);
-    chkSelectedDate.UserToggled();
-    ShowDay(0);
-    EXPECT_FALSE(chkSelectedDate.Checked());
-    EXPECT_FALSE(chkSelectedDate.Enabled());
-    Show();
-    EXPECT_FALSE(chkSelectedDate.Checked());
-    EXPECT_FALSE(chkSelectedDate.Enabled());
-}
-
-TEST_F(FindDialog, WithADayShownTheSelectedDateIsEnabledAndKept) {
-    ShowDay(1);
-    EXPECT_TRUE(chkSelectedDate.Enabled());
-    chkSelectedDate.UserToggled();
-    chkSelectedDate.SetEnabled(false);
-    Show();
-    EXPECT_TRUE(chkSelectedDate.Enabled());
-    EXPECT_TRUE(chkSelectedDate.Checked());
-    ShowDay(2);
-    EXPECT_TRUE(chkSelectedDate.Checked());
-}
-
 TEST_F(FindDialog, CancelEscapeAndTheCloseBoxHideIt) {
     Show();
     cmdCancel.UserClicked();
@@ -211,6 +158,17 @@ TEST_F(FindDialog, AnItemOfTheHistoryIsATextToo) {
     cboFindWhat.UserSelected(0);
     EXPECT_TRUE(cmdFindNext.Enabled());
     EXPECT_TRUE(mnuSearchFindNext.Enabled());
+    FindNext();
+    EXPECT_EQ(SelectedEntry(), 0);
+}
+
+TEST_F(FindDialog, AnItemOfTheHistoryBeginsWithTheFirstEntryAgain) {
+    Type("copy");
+    FindNext();
+    FindNext();
+    EXPECT_EQ(SelectedEntry(), 2);
+    cboFindWhat.UserSelected(0);
+    EXPECT_EQ(commands.Search().StartItem(), 0);
     FindNext();
     EXPECT_EQ(SelectedEntry(), 0);
 }
@@ -328,37 +286,6 @@ TEST_F(FindDialog, SearchesWholeWordsWhenAsked) {
     EXPECT_EQ(SelectedEntry(), 2);
     FindNext();  // not the one in the path
     EXPECT_EQ(tools.messages.size(), 1U);
-}
-
-TEST_F(FindDialog, StaysWithinTheSelectedDate) {
-    ShowDay(2);
-    chkSelectedDate.UserToggled();
-    Type("copy");
-    FindNext();
-    EXPECT_EQ(SelectedEntry(), 2);
-    FindNext();
-    EXPECT_EQ(SelectedEntry(), 3);
-    FindNext();
-    EXPECT_EQ(tools.messages.size(), 1U);
-    EXPECT_EQ(cboDate.ListIndex(), 2);
-    FindNext();
-    EXPECT_EQ(SelectedEntry(), 2);
-}
-
-TEST_F(FindDialog, AnotherDayChosenAfterAMatchBeginsWhereTheLastSearchEnded) {
-    ShowDay(1);
-    chkSelectedDate.UserToggled();
-    Type("copy");
-    FindNext();
-    EXPECT_EQ(SelectedEntry(), 0);
-    ShowDay(2);
-    FindNext();
-    EXPECT_EQ(SelectedEntry(), 2);
-    ShowDay(1);
-    FindNext();  // begins with entry 3, behind the day
-    EXPECT_EQ(tools.messages.size(), 1U);
-    FindNext();
-    EXPECT_EQ(SelectedEntry(), 0);
 }
 
 TEST_F(FindDialog, PassesOverRowsThatTheFilterRemoved) {
