@@ -60,9 +60,11 @@ std::optional<Registry::Value> Win32Registry::Query(std::uint32_t root, std::str
 
 bool Win32Registry::Set(std::uint32_t root, std::string_view subKey, std::string_view name,
                         const Value& value) {
+    // Flushing asks for the right to query.
+    constexpr REGSAM kAccess = KEY_SET_VALUE | KEY_QUERY_VALUE;
     HKEY created = nullptr;
-    if (RegCreateKeyExW(RootKey(root), ToWide(subKey).c_str(), 0, nullptr, 0, KEY_SET_VALUE,
-                        nullptr, &created, nullptr) != ERROR_SUCCESS)
+    if (RegCreateKeyExW(RootKey(root), ToWide(subKey).c_str(), 0, nullptr, 0, kAccess, nullptr,
+                        &created, nullptr) != ERROR_SUCCESS)
         return false;
     const KeyHandle key(created);
     std::wstring text = IsText(value.type) ? ToWide(value.data) : std::wstring();
