@@ -65,9 +65,32 @@ std::string mAppCommon::ExpandPath(std::string_view path) const {
     if (StartsWithIgnoreCase(path, kProgramPrefix))
         return programFolder_ + std::string(Behind(kProgramPrefix, path));
     std::string expanded(path);
-    Attempt([&] { expanded = environment_.Expand(path); });
+    Attempt([&] { expanded = ExpandVariables(path); });
     std::erase(expanded, '\0');
     return expanded;
+}
+
+// The system expands what stands between the folders; it takes the percent signs in pairs, too,
+// from the left.
+std::string mAppCommon::ExpandVariables(std::string_view path) const {
+    std::string expanded;
+    std::size_t behindFolder = 0;
+    std::size_t open = path.find('%');
+    while (open != std::string_view::npos) {
+        const std::size_t close = path.find('%', open + 1);
+        if (close == std::string_view::npos)
+            break;
+        const std::string_view name = path.substr(open + 1, close - open - 1);
+        const std::string folder =
+            name.starts_with('$') ? environment_.SpecialFolder(name.substr(1)) : std::string();
+        if (!folder.empty()) {
+            expanded += environment_.Expand(path.substr(behindFolder, open - behindFolder));
+            expanded += folder;
+            behindFolder = close + 1;
+        }
+        open = path.find('%', close + 1);
+    }
+    return expanded + environment_.Expand(path.substr(behindFolder));
 }
 
 std::string mAppCommon::UnExpandPath(std::string_view path) const {

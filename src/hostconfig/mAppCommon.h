@@ -53,7 +53,8 @@ class mAppCommon {
 
     // The real path behind a stored one: a leading "velmordane:\" (in any letter case) becomes the
     // program folder; in any other path defined environment variables are replaced and undefined
-    // ones stay as written. A path with the prefix keeps its percent signs.
+    // ones stay as written. So are the file manager's own variables, the names of the system's
+    // folders behind a "$": "%$APPDATA%". A path with the prefix keeps its percent signs.
     std::string ExpandPath(std::string_view path) const;
     // The form in which a path is stored. The program folder is looked for first, so a program
     // inside the file manager's folder gets its own prefix.
@@ -67,6 +68,8 @@ class mAppCommon {
     static std::string FolderPart(std::string_view path);
 
   private:
+    std::string ExpandVariables(std::string_view path) const;
+
     platform::Environment& environment_;
     platform::Files& files_;
     std::string programFolder_;

@@ -95,6 +95,9 @@ class Environment {
     // For this process, and for those that it starts from now on. An empty value removes the
     // variable.
     virtual void SetVariable(std::string_view name, std::string_view value) = 0;
+    // The folder that the system calls so, without a backslash at its end: PERSONAL, APPDATA,
+    // LOCAL_APPDATA, COMMON_APPDATA, DESKTOP, ... in any letter case. Empty when there is none.
+    virtual std::string SpecialFolder(std::string_view name) = 0;
     // What stands on the command line behind the program's own name, as written, blanks at its ends
     // removed.
     virtual std::string CommandLine() = 0;

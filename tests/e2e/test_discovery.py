@@ -356,6 +356,20 @@ def test_which_sections_stay_is_a_setting(folder):
     assert common(folder)["TCSectionsNotRedirectedByDefault"] == own
 
 
+def test_the_file_manager_s_own_variables_name_the_system_s_folders(folder, wine):
+    install(folder, "main", "RedirectSection=%$APPDATA%\\e2e-own.ini")
+    log = folder.write("own.log", [line("own")])
+    users = wine.windows_folder.parent / "users"
+    own = next(users.glob("*/AppData/Roaming")) / "e2e-own.ini"
+    own.write_text(f"[Configuration]\r\nLogFile={windows_path(log)}\r\n")
+    try:
+        app = folder.start(env={"Commander_Path": folder.windows("main"),
+                                "Commander_INI": folder.windows("main", "wincmd.ini")})
+        shows(app, "own")
+    finally:
+        own.unlink()
+
+
 @pytest.mark.parametrize("there, shown", [(("current", "temp", "tmp"), "current"),
                                           (("temp", "tmp"), "temp"), (("tmp",), "tmp")],
                          ids=["current", "temp", "tmp"])

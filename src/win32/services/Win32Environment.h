@@ -10,6 +10,7 @@ class Win32Environment : public platform::Environment {
     std::string Expand(std::string_view text) override;
     std::string Variable(std::string_view name) override;
     void SetVariable(std::string_view name, std::string_view value) override;
+    std::string SpecialFolder(std::string_view name) override;
     std::string CommandLine() override;
     std::string ProgramPath() override;
     platform::LocalTime Now() override;

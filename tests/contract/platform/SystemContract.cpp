@@ -53,6 +53,19 @@ TEST_P(SystemContract, DefinedVariablesAreExpandedAndTheRestStaysAsWritten) {
     EXPECT_EQ(Environment().Expand(""), "");
 }
 
+TEST_P(SystemContract, TheSystemsFoldersAreKnownByNameInAnyLetterCase) {
+    for (const char* name : {"PERSONAL", "APPDATA", "LOCAL_APPDATA", "COMMON_APPDATA", "DESKTOP"}) {
+        const std::string folder = Environment().SpecialFolder(name);
+        ASSERT_GT(folder.size(), 3U) << name;
+        EXPECT_EQ(folder.substr(1, 2), ":\\") << name;
+        EXPECT_NE(folder.back(), '\\') << name;
+        EXPECT_EQ(Environment().SpecialFolder(FoldCase(name)), folder) << name;
+    }
+    EXPECT_NE(Environment().SpecialFolder("APPDATA"), Environment().SpecialFolder("LOCAL_APPDATA"));
+    for (const char* none : {"", "NOTHING", "$APPDATA", "APPDATA "})
+        EXPECT_EQ(Environment().SpecialFolder(none), "") << none;
+}
+
 TEST_P(SystemContract, ExpandedTextIsNotExpandedAgain) {
     System().SetVariable("Ordalyn_Path", "%Ordalyn_Other%");
     System().SetVariable("Ordalyn_Other", "x");

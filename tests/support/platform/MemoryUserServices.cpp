@@ -40,6 +40,13 @@ std::string MemoryEnvironment::Variable(std::string_view name) {
     return found == variables_.end() ? "" : found->second;
 }
 
+std::string MemoryEnvironment::SpecialFolder(std::string_view name) {
+    const auto found =
+        std::find_if(specialFolders.begin(), specialFolders.end(),
+                     [&](const auto& folder) { return EqualsIgnoreCase(folder.first, name); });
+    return found == specialFolders.end() ? "" : found->second;
+}
+
 std::string MemoryEnvironment::CommandLine() {
     return std::string(TrimBlanks(commandLine));
 }

@@ -16,12 +16,20 @@ class MemoryEnvironment : public platform::Environment {
     std::string commandLine;  // as written behind the program's name
     std::string programPath = "C:\\Ordalyn\\Ordalyn.exe";
     platform::LocalTime now = {2026, 11, 16, 0, 5, 3};
+    // By their names in upper case.
+    std::map<std::string, std::string> specialFolders = {
+        {"PERSONAL", "C:\\Users\\me\\Documents"},
+        {"APPDATA", "C:\\Users\\me\\AppData\\Roaming"},
+        {"LOCAL_APPDATA", "C:\\Users\\me\\AppData\\Local"},
+        {"COMMON_APPDATA", "C:\\ProgramData"},
+        {"DESKTOP", "C:\\Users\\me\\Desktop"}};
 
     void RemoveVariable(std::string_view name);
 
     std::string Expand(std::string_view text) override;
     std::string Variable(std::string_view name) override;
     void SetVariable(std::string_view name, std::string_view value) override;
+    std::string SpecialFolder(std::string_view name) override;
     std::string CommandLine() override;
     std::string ProgramPath() override { return programPath; }
     platform::LocalTime Now() override { return now; }

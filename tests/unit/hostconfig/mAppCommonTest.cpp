@@ -96,6 +96,29 @@ TEST_F(PathHelpers, DefinedVariablesAreReplacedAndUndefinedOnesStay) {
     EXPECT_EQ(common.ExpandPath("C:\\100%.log"), "C:\\100%.log");
 }
 
+TEST_F(PathHelpers, TheFileManagersOwnVariablesAreTheSystemsFolders) {
+    system.environment.SetVariable("Sub", "logs");
+    system.environment.SetVariable("TEMP", "C:\\Temp");
+    const mAppCommon common(system.services);
+    EXPECT_EQ(common.ExpandPath("%$PERSONAL%\\tc.log"), "C:\\Users\\me\\Documents\\tc.log");
+    EXPECT_EQ(common.ExpandPath("%$local_AppData%\\%SUB%\\tc.log"),
+              "C:\\Users\\me\\AppData\\Local\\logs\\tc.log");
+    EXPECT_EQ(common.ExpandPath("%Sub%;%$COMMON_APPDATA%;%$DESKTOP%;%Sub%"),
+              "logs;C:\\ProgramData;C:\\Users\\me\\Desktop;logs");
+    EXPECT_EQ(common.ExpandPath("%$NOTHING%\\%$%\\x"), "%$NOTHING%\\%$%\\x");
+    // Percent signs belong together from the left.
+    EXPECT_EQ(common.ExpandPath("%TEMP%$PERSONAL%"), "C:\\Temp$PERSONAL%");
+    EXPECT_EQ(common.ExpandPath("%PERSONAL%"), "%PERSONAL%");
+    EXPECT_EQ(common.ExpandPath("%$PERSONAL"), "%$PERSONAL");
+}
+
+TEST_F(PathHelpers, WhatIsInAFoldersNameIsNotExpandedAgain) {
+    system.environment.SetVariable("Sub", "logs");
+    system.environment.specialFolders["PERSONAL"] = "C:\\%Sub%";
+    const mAppCommon common(system.services);
+    EXPECT_EQ(common.ExpandPath("%$PERSONAL%\\%Sub%"), "C:\\%Sub%\\logs");
+}
+
 TEST_F(PathHelpers, ExpansionRemovesEveryNul) {
     const mAppCommon common(system.services);
     EXPECT_EQ(common.ExpandPath(std::string("\0C:\\a\0b\0", 7)), "C:\\ab");
