@@ -122,6 +122,13 @@ void ComboBox::UserSelected(int index) {
     Click.Raise();
 }
 
+void ComboBox::UserEnteredList(int index) {
+    if (index < 0)
+        KeyDown.Raise(key::Enter, {});
+    else if (index != listIndex_)
+        UserSelected(index);  // otherwise that was reported when it was marked
+}
+
 void ComboBox::UserEdited(std::string_view text) {
     listIndex_ = -1;
     if (text == text_)

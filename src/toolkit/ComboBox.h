@@ -47,6 +47,9 @@ class ComboBox : public Control {
 
     // For the peer.
     void UserSelected(int index);
+    // Enter has closed the open list of an editable box on this item, which is chosen by that; with
+    // none marked (-1) the key is the typed text's, and the box's KeyDown reports it.
+    void UserEnteredList(int index);
     void UserEdited(std::string_view text);
 
   private:

@@ -133,6 +133,31 @@ def test_a_word_can_be_chosen_by_keyboard(app):
     assert sources(app) == [r"Move C:\Copy of b.txt"]
 
 
+@pytest.mark.parametrize("keys", [["Enter"], ["Down", "Enter"]])
+def test_enter_in_the_open_list_takes_its_item_and_applies_it(app, keys):
+    dialog = open_filter(app)
+    for text in ("copy", "move"):
+        dialog.enter(text)
+    assert dialog.filter.items == ["move", "copy"]
+    # What is typed marks the item that it begins; opening the list shows it.
+    dialog.filter.type("mo")
+    app.keys("Alt+Down", *keys)
+    expected = "copy" if "Down" in keys else "move"
+    assert dialog.filter.value == expected
+    assert app.main.status[2] == f"Filter: {expected}  "
+    assert app.main.source.row_count == (4 if expected == "copy" else 1)
+    assert dialog.visible
+
+
+def test_enter_in_the_open_list_without_an_item_applies_what_was_typed(app):
+    dialog = open_filter(app)
+    dialog.enter("copy")
+    dialog.filter.type("pack")
+    app.keys("Alt+Down", "Enter")
+    assert dialog.filter.value == "pack"
+    assert sources(app) == [r"Pack C:\f.txt"]
+
+
 def test_an_outcome_word_is_looked_for_everywhere(folder):
     folder.write_settings(Ordalyn={"LoggingID": "1901,-, 1803,1802"})
     app = folder.show(FIRST_DAY)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "win32/common/DeviceContext.h"
 #include "win32/common/WideText.h"
@@ -195,6 +196,12 @@ void ComboBoxWindow::OnCommand(int code, int) {
         case CBN_DROPDOWN:
             WidenList();
             break;
+        case CBN_SELENDOK:
+            closedByEnter_ = GetKeyState(VK_RETURN) < 0;
+            break;
+        case CBN_SELENDCANCEL:
+            closedByEnter_ = false;
+            break;
         case CBN_CLOSEUP:
             // The choice itself is reported after this.
             PostMessageW(handle(), kListClosed, 0, 0);
@@ -229,12 +236,17 @@ void ComboBoxWindow::WidenList() {
 // Opening a list selects the item that fits the typed text, and closing it without a choice keeps
 // whatever was highlighted; no notification reports either.
 void ComboBoxWindow::ReportWhatIsShown() {
+    const bool byEnter = std::exchange(closedByEnter_, false);
     if (handle() == nullptr || changingByCode_ || IsDroppedDown())
         return;
     const int selected = SelectedIndex();
     if (!editable_) {
         if (selected != box_.ListIndex() && selected >= 0 && selected < box_.ListCount())
             box_.UserSelected(selected);
+        return;
+    }
+    if (byEnter && selected < box_.ListCount()) {
+        box_.UserEnteredList(selected);
         return;
     }
     const std::string text = TextOf(handle());

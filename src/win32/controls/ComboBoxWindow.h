@@ -46,6 +46,7 @@ class ComboBoxWindow : public Peer<toolkit::ComboBoxPeer> {
     toolkit::ComboBox& box_;
     bool editable_;
     bool flat_ = false;
+    bool closedByEnter_ = false;   // the list; until that is reported
     bool changingByCode_ = false;  // what the control reports then is no user's doing
 };
 

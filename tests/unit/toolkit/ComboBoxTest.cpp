@@ -242,6 +242,22 @@ TEST_F(ComboBoxTest, RemovingTheSelectedItemKeepsTheTextOfAnEditableBox) {
     EXPECT_EQ(editChange.Take(), 0);
 }
 
+TEST_F(ComboBoxTest, EnterInTheOpenListChoosesItsItemOnce) {
+    int enters = 0;
+    edit.KeyDown.Subscribe([&](int key, Modifiers) { enters += key == key::Enter ? 1 : 0; });
+    edit.SetText("x");
+    editClick.Take();
+    edit.UserEnteredList(1);
+    EXPECT_EQ(edit.Text(), "Beta");
+    EXPECT_EQ(edit.ListIndex(), 1);
+    EXPECT_EQ(editClick.Take(), 1);
+    edit.UserEnteredList(1);  // reported when it was marked
+    EXPECT_EQ(editClick.Take(), 0);
+    EXPECT_EQ(enters, 0);
+    edit.UserEnteredList(-1);
+    EXPECT_EQ(enters, 1);
+}
+
 TEST_F(ComboBoxTest, PartOfTheTextCanBeSelected) {
     edit.SetText("abc");
     edit.SelectText(1, 2);

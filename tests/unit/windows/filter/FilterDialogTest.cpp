@@ -244,6 +244,25 @@ TEST_F(FilterDialog, AnItemOfTheHistoryAppliesAndIsNotAddedAgain) {
     EXPECT_EQ(Stored("Filter1"), "delete");
 }
 
+TEST_F(FilterDialog, EnterInTheOpenListTakesItsItemAndAppliesIt) {
+    Filter("copy");
+    Filter("delete");
+    cboFilter.UserEdited("co");
+    cboFilter.UserEnteredList(1);
+    EXPECT_EQ(cboFilter.Text(), "copy");
+    EXPECT_EQ(filter.FilterText, "copy");
+    EXPECT_THAT(Rows(), ElementsAre(0, 1, 2));
+    EXPECT_THAT(History(), ElementsAre("delete", "copy"));
+}
+
+TEST_F(FilterDialog, EnterInTheOpenListWithoutAnItemAppliesTheTypedText) {
+    cboFilter.UserEdited("failed");
+    cboFilter.UserEnteredList(-1);
+    EXPECT_EQ(filter.FilterText, "failed");
+    EXPECT_THAT(Rows(), ElementsAre(2, 3));
+    EXPECT_THAT(History(), ElementsAre("failed"));
+}
+
 TEST_F(FilterDialog, TheFirstButtonIsLikeEnter) {
     cboFilter.UserEdited("delete");
     Toolbar1.UserClickedButton(0);
