@@ -17,6 +17,8 @@ namespace {
 constexpr std::string_view kSeparator = "-";
 constexpr std::string_view kKeyPrefix = "k";
 constexpr int kFirstOutcome = 1900;
+constexpr std::string_view kOperationIDs =
+    "1800,1801,1802,1803,1804,1805,1806,1807,1808,1809,1810,1811";
 
 // "/" stands for a double quote.
 constexpr std::string_view kEnglishWords =
@@ -84,6 +86,41 @@ std::optional<OperationWord> ItemOf(std::string_view element, std::string_view p
     return OperationWord{std::string(kKeyPrefix).append(*key), std::string(*word)};
 }
 
+std::string EnglishKeywords() {
+    return ReplaceIgnoreCase(kEnglishWords, "/", "\"");
+}
+
+// The keyword text of the lines whose keys are in the list of ids, in the order of the lines.
+std::string CollectKeywords(const std::vector<std::string>& lines, std::string_view ids) {
+    const std::vector<std::string> elements = Split(ids, ',');
+    std::string keywords;
+    for (const std::string& line : lines) {
+        const std::optional<std::string_view> key = KeyOf(line);
+        for (const std::string& element : elements) {
+            if (key && EqualsIgnoreCase(element, *key))
+                keywords.append(",").append(line);
+        }
+    }
+    return keywords;
+}
+
+// The items of a keyword text for the list of ids, in its order.
+std::vector<OperationWord> ItemsFor(std::string_view ids, std::string_view keywords) {
+    const std::vector<std::string> pieces = Split(WithoutFirstCharacter(keywords), ',');
+    std::vector<OperationWord> items;
+    for (const std::string& element : Split(ids, ',')) {
+        if (element == kSeparator) {
+            items.push_back({"", std::string(kSeparator)});
+            continue;
+        }
+        for (const std::string& piece : pieces) {
+            if (std::optional<OperationWord> item = ItemOf(element, piece))
+                items.push_back(*std::move(item));
+        }
+    }
+    return items;
+}
+
 }  // namespace
 
 bool OperationWords::IsOperation(std::string_view key) {
@@ -106,6 +143,7 @@ std::string OperationWords::ReadLoggingID() {
 
 std::vector<OperationWord> OperationWords::LoadOperationKeywords() {
     loggingID_ = ReadLoggingID();
+    operations_.clear();
     const mAppCommon& common = around_.common;
     const std::string languageIni = common.ExpandPath(
         around_.profile
@@ -119,48 +157,43 @@ std::vector<OperationWord> OperationWords::LoadOperationKeywords() {
     const std::string languageFile = common.CommanderFolder() + "Language\\" + languageIni;
     if (!common.FileExists(languageFile))
         return LoadDefaultKeywords();
-    std::string keywords;
-    if (!Attempt([&] { keywords = CollectKeywords(languageFile); }))
+    std::vector<std::string> lines;
+    if (!Attempt([&] { lines = KeywordLines(languageFile); }))
         return {};  // what was read so far does not count
-    return keywords.empty() ? LoadDefaultKeywords() : ItemsOf(keywords);
+    const std::string keywords = CollectKeywords(lines, loggingID_);
+    if (keywords.empty())
+        return LoadDefaultKeywords();
+    operations_ = CollectKeywords(lines, kOperationIDs);
+    return ItemsOf(keywords);
 }
 
-std::string OperationWords::CollectKeywords(std::string_view languageFile) const {
-    const std::vector<std::string> elements = Split(loggingID_, ',');
-    std::string keywords;
+// The trimmed lines of the file that have a key.
+std::vector<std::string> OperationWords::KeywordLines(std::string_view languageFile) const {
+    std::vector<std::string> found;
     LineReader lines(OpenLanguageFile(around_.files, around_.codePages, languageFile),
                      around_.codePages);
     while (const std::optional<std::string_view> line = lines.Next()) {
         const std::string_view trimmed = TrimBlanks(*line);
-        const std::optional<std::string_view> key = KeyOf(trimmed);
-        if (!key)
-            continue;
-        for (const std::string& element : elements) {
-            if (EqualsIgnoreCase(element, *key))
-                keywords.append(",").append(trimmed);
-        }
+        if (KeyOf(trimmed))
+            found.emplace_back(trimmed);
     }
-    return keywords;
+    return found;
 }
 
 std::vector<OperationWord> OperationWords::LoadDefaultKeywords() const {
-    return ItemsOf(ReplaceIgnoreCase(kEnglishWords, "/", "\""));
+    return ItemsOf(EnglishKeywords());
+}
+
+std::vector<std::string> OperationWords::Operations() const {
+    std::vector<std::string> words;
+    for (OperationWord& item :
+         ItemsFor(kOperationIDs, operations_.empty() ? EnglishKeywords() : operations_))
+        words.push_back(std::move(item.text));
+    return words;
 }
 
 std::vector<OperationWord> OperationWords::ItemsOf(std::string_view strKeywords) const {
-    const std::vector<std::string> pieces = Split(WithoutFirstCharacter(strKeywords), ',');
-    std::vector<OperationWord> items;
-    for (const std::string& element : Split(loggingID_, ',')) {
-        if (element == kSeparator) {
-            items.push_back({"", std::string(kSeparator)});
-            continue;
-        }
-        for (const std::string& piece : pieces) {
-            if (std::optional<OperationWord> item = ItemOf(element, piece))
-                items.push_back(*std::move(item));
-        }
-    }
-    return items;
+    return ItemsFor(loggingID_, strKeywords);
 }
 
 }  // namespace ordalyn

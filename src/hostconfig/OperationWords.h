@@ -50,6 +50,9 @@ class OperationWords {
     std::vector<OperationWord> LoadOperationKeywords();
     // The items for the English words.
     std::vector<OperationWord> LoadDefaultKeywords() const;
+    // The words of all operations, in the language of those that were loaded last (English before
+    // that), whether LoggingID has them or not. A language file need not have all of them.
+    std::vector<std::string> Operations() const;
     // The items for a keyword text, in the order of LoggingID. A word that the text or LoggingID
     // holds more than once comes more than once, under the same key. Words are cut out by position:
     // one without quotes comes with its id and without its last character, one with a comma ends a
@@ -61,10 +64,11 @@ class OperationWords {
 
   private:
     std::string ReadLoggingID();
-    std::string CollectKeywords(std::string_view languageFile) const;
+    std::vector<std::string> KeywordLines(std::string_view languageFile) const;
 
     Surroundings around_;
     std::string loggingID_{kDefaultLoggingID};
+    std::string operations_;  // the keyword text of all operations; empty: the English ones
 };
 
 }  // namespace ordalyn

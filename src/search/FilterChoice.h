@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace ordalyn {
 
@@ -12,6 +13,10 @@ struct FilterChoice {
     std::string FilterText;
     bool target = false;  // otherwise the source is tested
     bool doesNotContain = false;
+    // Set when FilterText asks for an operation and is no piece of text like any other: the
+    // operation's word, and the words of all operations, one of which can begin another.
+    std::string operation = {};
+    std::vector<std::string> operationWords = {};
 };
 
 }  // namespace ordalyn

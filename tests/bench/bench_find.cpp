@@ -78,15 +78,15 @@ void Report(const char* what, std::size_t rows, double milliseconds, double floo
 void MeasureFilter(const char* what, const EntryLists& entries,
                    const std::vector<std::int32_t>& tags, std::string_view bytes,
                    std::string_view text, double target) {
+    FilterChoice choice;
+    choice.FilterText = text;
     double filter = 1e9;
     double floor = 1e9;
     std::size_t rows = 0;
     for (int round = 0; round < kRounds; ++round) {
         floor = std::min(floor, Milliseconds([&] { scanned += Scan(bytes, text); }));
         filter = std::min(
-            filter, Milliseconds([&] {
-                rows = EntriesThatPass(entries, tags, {.boxText = text, .FilterText = text}).size();
-            }));
+            filter, Milliseconds([&] { rows = EntriesThatPass(entries, tags, choice).size(); }));
     }
     Report(what, rows, filter, floor, target);
 }

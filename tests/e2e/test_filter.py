@@ -133,6 +133,19 @@ def test_a_word_can_be_chosen_by_keyboard(app):
     assert sources(app) == [r"Move C:\Copy of b.txt"]
 
 
+def test_a_word_does_not_bring_the_operation_that_begins_with_it(show):
+    app = show([r"01.03.2024 10:15:30: Delete C:\a.txt",
+                r"01.03.2024 10:15:31: DeleteFolder C:\old",
+                r"01.03.2024 10:15:32: DeleteFolder: Delete failed: C:\b"])
+    dialog = open_filter(app)
+    dialog.choose_word("Delete")
+    assert sources(app) == [r"Delete C:\a.txt"]
+    dialog.choose_word("DeleteFolder")
+    assert sources(app) == [r"DeleteFolder C:\old", r"DeleteFolder: Delete failed: C:\b"]
+    dialog.enter("delete")
+    assert app.main.source.row_count == 3
+
+
 @pytest.mark.parametrize("keys", [["Enter"], ["Down", "Enter"]])
 def test_enter_in_the_open_list_takes_its_item_and_applies_it(app, keys):
     dialog = open_filter(app)

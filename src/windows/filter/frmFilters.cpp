@@ -175,6 +175,7 @@ void frmFilters::Arrange() {
 void frmFilters::ApplyTypedText() {
     around_.filter.boxText = cboFilter.Text();
     around_.filter.FilterText = cboFilter.Text();
+    around_.filter.operation.clear();
     Apply();
 }
 
@@ -214,8 +215,10 @@ void frmFilters::ApplyOperation(int item) {
     cboFilter.SetText(chosen.text);
     // An operation stands right behind the clock time and its colon, so that the word in a path is
     // not meant; an outcome can stand anywhere behind that.
-    around_.filter.FilterText =
-        OperationWords::IsOperation(chosen.key) ? ": " + chosen.text : chosen.text;
+    const bool operation = OperationWords::IsOperation(chosen.key);
+    around_.filter.FilterText = operation ? ": " + chosen.text : chosen.text;
+    around_.filter.operation = operation ? chosen.text : "";
+    around_.filter.operationWords = keywords_.Operations();
     cboFilter.SelectText(Utf8ToUtf16(chosen.text).size(), 0);
     Apply();
 }

@@ -297,5 +297,21 @@ TEST_F(Keywords, TellOperationsFromOutcomesByTheirId) {
     EXPECT_FALSE(OperationWords::IsOperation("k1921"));
 }
 
+TEST_F(Keywords, TheOperationsAreAllTwelveWhateverTheMenuOffers) {
+    Put("LoggingID", "1802,1900");
+    Load();
+    EXPECT_THAT(
+        keywords.Operations(),
+        ElementsAre("Program start", "Program shutdown", "Copy", "Move", "Shortcut", "NewFolder",
+                    "Delete", "DeleteFolder", "Pack", "Unpack", "Test", "CreateFile"));
+    UseLanguageFile("1900=\"Fehler:\"\r\n1807=\"Ordner weg\"\r\n1802=\"Kopie\"\r\n1812=\"x\"\r\n");
+    EXPECT_THAT(Load(), ElementsAre("Kopie", "Fehler:"));
+    EXPECT_THAT(keywords.Operations(), ElementsAre("Kopie", "Ordner weg"));
+    // A file with none of the offered words is not used at all.
+    UseLanguageFile("1807=\"Ordner weg\"\r\n");
+    EXPECT_THAT(Load(), ElementsAre("Copy", "Error:"));
+    EXPECT_EQ(keywords.Operations().size(), 12U);
+}
+
 }  // namespace
 }  // namespace ordalyn::test
