@@ -58,7 +58,7 @@ namespace key {
 inline constexpr int Backspace = 8, Tab = 9, Enter = 13, Escape = 27, Space = 32, PageUp = 33,
                      PageDown = 34, End = 35, Home = 36, Left = 37, Up = 38, Right = 39, Down = 40,
                      Insert = 45, Delete = 46, ContextMenu = 93, F1 = 112, F3 = 114, F4 = 115,
-                     F5 = 116, F24 = 135;
+                     F10 = 121, F5 = 116, F24 = 135;
 }  // namespace key
 
 struct Modifiers {

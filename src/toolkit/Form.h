@@ -68,7 +68,9 @@ class Form : public Control {
     Control* DefaultButton() const { return defaultButton_; }
     Control* CancelButton() const { return cancelButton_; }
 
-    void PopUpMenu(MenuItem& item) { peer_->PopUp(item); }
+    // At the mouse pointer, or below a part of the screen.
+    void PopUpMenu(MenuItem& item) { peer_->PopUp(item, nullptr); }
+    void PopUpMenuBelow(MenuItem& item, const Rect& place) { peer_->PopUp(item, &place); }
 
     Event<> Activate;
     // Whether a click on one of its controls made the form the active one the last time. The user

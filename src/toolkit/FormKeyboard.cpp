@@ -64,6 +64,15 @@ bool HasAccessKey(const Control& control, char32_t key) {
     return key != 0 && control.AccessKey() == key && control.CanTakeInput();
 }
 
+// Shift+F10 is the key for the context menu on keyboards that have none. Text fields have a menu of
+// the system's own, and open it themselves.
+bool IsContextMenuKey(const Control* focused, const KeyPress& press) {
+    const auto* const box = dynamic_cast<const ComboBox*>(focused);
+    const bool text =
+        dynamic_cast<const TextBox*>(focused) != nullptr || (box != nullptr && box->Editable());
+    return !text && press.key == key::F10 && press.modifiers == Modifiers{.shift = true};
+}
+
 std::size_t Next(std::size_t at, std::size_t step, std::size_t count, bool forward) {
     return forward ? (at + step) % count : (at + count - step) % count;
 }
@@ -72,6 +81,12 @@ std::size_t Next(std::size_t at, std::size_t step, std::size_t count, bool forwa
 
 bool FormKeyboard::KeyDown(Control* focused, const KeyPress& press) const {
     const Gone gone(form_);
+    // It opens the menu when it goes down, as everywhere: nobody knows which key is let go first.
+    if (IsContextMenuKey(focused, press)) {
+        if (!press.held && !form_.UserKeyDown(key::ContextMenu, {}) && !gone)
+            KeyUp(focused, key::ContextMenu, {});
+        return true;
+    }
     if (form_.UserKeyDown(press.key, press.modifiers) || gone)
         return true;
     if (focused != nullptr && focused->NeedsKey(press.key))

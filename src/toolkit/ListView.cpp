@@ -127,6 +127,11 @@ void ListView::EnsureVisible(int row) {
     peer_->EnsureVisible(row);
 }
 
+Rect ListView::RowOnScreen(int row) const {
+    RequireRow(row);
+    return peer_->RowOnScreen(row);
+}
+
 void ListView::SetGridLines(bool shown) {
     gridLines_ = shown;
     peer_->SetGridLines(shown);

@@ -58,6 +58,7 @@ class ListView : public Control {
     int SelectedRow() const { return selectedRow_; }
     void SelectRow(int row);  // -1 for none
     void EnsureVisible(int row);
+    Rect RowOnScreen(int row) const;  // what can be seen of it
     void SetGridLines(bool shown);
     bool GridLines() const { return gridLines_; }
     void FlattenColumnHeaders() { peer_->FlattenColumnHeaders(); }

@@ -89,6 +89,8 @@ class ListViewPeer : public ControlPeer {
     virtual void UpdateRows(int count) = 0;
     virtual void SelectRow(int row) = 0;  // -1: none
     virtual void EnsureVisible(int row) = 0;
+    // The part of the row that can be seen, from the screen's top left corner.
+    virtual Rect RowOnScreen(int row) = 0;
     virtual void SetGridLines(bool shown) = 0;
     // Headers that do not look like push buttons and cannot be clicked.
     virtual void FlattenColumnHeaders() = 0;
@@ -132,9 +134,10 @@ class MenuPeer {
     // Items were added or removed, or one was shown or hidden: the menus are rebuilt from the tree.
     virtual void RebuildMenus() = 0;
     virtual void UpdateMenuItem(class MenuItem& item) = 0;  // caption, enabled, checked
-    // Shows the item's sub-items at the mouse pointer and waits until one is chosen (its Click has
-    // then been raised) or the menu is dismissed. Messages are handled meanwhile.
-    virtual void PopUp(MenuItem& item) = 0;
+    // Shows the item's sub-items below this part of the screen, or at the mouse pointer without
+    // one, and waits until one is chosen (its Click has then been raised) or the menu is dismissed.
+    // Messages are handled meanwhile.
+    virtual void PopUp(MenuItem& item, const Rect* below) = 0;
 };
 
 class FormPeer : public ControlPeer, public MenuPeer {

@@ -79,7 +79,7 @@ def test_the_context_menu(app):
     app.pop_up().choose("Copy Target")
     assert app.clipboard == r"D:\c.txt"
 
-    # By the keyboard: the menu opens when the key comes up.
+    # By the keyboard, at the selected row: the menu opens when the key comes up.
     app.main.source.click_row(1)
     app.key_down("ContextMenu")
     app.settle()
@@ -93,6 +93,39 @@ def test_the_context_menu(app):
     app.settle()
     assert not app.has_pop_up
     assert app.clipboard == BEFORE
+
+
+@pytest.mark.parametrize("panel", ["source", "target"])
+@pytest.mark.parametrize("key", ["ContextMenu", "Shift+F10"])
+def test_the_menu_by_keyboard_opens_at_the_selected_row(app, key, panel):
+    used = getattr(app.main, panel)
+    used.click_row(2)
+    # The pointer is elsewhere.
+    app.point_at(app.main.rect.right - 30, app.main.rect.bottom - 60)
+    app.keys_without_waiting(key)
+    menu = app.pop_up()
+    row = used.row_rect(2)
+    assert abs(menu.rect.top - row.bottom) <= 4
+    assert used.rect.left - 4 <= menu.rect.left <= used.rect.left + 8
+    menu.choose("Copy Target")
+    assert app.clipboard == r"D:\c.txt"
+    # The key that opened it has opened no other menu.
+    assert not app.agent.ask("focus")["inMenu"]
+    app.keys("Up")
+    assert used.selected == [1]
+
+
+def test_ctrl_c_copies_whichever_key_is_let_go_first(app):
+    for held, expected in ((["Ctrl"], r"Copy C:\c.txt "), (["Ctrl", "Alt"], r"D:\c.txt")):
+        app.main.source.click_row(2)
+        app.clipboard = BEFORE
+        for name in [*held, "C"]:
+            app.key_down(name)
+        app.settle()
+        assert app.clipboard == BEFORE
+        for name in [*held, "C"]:
+            app.key_up(name)
+        assert app.clipboard == expected
 
 
 def hold(app, seconds):

@@ -117,13 +117,17 @@ class App:
     def keys(self, *chords):
         """Presses chords such as "Ctrl+Shift+C", "Down", "a" one after the other."""
         for chord in chords:
-            codes = []
-            for name in re.findall(r"[^+]+|\+$", chord):
-                codes.append(VIRTUAL_KEYS.get(name) or ord(name.upper()))
-            events = [x for code in codes for x in (code, 1)]
-            events += [x for code in reversed(codes) for x in (code, 0)]
-            self.agent.ask("keys", keys=events)
+            self.keys_without_waiting(chord)
         self.settle()
+
+    def keys_without_waiting(self, chord):
+        """For a chord that opens a menu, which keeps the program busy."""
+        codes = []
+        for name in re.findall(r"[^+]+|\+$", chord):
+            codes.append(VIRTUAL_KEYS.get(name) or ord(name.upper()))
+        events = [x for code in codes for x in (code, 1)]
+        events += [x for code in reversed(codes) for x in (code, 0)]
+        self.agent.ask("keys", keys=events)
 
     def key_down(self, name):
         self.agent.ask("keys", keys=[VIRTUAL_KEYS.get(name) or ord(name.upper()), 1])

@@ -212,6 +212,19 @@ void ListViewWindow::EnsureVisible(int row) {
     Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
 
+Rect ListViewWindow::RowOnScreen(int row) {
+    RECT bounds = {};
+    bounds.left = LVIR_BOUNDS;
+    RECT inside = {};
+    RECT seen = {};
+    if (handle() == nullptr || !GetClientRect(handle(), &inside))
+        return {};
+    Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&bounds));
+    IntersectRect(&seen, &bounds, &inside);
+    MapWindowPoints(handle(), nullptr, reinterpret_cast<POINT*>(&seen), 2);
+    return desktop().scale.Twips(seen);
+}
+
 void ListViewWindow::SetGridLines(bool shown) {
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, shown ? LVS_EX_GRIDLINES : 0);
 }

@@ -27,6 +27,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void UpdateRows(int count) override;
     void SelectRow(int row) override;
     void EnsureVisible(int row) override;
+    toolkit::Rect RowOnScreen(int row) override;
     void SetGridLines(bool shown) override;
     void FlattenColumnHeaders() override;
 

@@ -166,15 +166,21 @@ MenuItem* FormMenus::Find(int id) const {
     return found == places_.end() ? nullptr : found->second.item;
 }
 
-MenuItem* FormMenus::PopUp(HWND window, MenuItem& item) const {
+MenuItem* FormMenus::PopUp(HWND window, MenuItem& item, const std::optional<RECT>& below) const {
     Places places;
     const Menu menu(CreatePopupMenu());
     Fill(menu.Get(), item, places);
     POINT at = {};
     GetCursorPos(&at);
+    TPMPARAMS keepClear = {sizeof keepClear, {}};
+    if (below) {
+        keepClear.rcExclude = *below;
+        at = {RightToLeft() ? below->right : below->left, below->bottom};
+    }
     const UINT side = RightToLeft() ? TPM_RIGHTALIGN : TPM_LEFTALIGN;
-    const int id = TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD | TPM_RIGHTBUTTON | side, at.x, at.y,
-                                    window, nullptr);
+    const int id =
+        TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD | TPM_RIGHTBUTTON | TPM_VERTICAL | side, at.x,
+                         at.y, window, below ? &keepClear : nullptr);
     const auto found = places.find(id);
     return found == places.end() ? nullptr : found->second.item;
 }

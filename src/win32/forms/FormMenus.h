@@ -4,6 +4,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,10 @@ class FormMenus {
     void Update(HWND window, toolkit::MenuItem& item);
     // The item that the menu bar knows by this id; null for an id of a menu that is no more.
     toolkit::MenuItem* Find(int id) const;
-    // Shows the sub-items at the mouse and returns the chosen one, or null.
-    toolkit::MenuItem* PopUp(HWND window, toolkit::MenuItem& item) const;
+    // Shows the sub-items below this part of the screen, or at the mouse without one, and returns
+    // the chosen one, or null.
+    toolkit::MenuItem* PopUp(HWND window, toolkit::MenuItem& item,
+                             const std::optional<RECT>& below) const;
 
   private:
     struct Place {

@@ -1,6 +1,7 @@
 #include "win32/forms/FormWindow.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -123,11 +124,14 @@ void FormWindow::RebuildMenus() {
         PostMessageW(handle(), kMenusChanged, 0, 0);
 }
 
-void FormWindow::PopUp(MenuItem& item) {
+void FormWindow::PopUp(MenuItem& item, const Rect* below) {
     if (handle() == nullptr)
         return;
     const std::weak_ptr<const void> alive = Lifetime();
-    MenuItem* const chosen = menus_.PopUp(handle(), item);
+    std::optional<RECT> place;
+    if (below != nullptr)
+        place = desktop().scale.Pixels(*below);
+    MenuItem* const chosen = menus_.PopUp(handle(), item, place);
     if (chosen == nullptr || alive.expired())
         return;
     // Messages were handled meanwhile: the item may have gone.

@@ -45,7 +45,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     // MenuPeer
     void RebuildMenus() override;
     void UpdateMenuItem(toolkit::MenuItem& item) override { menus_.Update(handle(), item); }
-    void PopUp(toolkit::MenuItem& item) override;
+    void PopUp(toolkit::MenuItem& item, const toolkit::Rect* below) override;
     // FormPeer
     toolkit::Size ClientSize() override;
     toolkit::Rect OuterFor(const toolkit::Size& client) override;

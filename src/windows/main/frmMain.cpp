@@ -78,6 +78,10 @@ frmMain::frmMain(SharedObjects& shared)
     WireParts();
     Resize.Subscribe([this] { layout_.WindowResized(); });
     Activate.Subscribe([this] { FirstActivation(); });
+    KeyDown.Subscribe([this](int key, toolkit::Modifiers modifiers) {
+        if (key == 'C')
+            heldWithC_ = modifiers;
+    });
     KeyUp.Subscribe([this](int key, toolkit::Modifiers modifiers) { KeyReleased(key, modifiers); });
     FilesDropped.Subscribe([this](const std::vector<std::string>& paths) {
         if (!paths.empty())
@@ -199,12 +203,15 @@ void frmMain::FirstActivation() {
 
 void frmMain::KeyReleased(int key, toolkit::Modifiers modifiers) {
     if (key == toolkit::key::ContextMenu) {
-        panels_.ShowContextMenu();
+        panels_.ShowContextMenuAtRow();
         return;
     }
-    if (key != 'C' || !modifiers.control)
+    if (key != 'C')
         return;
-    if (!modifiers.alt)
+    const toolkit::Modifiers before = std::exchange(heldWithC_, {});
+    if (!modifiers.control && !before.control)
+        return;
+    if (!modifiers.alt && !before.alt)
         copy_.CopySource();
     else if (copy_.HasTarget())
         copy_.CopyTarget();

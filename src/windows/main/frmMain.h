@@ -88,6 +88,8 @@ class frmMain : public toolkit::Form {
     // While they are shown.
     std::unique_ptr<frmAbout> about_;
     std::unique_ptr<frmOptions> options_;
+    // When C went down: Ctrl and Alt can be let go before it.
+    toolkit::Modifiers heldWithC_;
     bool activated_ = false;
 };
 

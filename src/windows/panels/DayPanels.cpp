@@ -35,6 +35,8 @@ DayPanels::DayPanels(const Controls& controls, const EntryLists& entries,
         [this](int row) { Attempt([&] { SourceRowClicked(row); }); });
     controls_.TargetListView.ItemClick.Subscribe(
         [this](int row) { Attempt([&] { TargetRowClicked(row); }); });
+    controls_.SourceListView.GotFocus.Subscribe([this] { targetWasUsed_ = false; });
+    controls_.TargetListView.GotFocus.Subscribe([this] { targetWasUsed_ = true; });
     for (toolkit::ListView* list : {&controls_.SourceListView, &controls_.TargetListView}) {
         list->MouseUp.Subscribe(
             [this](int button, toolkit::Modifiers, toolkit::Twips, toolkit::Twips) {
@@ -201,16 +203,32 @@ void DayPanels::RowIsShown(int row) {
     RowShown.Raise(row);
 }
 
-void DayPanels::ShowContextMenu() {
+// Returns whether there is something to copy.
+bool DayPanels::PrepareContextMenu() {
     const int row = controls_.SourceListView.SelectedRow();
     if (row < 0)
-        return;  // nothing to copy
+        return false;
     bool hasTarget = false;
     Attempt([&] {
         hasTarget = !entries_.EntryTargets().List(controls_.SourceListView.Tag(row)).empty();
     });
     controls_.mnuContextCopyTarget.SetEnabled(hasTarget);
-    controls_.form.PopUpMenu(controls_.contextMenu);
+    return true;
+}
+
+void DayPanels::ShowContextMenu() {
+    if (PrepareContextMenu())
+        controls_.form.PopUpMenu(controls_.contextMenu);
+}
+
+void DayPanels::ShowContextMenuAtRow() {
+    if (!PrepareContextMenu())
+        return;
+    toolkit::ListView& used = targetWasUsed_ && settings_.TwoPanels != 0 ? controls_.TargetListView
+                                                                         : controls_.SourceListView;
+    const int row = controls_.SourceListView.SelectedRow();
+    used.EnsureVisible(row);
+    controls_.form.PopUpMenuBelow(controls_.contextMenu, used.RowOnScreen(row));
 }
 
 void DayPanels::LanguageChanged() {

@@ -76,7 +76,9 @@ class DayPanels : public EntryDisplay {
     // A row of SourceListView was clicked, or is to be treated as clicked: the other panel, the
     // status bar and whoever listens to RowShown follow it.
     void SourceRowClicked(int row);
+    // At the mouse pointer; by the keyboard at the selected row, in the panel that is worked in.
     void ShowContextMenu();
+    void ShowContextMenuAtRow();
     // The interface language is another one: what the status bar and cboDate say in it.
     void LanguageChanged();
 
@@ -93,6 +95,7 @@ class DayPanels : public EntryDisplay {
     void DateComboClicked();
     void TargetRowClicked(int row);
     void RowIsShown(int row);
+    bool PrepareContextMenu();
     bool ShowRowOf(std::int32_t entry, std::int32_t firstEntry);
 
     Controls controls_;
@@ -105,6 +108,7 @@ class DayPanels : public EntryDisplay {
     DayIndex days_;
     std::int32_t selectedDay_ = kAllDates;
     std::int32_t shownDay_ = kNothingShown;
+    bool targetWasUsed_ = false;     // the last panel that had the focus
     bool ignoreComboClick_ = false;  // while cboDate gets new labels
 };
 

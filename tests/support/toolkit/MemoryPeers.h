@@ -213,6 +213,11 @@ class MemoryListView : public Peer<toolkit::ListViewPeer> {
     }
     void SelectRow(int row) override { shown.selectedRow = row; }
     void EnsureVisible(int row) override { shown.visibleRow = row; }
+    // The row that was brought into view last is the list's first, below its column headers.
+    toolkit::Rect RowOnScreen(int row) override {
+        const auto below = static_cast<toolkit::Twips>(255 * (row - shown.visibleRow + 1));
+        return {shown.bounds.left, shown.bounds.top + below, shown.bounds.width, 255};
+    }
     void SetGridLines(bool gridLines) override { shown.gridLines = gridLines; }
     void FlattenColumnHeaders() override { shown.flatHeaders = true; }
 };

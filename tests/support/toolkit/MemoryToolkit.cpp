@@ -90,8 +90,11 @@ class MemoryForm : public Peer<FormPeer> {
         if (ShownMenu* found = Find(menus, item))
             ShowState(*found, item);
     }
-    void PopUp(MenuItem& item) override {
+    void PopUp(MenuItem& item, const Rect* below) override {
         toolkit_.poppedUpMenus.push_back(item.Name());
+        toolkit_.poppedUpBelow.reset();
+        if (below != nullptr)
+            toolkit_.poppedUpBelow = *below;
         if (toolkit_.onPopUp)
             toolkit_.onPopUp(item);
     }

@@ -6,6 +6,7 @@ namespace {
 
 using test::Counter;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class FormKeyboardTest : public KeyboardFixture {
   protected:
@@ -64,6 +65,24 @@ TEST_F(FormKeyboardTest, AnOpenListGetsEnterAndEscapeAfterTheForm) {
     EXPECT_TRUE(Press(key::Escape));
     EXPECT_THAT(order, ElementsAre("form", "control", "button", "form", "control"));
     EXPECT_EQ(cancel.Take(), 1);
+}
+
+TEST_F(FormKeyboardTest, ShiftF10IsTheContextMenuKeyExceptInTexts) {
+    std::vector<std::string> keys;
+    form->KeyDown.Subscribe([&](int key, Modifiers) { keys.push_back(std::to_string(key)); });
+    form->KeyUp.Subscribe([&](int key, Modifiers) { keys.push_back("up " + std::to_string(key)); });
+    Get<Label>("lblStop").SetFocus();
+    EXPECT_TRUE(Press(key::F10, kShift));
+    EXPECT_THAT(std::exchange(keys, {}), ElementsAre("93", "up 93"));
+    EXPECT_TRUE(Press(KeyPress{.key = key::F10, .modifiers = kShift, .held = true}));
+    EXPECT_THAT(keys, IsEmpty());
+    EXPECT_FALSE(Press(key::F10));
+    EXPECT_THAT(std::exchange(keys, {}), ElementsAre("121"));
+    for (const char* text : {"txtName", "cboText"}) {
+        Get<Control>(text).SetFocus();
+        EXPECT_FALSE(Press(key::F10, kShift));
+    }
+    EXPECT_THAT(keys, ElementsAre("121", "121"));
 }
 
 TEST_F(FormKeyboardTest, AKeyThatTheControlUsesIsNotUsedTwice) {

@@ -107,6 +107,42 @@ TEST_F(MainWindow, TheContextMenuKeyShowsTheMenu) {
     EXPECT_FALSE(Main().Menu("mnuContextCopyTarget").Enabled());
 }
 
+TEST_F(MainWindow, ShiftF10ShowsTheMenuAtTheSelectedRowOfThePanelThatIsUsed) {
+    StartOnAllDates();
+    Source().SetFocus();
+    Source().UserSelected(1);
+    tools.Press(Main(), key::F10, {.shift = true});
+    EXPECT_THAT(tools.poppedUpMenus, ElementsAre("mnuContext"));
+    EXPECT_EQ(tools.poppedUpBelow, Source().RowOnScreen(1));
+    Target().SetFocus();
+    Target().UserSelected(2);
+    tools.Press(Main(), key::ContextMenu);
+    EXPECT_EQ(tools.poppedUpBelow, Target().RowOnScreen(2));
+    EXPECT_EQ(MemoryToolkit::Of(Target()).visibleRow, 2);
+    // With one panel the other one is not to be seen.
+    Choose("mnuViewTwoPanels");
+    tools.Press(Main(), key::ContextMenu);
+    EXPECT_EQ(tools.poppedUpBelow, Source().RowOnScreen(2));
+    Source().MouseUp.Raise(toolkit::kRightButton, {}, 0, 0);
+    EXPECT_EQ(tools.poppedUpBelow, std::nullopt);
+}
+
+TEST_F(MainWindow, TheKeysOfACopyCanBeLetGoInAnyOrder) {
+    StartOnAllDates();
+    const auto press = [&](toolkit::Modifiers held, toolkit::Modifiers left) {
+        Main().UserKeyDown('C', held);
+        Main().UserKeyUp('C', left);
+        return Clipboard();
+    };
+    EXPECT_EQ(press(kCtrl, {}), "Copy C:\\a.txt ");
+    EXPECT_EQ(press(kCtrlAlt, {}), "D:\\a.txt");
+    EXPECT_EQ(press(kCtrl, {}), "Copy C:\\a.txt ");
+    EXPECT_EQ(press(kCtrlAlt, kCtrl), "D:\\a.txt");
+    // What was held once does not count for the next press.
+    system.clipboard.text = "before";
+    EXPECT_EQ(press({}, {}), "before");
+}
+
 TEST_F(MainWindow, AClipboardHeldByAnotherProgramIsNoError) {
     StartOnAllDates();
     system.clipboard.heldByAnother = true;
