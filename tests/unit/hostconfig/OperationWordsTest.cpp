@@ -297,6 +297,13 @@ TEST_F(Keywords, TellOperationsFromOutcomesByTheirId) {
     EXPECT_FALSE(OperationWords::IsOperation("k1921"));
 }
 
+TEST_F(Keywords, AnEqualsSignInsideAWordBelongsToIt) {
+    UseLanguageFile("1802=\"Kopie =1803=2\"\r\n1803=\"Umzug\"\r\n");
+    Put("LoggingID", "1802,1803");
+    EXPECT_THAT(Load(), ElementsAre("Kopie =1803=2", "Umzug"));
+    EXPECT_THAT(Keys(), ElementsAre("k1802", "k1803"));
+}
+
 TEST_F(Keywords, TheOperationsAreAllTwelveWhateverTheMenuOffers) {
     Put("LoggingID", "1802,1900");
     Load();

@@ -121,6 +121,16 @@ TEST_F(FilterDialog, TakesItsPlaceFromTheSettingsFile) {
     EXPECT_EQ(another->Width(), 9500);
 }
 
+TEST_F(FilterDialog, AStateIsNeitherTakenUpNorStored) {
+    Put("FiltersWindowState", "1");
+    EXPECT_EQ(LoadAnother()->State(), toolkit::WindowState::Normal);
+    Put("FiltersWindowState", "7");
+    Show();
+    filters.SetState(toolkit::WindowState::Minimised);
+    filters.UserClosed();
+    EXPECT_EQ(Stored("FiltersWindowState"), "7");
+}
+
 TEST_F(FilterDialog, IsNeverNarrowerThanItsBoxesNeed) {
     Put("FiltersPosition", "100,200,8909,795");
     EXPECT_EQ(LoadAnother()->Width(), 8910);

@@ -71,6 +71,17 @@ TEST_F(MainWindow, CopiesTheOperationWithItsSource) {
     EXPECT_EQ(Clipboard(), "D:\\Ordner \xC3\xBC");
 }
 
+TEST_F(MainWindow, WithOnePanelTheTargetIsCopiedAllTheSame) {
+    StartOnAllDates();
+    Choose("mnuViewTwoPanels");
+    Source().UserSelected(2);
+    Choose("mnuContextCopyTarget");
+    EXPECT_EQ(Clipboard(), "D:\\Ordner \xC3\xBC");
+    system.clipboard.text.reset();
+    tools.Press(Main(), 'C', kCtrlAlt);
+    EXPECT_EQ(Clipboard(), "D:\\Ordner \xC3\xBC");
+}
+
 TEST_F(MainWindow, KeysCopyWhenTheyAreReleased) {
     StartOnAllDates();
     tools.Press(Main(), 'C', kCtrl);
