@@ -9,16 +9,9 @@
 
 namespace ordalyn {
 
-struct DayRowsResult {
-    std::vector<std::int32_t> tags;  // entry indices, ascending
-    // The fill stopped before its end: at an entry whose time cannot be taken from its source, at
-    // one outside the storage of the lists, or at once because the day is not in the index.
-    bool failed;
-};
-
-// The rows of a day, or of all days for kAllDates. Never throws for what the lists hold. An index
-// that is older than the lists can name entries beyond the last one: slots of the storage give
-// empty rows.
-DayRowsResult DayRows(const EntryLists& entries, const DayIndex& days, std::int32_t day);
+// The rows of a day, or of all days for kAllDates: entry indices, ascending. A day that is not in
+// the index has none, and every row is one of an entry that the lists hold.
+std::vector<std::int32_t> DayRows(const EntryLists& entries, const DayIndex& days,
+                                  std::int32_t day);
 
 }  // namespace ordalyn

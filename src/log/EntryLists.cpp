@@ -23,7 +23,6 @@ void EntryLists::Clear() {
     for (cStringArray* list : {&files_, &dates_, &sources_, &targets_})
         list->Clear(texts_);
     file_ = texts_->Add(fileName_);
-    withoutTime_.clear();
 }
 
 void EntryLists::FreeExtraItems() {

@@ -7,7 +7,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "lists/cStringArray.h"
 #include "log/LogLine.h"
@@ -23,10 +22,6 @@ class EntryLists {
     const cStringArray& EntrySources() const { return sources_; }
     const cStringArray& EntryTargets() const { return targets_; }
 
-    // The entries whose source has no time text, in ascending order. There are hardly any; knowing
-    // them spares a fill of the panels the look at every text.
-    const std::vector<std::int32_t>& EntriesWithoutTime() const { return withoutTime_; }
-
     // The name of the file that the entries come from that are added from now on.
     void SetFile(std::string_view name);
     // Appends an entry. The fields may lie anywhere; they are copied unless they lie in memory that
@@ -40,8 +35,6 @@ class EntryLists {
         dates_.AddItem(fields.date);
         sources_.AddStored(texts_->Add(fields.source));
         targets_.AddStored(texts_->Add(fields.target));
-        if (!HasTimeText(fields.source))
-            withoutTime_.push_back(sources_.ListCount());
     }
 
     // Where the texts of the lists are, so that a file can be read into their memory.
@@ -61,7 +54,6 @@ class EntryLists {
     cStringArray dates_{texts_};
     cStringArray sources_{texts_};
     cStringArray targets_{texts_};
-    std::vector<std::int32_t> withoutTime_;
 };
 
 }  // namespace ordalyn

@@ -57,12 +57,8 @@ inline std::size_t FirstBlank(std::string_view text) {
 }
 
 // Parts of a source field: its first word without its last character, the separator, is the time;
-// what stands behind the first blank is the operation. A time cannot be taken from a source without
-// a blank or with a blank in front: TimeText throws MalformedText.
-inline bool HasTimeText(std::string_view source) {
-    const std::size_t blank = FirstBlank(source);
-    return blank != 0 && blank != source.size();
-}
+// what stands behind the first blank is the operation. A source without a blank, or with one in
+// front, has no time: all of it is the operation, so that nothing of a line is out of sight.
 std::string_view TimeText(std::string_view source);
 std::string_view OperationText(std::string_view source);
 

@@ -72,7 +72,7 @@ struct Panels {
 };
 
 int FillPanels(Panels& panels, const EntryLists& entries, const DayIndex& days) {
-    auto tags = std::make_shared<std::vector<std::int32_t>>(DayRows(entries, days, kAllDates).tags);
+    auto tags = std::make_shared<std::vector<std::int32_t>>(DayRows(entries, days, kAllDates));
     const auto rows = std::make_shared<EntryRows>(entries);
     panels.source.Fill(rows, tags);
     panels.target.Fill(rows, tags);

@@ -133,3 +133,18 @@ def test_the_context_menu_copies_no_target_where_there_is_none(show):
     assert not app.pop_up()["Copy Target"].enabled
     app.keys("Escape")
     assert not app.has_pop_up
+
+
+def test_a_line_whose_time_cannot_be_told_is_shown_whole(folder):
+    app = folder.show([r"01.03.2024 10:00:00: Delete C:\a.txt", "01.03.2024 nothing-else",
+                       r"01.03.2024  10:00:01: Copy C:\b.txt -> D:\b.txt",
+                       r"01.03.2024 10:00:02: Delete C:\c.txt"])
+    app.wait_for_rows(4)
+    assert app.main.source.visible and app.main.target.visible
+    assert app.main.source.rows() == [("10:00:00", r"Delete C:\a.txt"), ("", "nothing-else"),
+                                      ("", r" 10:00:01: Copy C:\b.txt "),
+                                      ("10:00:02", r"Delete C:\c.txt")]
+    assert app.main.target.column(0)[2] == r"D:\b.txt"
+    assert app.main.status[0] == "4 Operation(s)  "
+    assert app.pointer == "arrow"
+    app.close()

@@ -53,9 +53,9 @@ void CheckLine(std::string_view line) {
         Require(parts.date.find(' ') == std::string_view::npos, "the date has no blank");
         Require(parts.source.find("->") == std::string_view::npos, "the first arrow cuts");
         Require(trimmed.ends_with(parts.target), "the target comes last");
-        OperationText(parts.source);
-        if (HasTimeText(parts.source))
-            Require(parts.source.starts_with(TimeText(parts.source)), "the time begins the source");
+        Require(parts.source.ends_with(OperationText(parts.source)),
+                "the operation ends the source");
+        Require(parts.source.starts_with(TimeText(parts.source)), "the time begins the source");
     } catch (const Error&) {
         Require(trimmed.find(' ') == std::string_view::npos, "only a line without a blank fails");
     }

@@ -9,13 +9,13 @@
 #include "base/Text.h"
 #include "base/TextIds.h"
 #include "log/DayRows.h"
+#include "toolkit/ScopedPointer.h"
 #include "windows/panels/EntryRows.h"
+#include "windows/panels/HiddenWhileFilled.h"
 #include "windows/panels/RowOfEntry.h"
 #include "windows/panels/StatusTexts.h"
 
 namespace ordalyn {
-
-namespace {}  // namespace
 
 DayPanels::DayPanels(const Controls& controls, const EntryLists& entries,
                      const FilterChoice& filter, const SettingsValues& settings,
@@ -68,8 +68,8 @@ void DayPanels::BuildDateList(bool selectLastDate) {
     controls_.SourceListView.SetFocus();
 }
 
-// Each step is made whatever became of the one before it: a log with a line that cannot be shown
-// still gets its day, its filter and its state of the find dialog.
+// Each step is made whatever became of the one before it, such as a reaction to the first row that
+// fails.
 void DayPanels::DateComboClicked() {
     if (ignoreComboClick_)
         return;
@@ -85,32 +85,24 @@ void DayPanels::FillPanels() {
     shownDay_ = selectedDay_;
     toolkit::ListView& source = controls_.SourceListView;
     toolkit::ListView& target = controls_.TargetListView;
-    toolkit::Toolkit& toolkit = controls_.form.toolkit();
-    // Not a scoped pointer: a fill that stops leaves the hourglass and the hidden panels, the sign
-    // that the rows are not whole.
-    toolkit.SetPointer(toolkit::Pointer::Hourglass);
-    source.SetVisible(false);
-    target.SetVisible(false);
-    source.ClearRows();
-    target.ClearRows();
-
-    DayRowsResult rows = DayRows(entries_, days_, selectedDay_);
-    const auto texts = std::make_shared<const EntryRows>(entries_);
-    const auto tags = std::make_shared<const std::vector<std::int32_t>>(std::move(rows.tags));
-    source.Fill(texts, tags);
-    if (settings_.TwoPanels != 0)
-        target.Fill(texts, tags);
-    if (rows.failed)
-        throw MalformedText("An entry without a time cannot be shown");
-
-    ShowOperationCount();
-    if (selectedDay_ != kAllDates)
-        ShowDateInStatusBar(settings_.LongDate != 0,
-                            days_.DateOfDay(selectedDay_, entries_.EntryDates()));
-    source.SetVisible(true);
-    target.SetVisible(true);
-    // The rows are whole now, whatever the reaction to the first one runs into.
-    toolkit.SetPointer(toolkit::Pointer::Default);
+    {
+        const toolkit::ScopedPointer hourglass(controls_.form.toolkit(),
+                                               toolkit::Pointer::Hourglass);
+        const HiddenWhileFilled hiddenSource(source);
+        const HiddenWhileFilled hiddenTarget(target);
+        source.ClearRows();
+        target.ClearRows();
+        const auto texts = std::make_shared<const EntryRows>(entries_);
+        const auto tags = std::make_shared<const std::vector<std::int32_t>>(
+            DayRows(entries_, days_, selectedDay_));
+        source.Fill(texts, tags);
+        if (settings_.TwoPanels != 0)
+            target.Fill(texts, tags);
+        ShowOperationCount();
+        if (selectedDay_ != kAllDates)
+            ShowDateInStatusBar(settings_.LongDate != 0,
+                                days_.DateOfDay(selectedDay_, entries_.EntryDates()));
+    }
     if (source.RowCount() > 0) {
         source.SelectRow(0);
         SourceRowClicked(0);
@@ -121,7 +113,7 @@ void DayPanels::ApplyFilter(bool blnPreShow) {
     ShowFilterInStatusBar();
     if (blnPreShow) {
         shownDay_ = kNothingShown;
-        // A fill that stops has shown what there is; that is filtered.
+        // Whatever the reaction to the first row runs into, the rows are there to be filtered.
         Attempt([this] { FillPanels(); });
     }
     if (panelFilter_.RemoveRows())
@@ -250,14 +242,12 @@ bool DayPanels::ShowEntry(std::int32_t entry) {
 }
 
 // Selects the entry's row. Without a filter the rows are the entries from the first one on, so its
-// place is known; a row that a fill has not got to counts as shown, though nothing is selected.
+// place is known.
 bool DayPanels::ShowRowOf(std::int32_t entry, std::int32_t firstEntry) {
     // The row is what was looked for: it stays found when there is no file to name in the title.
     const auto select = [this](int row) { Attempt([&] { SelectEntryRow(row); }); };
     if (filter_.FilterText.empty()) {
-        const int row = entry - firstEntry;
-        if (row < controls_.SourceListView.RowCount())
-            select(row);
+        select(entry - firstEntry);
         return true;
     }
     const int row = RowOfEntry(*controls_.SourceListView.RowTags(), entry);

@@ -52,9 +52,8 @@ class DayPanels : public EntryDisplay {
     // which fills the panels. A log without any dated entry empties cboDate and leaves the panels
     // alone. Errors end single steps only.
     void BuildDateList(bool selectLastDate);
-    // Fills both panels for SelectedDay unless they show it already. An entry whose time cannot be
-    // told throws: the rows before it stay, and the panels stay hidden, with the hourglass pointer,
-    // until the next fill.
+    // Fills both panels for SelectedDay unless they show it already. Every entry has its row, also
+    // one whose time cannot be told.
     void FillPanels();
     // Narrows the panels to the filter. With blnPreShow they are filled for their day first, so
     // that rows which an earlier filter removed come back.

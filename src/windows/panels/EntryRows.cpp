@@ -13,7 +13,7 @@ std::string_view EntryRows::Text(std::int32_t tag, int field) const {
     const std::string_view source = sources_.ListOrEmpty(tag);
     if (field == kOperation)
         return OperationText(source);
-    return field == kTime && HasTimeText(source) ? TimeText(source) : std::string_view();
+    return field == kTime ? TimeText(source) : std::string_view();
 }
 
 }  // namespace ordalyn

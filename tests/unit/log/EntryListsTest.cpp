@@ -67,18 +67,6 @@ TEST(EntryLists, FreeExtraItemsWithoutEntriesFails) {
     EXPECT_THROW(entries.FreeExtraItems(), SubscriptOutOfRange);
 }
 
-TEST(EntryLists, KnowsTheEntriesWithoutATime) {
-    EntryLists entries;
-    entries.Add({"d", "t: a", ""});
-    entries.Add({"d", "word", ""});
-    entries.Add({"", "; c", ""});
-    entries.AddWithoutFile({"d", " blank first", ""});
-    entries.AddWithoutFile({"d", "", "x"});
-    EXPECT_THAT(entries.EntriesWithoutTime(), ElementsAre(1, 3, 4));
-    entries.Clear();
-    EXPECT_THAT(entries.EntriesWithoutTime(), IsEmpty());
-}
-
 TEST(EntryLists, ClearEmptiesAllFourAndStartsANewStore) {
     EntryLists entries;
     entries.AddWithoutFile({"d", "t: a", "b"});

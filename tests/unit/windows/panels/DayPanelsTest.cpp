@@ -206,51 +206,18 @@ TEST_F(DayPanelsTest, PanelsAreHiddenAndTheHourglassShowsWhileFilling) {
     EXPECT_TRUE(TargetListView.Visible());
 }
 
-TEST_F(DayPanelsTest, AFillStopsAtAnEntryWithoutTimeAndLeavesThePanelsHidden) {
-    Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024  10:00:01: two blanks",
-          "01.03.2024 10:00:02: never reached"});
-    EXPECT_EQ(SourceListView.RowCount(), 1);
-    EXPECT_FALSE(SourceListView.Visible());
-    EXPECT_FALSE(TargetListView.Visible());
-    // The rest of the choice still happens, and the next fill brings everything back.
-    EXPECT_EQ(Status(3), "Filter:   ");
-    EXPECT_THAT(daysShown, ElementsAre(0));
-    Load({"02.03.2024 10:00:00: Copy a -> b"});
+TEST_F(DayPanelsTest, AnEntryWhoseTimeCannotBeToldIsShownWhole) {
+    Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024  10:00:01: two blanks -> c",
+          "01.03.2024 nothing-else", "01.03.2024 10:00:02: Copy d -> e"});
+    EXPECT_THAT(Column(SourceListView, 0), ElementsAre("10:00:00", "", "", "10:00:02"));
+    EXPECT_THAT(Sources(),
+                ElementsAre("Copy a ", " 10:00:01: two blanks ", "nothing-else", "Copy d "));
+    EXPECT_THAT(Targets(), ElementsAre("b", "c", "", "e"));
+    EXPECT_EQ(Status(1), "4 Operation(s)  ");
     EXPECT_TRUE(SourceListView.Visible());
     EXPECT_TRUE(TargetListView.Visible());
-}
-
-TEST_F(DayPanelsTest, AFillThatStopsLeavesTheHourglass) {
-    Load({"01.03.2024 10:00:00: Copy a -> b", "02.03.2024 nothing-else",
-          "03.03.2024 10:00:00: Copy a -> b"});
-    cboDate.UserSelected(2);
-    EXPECT_EQ(tools.pointer, toolkit::Pointer::Hourglass);
-    EXPECT_FALSE(SourceListView.Visible());
-    cboDate.UserSelected(3);
     EXPECT_EQ(tools.pointer, toolkit::Pointer::Default);
-    EXPECT_TRUE(SourceListView.Visible());
-}
-
-TEST_F(DayPanelsTest, OldDaysOverNewEntriesGiveEmptyRowsOrStop) {
-    std::vector<std::string> lines;
-    for (int i = 0; i < 10; ++i)
-        lines.push_back("01.03.2024 10:00:00: Copy a -> b");
-    for (int i = 0; i < 2500; ++i)
-        lines.push_back("02.03.2024 10:00:00: Copy a -> b");
-    lines.push_back("03.03.2024 10:00:00: Copy a -> b");
-    Load(lines);
-    // A log that cannot be read to its end replaces the entries but not the days.
-    Write("C:\\logs\\bad.log", {"09.03.2024 10:00:00: Copy a -> b", "garbage"});
-    reading.ReadLogFile(false, "C:\\logs\\bad.log", false, true);
-    cboDate.UserSelected(1);
-    ASSERT_EQ(SourceListView.RowCount(), 10);
-    EXPECT_EQ(SourceListView.Text(0, 0), "10:00:00");
-    EXPECT_EQ(SourceListView.Text(5, 0), "");
-    EXPECT_EQ(SourceListView.Text(5, 1), "");
-    EXPECT_TRUE(SourceListView.Visible());
-    cboDate.UserSelected(2);  // 10 to 2509: the storage ends at 2000
-    EXPECT_EQ(SourceListView.RowCount(), 1991);
-    EXPECT_FALSE(SourceListView.Visible());
+    EXPECT_EQ(SourceListView.SelectedRow(), 0);
 }
 
 TEST_F(DayPanelsTest, ShownRowsOutliveTheirEntries) {

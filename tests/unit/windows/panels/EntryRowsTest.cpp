@@ -32,11 +32,16 @@ TEST(EntryRows, WhatIsNoEntryIsEmpty) {
             EXPECT_EQ(rows.Text(tag, field), "");
 }
 
-TEST(EntryRows, ASourceWithoutATimeDoesNotThrow) {
+TEST(EntryRows, ASourceWithoutATimeIsShownWhole) {
     EntryLists entries;
     entries.Add({"d", "word", ""});
+    entries.Add({"d", " blank first", "x"});
     const EntryRows rows(entries);
     EXPECT_EQ(rows.Text(0, EntryRows::kTime), "");
+    EXPECT_EQ(rows.Text(0, EntryRows::kOperation), "word");
+    EXPECT_EQ(rows.Text(1, EntryRows::kTime), "");
+    EXPECT_EQ(rows.Text(1, EntryRows::kOperation), " blank first");
+    EXPECT_EQ(rows.Text(1, EntryRows::kTarget), "x");
 }
 
 TEST(EntryRows, OldRowsStayWhenTheListsAreClearedOrGrow) {

@@ -206,11 +206,13 @@ TEST_F(Filtering, ThePanelsAreHiddenWhileRowsGo) {
     EXPECT_EQ(MemoryToolkit::Of(TargetListView).updatesInSight, 0);
 }
 
-TEST_F(Filtering, AFillThatStopsIsFilteredAsFarAsItGot) {
+TEST_F(Filtering, AnEntryWithoutATimeIsFilteredLikeTheOthers) {
     Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024 10:00:01: Move a -> b",
           "01.03.2024 broken", "01.03.2024 10:00:02: Copy c -> d"});
     Filter("copy");
-    EXPECT_THAT(Rows(), ElementsAre(0));
+    EXPECT_THAT(Rows(), ElementsAre(0, 3));
+    Filter("broken");
+    EXPECT_THAT(Rows(), ElementsAre(2));
     EXPECT_TRUE(SourceListView.Visible());
     EXPECT_THAT(tools.messages, IsEmpty());
 }

@@ -269,11 +269,13 @@ TEST_F(Search, AnEntryBehindTheLastDayHasNoRow) {
     EXPECT_EQ(Find("Pack"), -1);
 }
 
-TEST_F(Search, AnEntryThatTheFillHasNotGotToCountsAsFound) {
+TEST_F(Search, AnEntryWithoutATimeIsFoundAndSoIsOneBehindIt) {
     Load({"01.03.2024 10:00:00: Copy a -> b", "01.03.2024 broken",
           "01.03.2024 10:00:02: Move c -> d"});
-    ASSERT_EQ(SourceListView.RowCount(), 1);
+    EXPECT_EQ(Find("broken"), 2);
+    EXPECT_EQ(SelectedEntry(), 1);
     EXPECT_EQ(Find("Move"), 3);
+    EXPECT_EQ(SelectedEntry(), 2);
 }
 
 TEST_F(Search, CommentsBeforeTheFirstDateBelongToTheFirstDay) {
