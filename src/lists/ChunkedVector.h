@@ -24,6 +24,22 @@ class ChunkedVector {
         ++size_;
     }
 
+    // Puts another value in the last one's place; there must be one.
+    void ReplaceLast(const Value& value) {
+        const std::size_t place = (size_ - 1) & kMask;
+        Block& block = blocks_.back();
+        if (block.values) {
+            block.values[place] = value;
+        } else if (place == 0) {
+            block.all = value;
+            equal_ = value;
+        } else if (!(value == equal_)) {
+            --size_;
+            AppendUnequal(value);
+            ++size_;
+        }
+    }
+
     // The index must be below Size().
     Value operator[](std::size_t index) const {
         const Block& block = blocks_[index >> kBits];

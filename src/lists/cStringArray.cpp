@@ -30,6 +30,13 @@ void cStringArray::Clear(std::shared_ptr<TextStore> texts) {
     UseStorage(std::move(texts));
 }
 
+void cStringArray::Swap(cStringArray& other) noexcept {
+    std::swap(storage_, other.storage_);
+    std::swap(bounds_, other.bounds_);
+    std::swap(lastPosition_, other.lastPosition_);
+    std::swap(lastText_, other.lastText_);
+}
+
 void cStringArray::UseStorage(std::shared_ptr<TextStore> texts) {
     storage_ = std::make_shared<StringListStorage>();
     storage_->texts = std::move(texts);

@@ -75,6 +75,12 @@ class cStringArray {
         storage_->positions.Append(position);
     }
 
+    // Puts another text in the last item's place, also in the views that show it. There must be an
+    // item, and every slot up to it must be one that a text was put into.
+    void ReplaceLast(std::string_view value) {
+        storage_->positions.ReplaceLast(storage_->texts->Add(value));
+    }
+
     // Cuts the storage to the items. Throws SubscriptOutOfRange when there are none.
     void FreeExtraItems() { bounds_.Trim(); }
 
@@ -101,6 +107,8 @@ class cStringArray {
     void Clear() { Clear(std::make_shared<TextStore>()); }
     // The same; what is added from now on goes into this text store.
     void Clear(std::shared_ptr<TextStore> texts);
+
+    void Swap(cStringArray& other) noexcept;
 
     StringListView Snapshot() const { return {storage_, bounds_}; }
 

@@ -22,6 +22,11 @@ class EntryLists {
     const cStringArray& EntrySources() const { return sources_; }
     const cStringArray& EntryTargets() const { return targets_; }
 
+    // Whether any entry has a date.
+    bool HasDates() const;
+    // The name of the file that the entry was read from; empty when EntryFiles does not say.
+    std::string_view FileOf(std::int32_t entry) const;
+
     // The name of the file that the entries come from that are added from now on.
     void SetFile(std::string_view name);
     // Appends an entry. The fields may lie anywhere; they are copied unless they lie in memory that
@@ -37,9 +42,14 @@ class EntryLists {
         targets_.AddStored(texts_->Add(fields.target));
     }
 
+    // Puts other fields in the last entry's place; there must be one. Its file stays.
+    void ReplaceLast(const LogLine& fields);
+
     // Where the texts of the lists are, so that a file can be read into their memory.
     TextStore& Texts() { return *texts_; }
 
+    // Exchanges everything with other lists, at no cost for any entry.
+    void Swap(EntryLists& other) noexcept;
     // Empties the four lists. Snapshots keep what they show.
     void Clear();
     // Gives the spare slots of EntryDates, EntrySources and EntryTargets back, not those of

@@ -31,6 +31,9 @@ class LineReader {
     // The next line without its end; nothing at the end of the file. Valid until the next call, and
     // so are bytescan::kSlack bytes behind it. Throws FileError.
     std::optional<std::string_view> Next();
+    // Whether the line that Next answered last is the file's last one and has no end: more of it
+    // may come.
+    bool Unfinished() const { return unfinished_; }
     // Passes over a line; false at the end of the file.
     bool Skip();
 
@@ -57,6 +60,7 @@ class LineReader {
     std::size_t nextEnd_ = 0;
     std::size_t endCount_ = 0;
     bool utf8_ = false;  // whether the lines up to the last of these are all UTF-8
+    bool unfinished_ = false;
     std::string decoded_;
 };
 
@@ -70,7 +74,8 @@ inline bool LineReader::NextRaw(const char*& begin, const char*& end) {
         end = buffer_ + end_;
         begin_ = end_;
         utf8_ = false;
-        return begin != end;
+        unfinished_ = begin != end;
+        return unfinished_;
     }
     const std::size_t at = endsFrom_ + ends_[nextEnd_++];
     begin = buffer_ + begin_;

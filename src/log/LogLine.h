@@ -20,6 +20,12 @@ struct LogLine {
     std::string_view date, source, target;
 };
 
+// The line without the blanks around it.
+inline std::string_view TrimLogLine(std::string_view line) {
+    const bool blanks = !line.empty() && (line.front() == ' ' || line.back() == ' ');
+    return blanks ? TrimBlanks(line) : line;
+}
+
 // A comment line begins with ";". The line must be trimmed of blanks.
 inline bool IsCommentLine(std::string_view line) {
     return !line.empty() && line.front() == ';';
@@ -54,6 +60,11 @@ inline LogLine SplitOperationLine(std::string_view line) {
 inline std::size_t FirstBlank(std::string_view text) {
     const char* end = text.data() + text.size();
     return static_cast<std::size_t>(bytescan::FindByte(text.data(), end, ' ') - text.data());
+}
+
+// Whether the trimmed line is one that a log can have: blank, a comment, or one with a blank.
+inline bool IsWholeLogLine(std::string_view line) {
+    return line.empty() || IsCommentLine(line) || FirstBlank(line) != line.size();
 }
 
 // Parts of a source field: its first word without its last character, the separator, is the time;

@@ -1,12 +1,13 @@
 #include "log/LogReader.h"
 
 #include <algorithm>
+#include <limits>
+#include <memory>
 #include <optional>
 
 #include "base/CheckedMath.h"
 #include "base/Errors.h"
 #include "base/FileNames.h"
-#include "base/Text.h"
 #include "log/LineReader.h"
 #include "log/LogLine.h"
 
@@ -15,11 +16,7 @@ namespace ordalyn {
 namespace {
 
 constexpr std::int32_t kProgressSteps = 200;
-
-std::string_view Trim(std::string_view line) {
-    const bool blanks = !line.empty() && (line.front() == ' ' || line.back() == ' ');
-    return blanks ? TrimBlanks(line) : line;
-}
+constexpr std::int32_t kUncounted = std::numeric_limits<std::int32_t>::max();
 
 }  // namespace
 
@@ -30,22 +27,46 @@ void LogReader::BeginFile(std::string_view path) {
 }
 
 void LogReader::ReadEntries(const Progress& progress) {
+    ReadLines(lineCount_, progress);
+}
+
+void LogReader::ReadGrowingFile(std::string_view path) {
+    currentLogFile_ = path;
+    ReadLines(kUncounted, {});
+    lineCount_ = mark_.lineCount;
+}
+
+void LogReader::ReadLines(std::int32_t mostLines, const Progress& progress) {
     lineNumber_ = 0;
+    mark_ = {};
+    LogMark mark;
+    mark.path = currentLogFile_;
     entries_.SetFile(GetFileName(currentLogFile_));
-    const std::int32_t step = std::max(lineCount_ / kProgressSteps, 1);
+    const std::int32_t step = std::max(mostLines / kProgressSteps, 1);
     // The line at which there is more to do than to read it: the bar moves, or has come to its end.
     std::int32_t nextStop = step;
-    LineReader lines(files_.OpenForReading(currentLogFile_), codePages_, &entries_.Texts());
+    LineReader lines(
+        std::make_unique<TracedFile>(files_.OpenForReading(currentLogFile_), mark.trace),
+        codePages_, &entries_.Texts());
     std::string comment;
     while (const std::optional<std::string_view> line = lines.Next()) {
         if (++lineNumber_ >= nextStop) [[unlikely]] {
-            if (lineNumber_ >= lineCount_)
-                throw InvalidPropertyValue("progress beyond " + std::to_string(lineCount_));
-            nextStop = lineNumber_ + std::min(step, lineCount_ - lineNumber_);
+            if (lineNumber_ >= mostLines)
+                throw InvalidPropertyValue("progress beyond " + std::to_string(mostLines));
+            nextStop = lineNumber_ + std::min(step, mostLines - lineNumber_);
             if (progress)
                 progress(lineNumber_ + 1);
         }
-        const std::string_view trimmed = Trim(*line);
+        const std::string_view trimmed = TrimLogLine(*line);
+        if (lines.Unfinished()) [[unlikely]] {
+            // Beside a program that writes, that much of a line is not yet one to judge.
+            if (mostLines == kUncounted && !IsWholeLogLine(trimmed)) {
+                --lineNumber_;
+                break;
+            }
+            mark.lastLine = trimmed.empty() ? LogMark::LastLine::UnfinishedBlank
+                                            : LogMark::LastLine::UnfinishedEntry;
+        }
         if (trimmed.empty())
             continue;
         LogLine fields;
@@ -57,23 +78,8 @@ void LogReader::ReadEntries(const Progress& progress) {
         }
         entries_.Add(fields);
     }
-}
-
-bool LogReader::ReadAppendedLines(std::string_view path) {
-    lineNumber_ = 0;
-    LineReader lines(files_.OpenForReading(path), codePages_);
-    for (std::int32_t line = 1; line != lineCount_ && lines.Skip();)
-        line = CheckedAdd(line, 1);
-    const std::int32_t before = lineCount_;
-    lineNumber_ = before;
-    // The count grows before a line is looked at: a malformed line is not met again next time.
-    while (const std::optional<std::string_view> line = lines.Next()) {
-        lineCount_ = CheckedAdd(lineCount_, 1);
-        const std::string_view trimmed = Trim(*line);
-        if (!trimmed.empty())
-            entries_.AddWithoutFile(SplitOperationLine(trimmed));
-    }
-    return lineCount_ > before;
+    mark.lineCount = CheckedAdd(lineNumber_, 1);
+    mark_ = std::move(mark);
 }
 
 }  // namespace ordalyn

@@ -1,5 +1,5 @@
-// LogReader: reads log files into the entry lists. Dialogs, progress window and messages are its
-// caller's.
+// LogReader: reads whole log files into entry lists, one or several one after the other. Dialogs,
+// progress window and messages are its caller's.
 #pragma once
 
 #include <cstdint>
@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "log/EntryLists.h"
+#include "log/LogMark.h"
 #include "platform/Platform.h"
 
 namespace ordalyn {
@@ -20,18 +21,15 @@ class LogReader {
     LogReader(platform::Files& files, platform::CodePages& codePages, EntryLists& entries)
         : files_(files), codePages_(codePages), entries_(entries) {}
 
-    // The file that was begun last, and the lines of it that have been consumed PLUS ONE (0 before
-    // the first file). LineCount is the maximum of a progress bar for the read.
+    // The file that was begun last, and its lines PLUS ONE as they were counted (0 before the first
+    // file): the maximum of a progress bar for the read.
     const std::string& CurrentLogFile() const { return currentLogFile_; }
     std::int32_t LineCount() const { return lineCount_; }
-    // No log is current; what happens when none was found at the start.
-    void ForgetLogFile() { currentLogFile_.clear(); }
-
-    // The number that a message about a failure names. While a whole file is read: the line being
-    // processed, blank lines counted, 0 before the first; after it, that of the last line. While
-    // appended lines are read: LineCount as it was before them, NOT the line that failed; 0 when it
-    // did not come so far.
+    // The number that a message about a failure names: the line being processed, blank lines
+    // counted, 0 before the first; after the read, that of the last line.
     std::int32_t LineNumber() const { return lineNumber_; }
+    // What has been read of the file, once all of it has been: from there it can be gone on with.
+    const LogMark& Mark() const { return mark_; }
 
     // Reading a whole file takes two operations, because the caller shows its progress window
     // between them. BeginFile makes the file current and counts its lines in a pass of its own;
@@ -43,21 +41,20 @@ class LogReader {
     // InvalidPropertyValue when the file has more lines than were counted, which would take the
     // progress bar past its maximum.
     void ReadEntries(const Progress& progress = {});
-
-    // Reads what has been appended to the file since it was read last, and answers whether there
-    // was any line. It passes over the first LineCount - 1 lines; LineCount then grows with every
-    // line, blank and malformed ones included. Deliberately different from reading a whole file: a
-    // line that begins with ";" is split like any other, EntryFiles is not extended, and the lists
-    // keep their spare slots. Throws FileError and MalformedText; closes the file.
-    bool ReadAppendedLines(std::string_view path);
+    // Both in one pass, for a file that another program is writing: however many lines it has, and
+    // a last one that is not there yet up to its first blank is left for later.
+    void ReadGrowingFile(std::string_view path);
 
   private:
+    void ReadLines(std::int32_t mostLines, const Progress& progress);
+
     platform::Files& files_;
     platform::CodePages& codePages_;
     EntryLists& entries_;
     std::string currentLogFile_;
     std::int32_t lineCount_ = 0;
     std::int32_t lineNumber_ = 0;
+    LogMark mark_;
 };
 
 }  // namespace ordalyn

@@ -68,7 +68,8 @@ def test_at_the_start(folder, wine):
         assert app.main.target.row_count == 0
         assert app.main.dates.items == []
         assert app.main.text.endswith(" RC 1 - ")
-    app.main.drop_files(path)
+    # It can be read now: Refresh looks for it as the start did.
+    app.keys("F5")
     assert app.main.source.row_count == 2
     assert app.main.log_title == path
     app.close()
@@ -113,4 +114,18 @@ def test_opened_by_the_user(folder, wine):
     app.main.drop_files(path)
     assert app.main.source.rows() == [("10:15:30", r"Delete C:\x.txt")]
     assert folder.settings["Ordalyn"]["RecentFiles1"] == path
+    app.close()
+
+
+def test_a_log_that_cannot_be_read_to_its_end_changes_nothing(folder):
+    app = folder.show([line("a"), r"02.03.2024 10:15:31: Copy C:\b.txt -> D:\b.txt"])
+    bad = folder.write("bad.log", [line("x", "05.03.2024")] * 5 + ["garbage"])
+    before = shown(app)
+    app.main.ask("dropFiles", paths=[folder.windows(bad.name)])
+    message = app.message(30)
+    assert message.text.endswith("Line: 6")
+    message.press("OK")
+    assert shown(app) == before
+    app.main.dates.choose("01.03.2024")
+    assert app.main.source.rows() == [("10:15:30", r"Delete C:\a.txt")]
     app.close()

@@ -2,6 +2,7 @@
 
 import re
 import subprocess
+import threading
 import time
 
 import pytest
@@ -85,8 +86,9 @@ def test_the_log_is_rotated_and_deleted_while_it_is_shown(folder, wine):
     cmd(wine, f"ren {path} live.1.log && echo {line('new')}>{path}")
     assert log.with_name("live.1.log").exists() and log.exists()
     app.keys("F5")
-    # The new log is shorter than what was read: nothing to add, but the old one is offered.
-    assert operations(app) == ["a.txt", "b.txt", "c.txt"]
+    # The new log does not go on with what was read: it is read anew, and the old one is offered.
+    assert operations(app) == ["new.txt"]
+    assert app.main.source.selected == [0]
     assert app.main.files.visible
     assert app.main.files.items == ["All files", "live.log", "live.1.log"]
     app.main.files.choose("live.1.log")
@@ -220,4 +222,55 @@ def test_logs_that_take_each_other_s_place_are_read(folder, wine):
     assert app.main.source.row_count == len(lines) > 0
     assert app.main.source.rows(0, 1) == [("10:15:30", lines[0].split(": ", 1)[1])]
     assert app.main.responsive
+    app.close()
+
+
+def test_beside_a_writer_every_refresh_brings_each_line_once(folder):
+    """A log that another program appends to all the time, rotates and truncates."""
+    app, log, _ = start(folder, [line("n0")])
+    stop = threading.Event()
+    lock = threading.Lock()
+    count = 1
+
+    def write():
+        nonlocal count
+        while not stop.wait(0.004):
+            with lock, open(log, "ab") as file:
+                file.write((line(f"n{count}") + "\r\n").encode())
+                count += 1
+
+    writer = threading.Thread(target=write)
+    writer.start()
+    try:
+        for turn in range(200):
+            if turn in (60, 130):
+                with lock:
+                    if turn == 60:
+                        log.rename(log.with_name("live.1.log"))
+                    log.write_bytes(b"")
+                    count = 0
+            app.agent.ask("keys", keys=[0x74, 1, 0x74, 0])
+            app.settle(30)
+            assert not app.find_dialog(), turn
+            if turn % 20 == 0:
+                shown = operations(app)
+                assert shown == [f"n{i}.txt" for i in range(len(shown))], turn
+    finally:
+        stop.set()
+        writer.join()
+    app.keys("F5")
+    assert operations(app) == [f"n{i}.txt" for i in range(count)]
+    assert app.main.source.selected == [count - 1]
+    app.close()
+
+
+def test_a_line_that_had_no_end_is_read_again(folder):
+    app, log, _ = start(folder, [line("a")])
+    with open(log, "ab") as file:
+        file.write(line("unfin")[:-4].encode())
+    app.keys("F5")
+    with open(log, "ab") as file:
+        file.write((f"ished.txt\r\n{line('c')}\r\n").encode())
+    app.keys("F5")
+    assert operations(app) == ["a.txt", "unfinished.txt", "c.txt"]
     app.close()

@@ -1,6 +1,5 @@
 #include "windows/main/CopyCommands.h"
 
-#include "base/Attempt.h"
 #include "windows/panels/EntryRows.h"
 
 namespace ordalyn {
@@ -21,11 +20,7 @@ void CopyCommands::CopySource() {
 
 bool CopyCommands::HasTarget() const {
     const int row = source_.SelectedRow();
-    bool found = false;
-    // A failed read leaves rows whose entries are gone.
-    if (row >= 0)
-        Attempt([&] { found = !entries_.EntryTargets().List(source_.Tag(row)).empty(); });
-    return found;
+    return row >= 0 && !entries_.EntryTargets().List(source_.Tag(row)).empty();
 }
 
 void CopyCommands::CopyTarget() {

@@ -18,8 +18,7 @@ class CopyCommands {
 
     // The operation with its source path, as the panel shows it.
     void CopySource();
-    // The target of the row's entry. Throws SubscriptOutOfRange when the rows are older than the
-    // entries.
+    // The target of the row's entry.
     void CopyTarget();
     bool HasTarget() const;
 

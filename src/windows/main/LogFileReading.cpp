@@ -1,19 +1,50 @@
 #include "windows/main/LogFileReading.h"
 
+#include <chrono>
 #include <exception>
 
+#include "base/Attempt.h"
+#include "base/Errors.h"
 #include "base/FileNames.h"
 #include "base/TextIds.h"
+#include "log/AppendedLines.h"
 #include "toolkit/ScopedPointer.h"
 
 namespace ordalyn {
 
-LogFileReading::LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow, LogReader& reader,
+namespace {
+
+// A log that is being rotated is missing for a moment. Longer than this, a person would wait.
+constexpr std::chrono::milliseconds kMoment{100};
+
+class ReadAnewFailed : public Error {
+  public:
+    explicit ReadAnewFailed(std::int32_t line)
+        : Error("A log that has changed cannot be read"), lineNumber(line) {}
+    std::int32_t lineNumber;
+};
+
+// Reads, and tries again for a moment as long as the file cannot be opened or read.
+template <typename Read>
+auto InAMoment(const Read& read) {
+    const auto end = std::chrono::steady_clock::now() + kMoment;
+    while (true) {
+        try {
+            return read();
+        } catch (const FileError&) {
+            if (std::chrono::steady_clock::now() >= end)
+                throw;
+        }
+    }
+}
+
+}  // namespace
+
+LogFileReading::LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow,
                                EntryLists& entries, DayPanels& panels, ReadingProgress& progress,
                                MainTitle& title)
     : shared_(shared),
       mainWindow_(mainWindow),
-      reader_(reader),
       entries_(entries),
       panels_(panels),
       progress_(progress),
@@ -21,7 +52,7 @@ LogFileReading::LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow,
 
 std::string LogFileReading::ChooseFile() {
     cCommonDialog& dialog = *shared_.commonDialog;
-    dialog.ShowOpenDialog(mainWindow_.Handle(), GetFilePath(reader_.CurrentLogFile()), "",
+    dialog.ShowOpenDialog(mainWindow_.Handle(), GetFilePath(CurrentLogFile()), "",
                           cCommonDialog::kLogFiles, "", true);
     return dialog.Confirmed ? dialog.FileName : "";
 }
@@ -31,22 +62,72 @@ void LogFileReading::EnableWindows(bool enabled) {
     WindowsEnabled.Raise(enabled);
 }
 
-void LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles,
-                                 bool startNewList) {
+bool LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles) {
     if (reading_ || stopped_)
-        return;
+        return false;
     const toolkit::ScopedFlag reading(reading_);
+    const std::string titleBefore = title_.Text();
+    EntryLists fresh;
+    LogReader reader(shared_.services.files, shared_.services.codePages, fresh);
     try {
         if (showDialog)
             fileName = ChooseFile();
         if (fileName.empty())
-            return;
-        ReadWhole(fileName, addToRecentFiles, startNewList);
+            return false;
+        Prepare(reader, fileName, true);
+        if (stopped_)
+            return false;
+        ReadEntries(reader);
+        if (addToRecentFiles)
+            FileOpened.Raise(fileName);
+        fresh.FreeExtraItems();
     } catch (const std::exception&) {
         // Whatever it was, the user is told where in which file; running out of memory included.
         progress_.HideProgress();
-        ShowReadError();
+        title_.SetTitle(titleBefore);
+        ShowReadError(fileName, reader.LineNumber());
+        return false;
     }
+    mark_ = reader.Mark();
+    Show(fresh, true);
+    progress_.HideProgress();
+    return true;
+}
+
+void LogFileReading::AddLogFile(const std::string& fileName, EntryLists& set) {
+    if (reading_ || stopped_)
+        return;
+    const toolkit::ScopedFlag reading(reading_);
+    LogReader reader(shared_.services.files, shared_.services.codePages, set);
+    try {
+        Prepare(reader, fileName, false);
+        if (!stopped_)
+            ReadEntries(reader);
+    } catch (const std::exception&) {
+        progress_.HideProgress();
+        ShowReadError(fileName, reader.LineNumber());
+    }
+}
+
+void LogFileReading::ShowSet(EntryLists& set, const std::string& lastFile) {
+    Attempt([&] { set.FreeExtraItems(); });
+    progress_.HideProgress();
+    mark_ = {};
+    mark_.path = lastFile;
+    Show(set, false);
+}
+
+// A log without any date has no row to show. What is on the screen then stays, and so do its
+// entries: that is what is copied, found and filtered.
+void LogFileReading::Show(EntryLists& entries, bool selectLastDate) {
+    if (!entries.HasDates() && panels_.Days().DayCount() > 0) {
+        panels_.ShowNoDays();
+        mark_.trace = {};
+        mark_.lineCount = 0;
+        return;
+    }
+    entries_.Swap(entries);
+    panels_.BuildDateList(selectLastDate);
 }
 
 LogFileReading::Busy::Busy(LogFileReading& reading) : reading_(reading) {
@@ -60,56 +141,76 @@ LogFileReading::Busy::~Busy() {
 }
 
 // Counts the lines and shows the progress window, which handles the messages that came meanwhile.
-void LogFileReading::Prepare(const std::string& fileName, bool startNewList) {
+void LogFileReading::Prepare(LogReader& reader, const std::string& fileName, bool alone) {
     const Busy busy(*this);
-    reader_.BeginFile(fileName);
-    if (startNewList) {
+    reader.BeginFile(fileName);
+    if (alone) {
         title_.SetTitle(fileName);
-        entries_.Clear();
         progress_.PrepareCompact();
     } else {
         progress_.PrepareTall(GetFileName(fileName));
     }
-    progress_.ShowProgress(shared_.Text(text_id::kReading), reader_.LineCount());
+    progress_.ShowProgress(shared_.Text(text_id::kReading), reader.LineCount());
 }
 
-void LogFileReading::ReadWhole(const std::string& fileName, bool addToRecentFiles,
-                               bool startNewList) {
-    Prepare(fileName, startNewList);
-    if (stopped_)
-        return;
-    reader_.ReadEntries([this](std::int32_t value) { progress_.SetValue(value); });
-    if (addToRecentFiles)
-        FileOpened.Raise(fileName);
-    if (!startNewList)
-        return;
-    entries_.FreeExtraItems();
-    panels_.BuildDateList(true);
-    progress_.HideProgress();
+void LogFileReading::ReadEntries(LogReader& reader) {
+    reader.ReadEntries([this](std::int32_t value) { progress_.SetValue(value); });
 }
 
-void LogFileReading::ReadAppendedLines(const std::string& fileName) {
-    if (reading_)
+void LogFileReading::Refresh() {
+    if (reading_ || stopped_)
         return;
     const toolkit::ScopedFlag reading(reading_);
+    AppendedLines appended(shared_.services.files, shared_.services.codePages, entries_);
     try {
         const toolkit::ScopedPointer hourglass(shared_.toolkit, toolkit::Pointer::Hourglass);
-        if (!reader_.ReadAppendedLines(fileName))
+        if (mark_.lineCount == 0) {
+            ReadAnew();
             return;
-        panels_.BuildDateList(true);
-        panels_.SelectLastRow();
+        }
+        switch (InAMoment([&] { return appended.Read(mark_); })) {
+            case AppendedLines::Found::Nothing:
+                return;
+            case AppendedLines::Found::Lines:
+                panels_.BuildDateList(true);
+                panels_.SelectLastRow();
+                return;
+            case AppendedLines::Found::AnotherFile:
+                ReadAnew();
+                return;
+        }
+    } catch (const ReadAnewFailed& failed) {
+        ShowReadError(mark_.path, failed.lineNumber);
     } catch (const std::exception&) {
-        ShowReadError();
+        ShowReadError(mark_.path, appended.LineNumber());
     }
 }
 
+// The file is another one than the one that was read, perhaps one that another program writes just
+// now: its lines are not counted first. One that is empty is a log about to begin.
+void LogFileReading::ReadAnew() {
+    EntryLists fresh;
+    LogReader reader(shared_.services.files, shared_.services.codePages, fresh);
+    try {
+        InAMoment([&] { reader.ReadGrowingFile(mark_.path); });
+    } catch (const std::exception&) {
+        throw ReadAnewFailed(reader.LineNumber());
+    }
+    if (fresh.EntrySources().ListCount() < 0)
+        return;
+    fresh.FreeExtraItems();
+    mark_ = reader.Mark();
+    title_.SetTitle(mark_.path);
+    Show(fresh, true);
+    panels_.SelectLastRow();
+}
+
 // The message is modal: what events can change may have changed when it returns.
-void LogFileReading::ShowReadError() {
-    shared_.toolkit.ShowMessage(
-        &mainWindow_,
-        shared_.Text(text_id::kErrorInFile) + "\r\n" + reader_.CurrentLogFile() + "\r\n" +
-            shared_.Text(text_id::kLine) + " " + std::to_string(reader_.LineNumber()),
-        mAppCommon::kProgramTitle);
+void LogFileReading::ShowReadError(const std::string& fileName, std::int32_t lineNumber) {
+    shared_.toolkit.ShowMessage(&mainWindow_,
+                                shared_.Text(text_id::kErrorInFile) + "\r\n" + fileName + "\r\n" +
+                                    shared_.Text(text_id::kLine) + " " + std::to_string(lineNumber),
+                                mAppCommon::kProgramTitle);
 }
 
 }  // namespace ordalyn

@@ -29,9 +29,8 @@ class LogFileReading {
         LogFileReading& reading_;
     };
 
-    LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow, LogReader& reader,
-                   EntryLists& entries, DayPanels& panels, ReadingProgress& progress,
-                   MainTitle& title);
+    LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow, EntryLists& entries,
+                   DayPanels& panels, ReadingProgress& progress, MainTitle& title);
 
     // A file was read that belongs into the list of recent files.
     toolkit::Event<const std::string&> FileOpened;
@@ -39,15 +38,20 @@ class LogFileReading {
     // a read.
     toolkit::Event<bool> WindowsEnabled;
 
-    // Reads one whole file. A failure of any kind ends in a message that names the file and the
-    // line; the entries before it stay in the lists, and the days are not listed anew. Does nothing
-    // while another file is being read.
-    void ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles,
-                     bool startNewList);
-    // Reads the lines that were added since the last read, then shows the last day and its last
-    // row.
-    void ReadAppendedLines(const std::string& fileName);
-    void HideProgress() { progress_.HideProgress(); }
+    // Reads one whole file and shows it instead of what is shown; answers whether it does. A
+    // failure of any kind ends in a message that names the file and the line, and leaves the window
+    // as it was. Does nothing while another file is being read.
+    bool ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles);
+    // Reads one of several files, behind what `set` has; a message tells of a failure, and what was
+    // read before it stays. The progress window stays, too.
+    void AddLogFile(const std::string& fileName, EntryLists& set);
+    // Shows what has been read of several files, the last of which is this one; `set` is used up.
+    void ShowSet(EntryLists& set, const std::string& lastFile);
+    // Reads what is new in the file that is shown, then shows the last day and its last row. A file
+    // that does not continue what was read is read anew.
+    void Refresh();
+    // The file that is shown; empty when none is.
+    const std::string& CurrentLogFile() const { return mark_.path; }
 
     // The main window has closed, perhaps in the middle of a read: nothing is read, shown or told
     // any more.
@@ -58,20 +62,24 @@ class LogFileReading {
     bool CancelReading = false;
 
   private:
-    void Prepare(const std::string& fileName, bool startNewList);
-    void ReadWhole(const std::string& fileName, bool addToRecentFiles, bool startNewList);
-    void ShowReadError();
+    void Prepare(LogReader& reader, const std::string& fileName, bool alone);
+    void ReadEntries(LogReader& reader);
+    void ReadAnew();
+    void Show(EntryLists& entries, bool selectLastDate);
+    void ShowReadError(const std::string& fileName, std::int32_t lineNumber);
     void EnableWindows(bool enabled);
     // Empty when the user cancels.
     std::string ChooseFile();
 
     SharedObjects& shared_;
     toolkit::Form& mainWindow_;
-    LogReader& reader_;
     EntryLists& entries_;
     DayPanels& panels_;
     ReadingProgress& progress_;
     MainTitle& title_;
+    // How far the file that is shown has been read; without a count when its entries are not those
+    // of the lists.
+    LogMark mark_;
     int busy_ = 0;
     bool reading_ = false;
     bool stopped_ = false;

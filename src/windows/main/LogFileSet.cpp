@@ -1,5 +1,8 @@
 #include "windows/main/LogFileSet.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "base/Attempt.h"
 #include "base/Text.h"
 #include "base/TextIds.h"
@@ -15,14 +18,9 @@ constexpr int kFirstSiblingItem = 2;
 
 }  // namespace
 
-LogFileSet::LogFileSet(SharedObjects& shared, const Controls& controls, EntryLists& entries,
-                       LogFileReading& reading, DayPanels& panels, MainTitle& title)
-    : shared_(shared),
-      controls_(controls),
-      entries_(entries),
-      reading_(reading),
-      panels_(panels),
-      title_(title) {
+LogFileSet::LogFileSet(SharedObjects& shared, const Controls& controls, LogFileReading& reading,
+                       MainTitle& title)
+    : shared_(shared), controls_(controls), reading_(reading), title_(title) {
     controls_.cboFiles.Click.Subscribe([this] { FileComboClicked(); });
 }
 
@@ -95,16 +93,18 @@ void LogFileSet::FileComboClicked() {
     const int index = controls_.cboFiles.ListIndex();
     if (index == lastFilesIndex_)
         return;
-    lastFilesIndex_ = index;
+    const int before = std::exchange(lastFilesIndex_, index);
     if (ignoreComboClick_)
         return;
     // A list that has shrunk to the live log alone has no item for all of them.
     if (index == kAllFilesItem && controls_.cboFiles.ListCount() > 1) {
-        ReadAllFiles();
+        ReadAllFiles(before);
         return;
     }
-    reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.Text(), false, true);
-    EnableRefreshForLiveLog();
+    if (reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.Text(), false))
+        EnableRefreshForLiveLog();
+    else
+        SelectAgain(before);
 }
 
 // Only the live log can grow.
@@ -112,34 +112,38 @@ void LogFileSet::EnableRefreshForLiveLog() {
     controls_.mnuViewRefresh.SetEnabled(EqualsIgnoreCase(controls_.cboFiles.Text(), liveLogName_));
 }
 
-void LogFileSet::ReadAllFiles() {
-    entries_.Clear();
+// A file that could not be read is not the one that is shown.
+void LogFileSet::SelectAgain(int before) {
+    if (!reading_.Stopped())
+        SelectWithoutReading(before < controls_.cboFiles.ListCount() ? std::max(before, -1) : -1);
+}
+
+void LogFileSet::ReadAllFiles(int before) {
+    EntryLists set;
     reading_.CancelReading = false;
+    const std::string liveLog = logFolder_ + controls_.cboFiles.List(kLiveLogItem);
     bool stopped = false;
     {
         // Events are handled between the files: no other window may be used meanwhile.
         const LogFileReading::Busy busy(reading_);
-        stopped = !ReadSiblings();
+        stopped = !ReadSiblings(set);
         if (!stopped)
-            reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.List(kLiveLogItem), false,
-                                 false);
+            reading_.AddLogFile(liveLog, set);
     }
     if (reading_.Stopped())
         return;
     if (stopped) {
-        ReadOnlyLiveLog();
+        ReadOnlyLiveLog(before);
         return;
     }
     title_.SetTitle(shared_.Text(text_id::kAllFiles));
-    Attempt([this] { entries_.FreeExtraItems(); });
-    reading_.HideProgress();
-    panels_.BuildDateList(false);
+    reading_.ShowSet(set, liveLog);
     controls_.mnuViewRefresh.SetEnabled(false);
 }
 
-bool LogFileSet::ReadSiblings() {
+bool LogFileSet::ReadSiblings(EntryLists& set) {
     for (int item = kFirstSiblingItem; item < controls_.cboFiles.ListCount(); ++item) {
-        reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.List(item), false, false);
+        reading_.AddLogFile(logFolder_ + controls_.cboFiles.List(item), set);
         // So that a click on Cancel is seen. The main window waits for the read, but the list of
         // files could still change here.
         shared_.toolkit.DoEvents();
@@ -155,8 +159,11 @@ bool LogFileSet::ReadSiblings() {
     return true;
 }
 
-void LogFileSet::ReadOnlyLiveLog() {
-    reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.List(kLiveLogItem), false, true);
+void LogFileSet::ReadOnlyLiveLog(int before) {
+    if (!reading_.ReadLogFile(false, logFolder_ + controls_.cboFiles.List(kLiveLogItem), false)) {
+        SelectAgain(before);
+        return;
+    }
     // The list still names "All files" here, so this leaves Refresh disabled. Kept as it is.
     EnableRefreshForLiveLog();
     SelectWithoutReading(kLiveLogItem);

@@ -22,8 +22,8 @@ class LogFileSet {
         toolkit::MenuItem& mnuViewRefresh;
     };
 
-    LogFileSet(SharedObjects& shared, const Controls& controls, EntryLists& entries,
-               LogFileReading& reading, DayPanels& panels, MainTitle& title);
+    LogFileSet(SharedObjects& shared, const Controls& controls, LogFileReading& reading,
+               MainTitle& title);
 
     // Rebuilds the list of files, with the live log selected but not read. Errors end single steps
     // only.
@@ -42,18 +42,18 @@ class LogFileSet {
     RotationSettings ReadRotationSettings() const;
     void ShowLogFileCombo();
     void FileComboClicked();
-    void ReadAllFiles();
+    // `before` is the item that was selected before this one was chosen.
+    void ReadAllFiles(int before);
     // Reads the rotated siblings in the order of the list; false when the user stopped it.
-    bool ReadSiblings();
-    void ReadOnlyLiveLog();
+    bool ReadSiblings(EntryLists& set);
+    void ReadOnlyLiveLog(int before);
+    void SelectAgain(int before);
     void EnableRefreshForLiveLog();
     void SelectWithoutReading(int index);
 
     SharedObjects& shared_;
     Controls controls_;
-    EntryLists& entries_;
     LogFileReading& reading_;
-    DayPanels& panels_;
     MainTitle& title_;
     bool ignoreComboClick_ = false;  // while code chooses an item
     std::string liveLogName_;

@@ -6,8 +6,9 @@
 namespace ordalyn {
 
 void MainTitle::SetTitle(std::string_view text) {
+    text_ = text;
     mainWindow_.SetCaption(std::string(mAppCommon::kProgramTitle) + " " +
-                           GetVersionText(" RC 1 - ") + std::string(text));
+                           GetVersionText(" RC 1 - ") + text_);
 }
 
 }  // namespace ordalyn

@@ -14,6 +14,7 @@ class MainTitle {
 
     // The text behind program and version.
     void SetTitle(std::string_view text);
+    const std::string& Text() const { return text_; }
     // A file of the log's set, by its name. The folder in front of it is the live log's, also when
     // the file was opened from another one.
     void ShowFile(std::string_view fileName) { SetTitle(logFolder_ + std::string(fileName)); }
@@ -22,6 +23,7 @@ class MainTitle {
 
   private:
     toolkit::Form& mainWindow_;
+    std::string text_;
     std::string logFolder_;
 };
 

@@ -36,15 +36,13 @@ frmMain::frmMain(SharedObjects& shared)
       title_(*this),
       columns_(shared, SourceListView, TargetListView),
       copy_(shared.services.clipboard, SourceListView, entries_),
-      reader_(shared.services.files, shared.services.codePages, entries_),
       panels_({*this, cboDate, SourceListView, TargetListView, StatusBar1, Menu("mnuContext"),
                Menu("mnuContextCopyTarget")},
               entries_, filter_, *shared.settings, shared.services.locale, shared.Texts()),
       progress_(shared.toolkit, *this, shared.FormTexts(),
                 [this] { reading_.CancelReading = true; }),
-      reading_(shared, *this, reader_, entries_, panels_, progress_, title_),
-      files_(shared, {*this, cboFiles, SourceListView, Menu("mnuViewRefresh")}, entries_, reading_,
-             panels_, title_),
+      reading_(shared, *this, entries_, panels_, progress_, title_),
+      files_(shared, {*this, cboFiles, SourceListView, Menu("mnuViewRefresh")}, reading_, title_),
       layout_({*this, cboDate, Get<toolkit::PictureBox>("picSpliterContainer"),
                Get<toolkit::Frame>("Frame1"), SourceListView, TargetListView, StatusBar1,
                Menu("mnuViewStatusBar"), Menu("mnuViewTwoPanels"), Menu("mnuViewVerticalPanels")},
@@ -151,7 +149,7 @@ void frmMain::WireMenus() {
 
 void frmMain::WireParts() {
     panels_.RowShown.Subscribe(
-        [this](int row) { title_.ShowFile(entries_.EntryFiles().List(SourceListView.Tag(row))); });
+        [this](int row) { title_.ShowFile(entries_.FileOf(SourceListView.Tag(row))); });
     layout_.RowMoved.Subscribe([this](int row) { panels_.SourceRowClicked(row); });
     reading_.WindowsEnabled.Subscribe([this](bool enabled) { find_.EnableDialogs(enabled); });
     reading_.FileOpened.Subscribe([this](const std::string& path) {
@@ -183,6 +181,10 @@ void frmMain::FirstActivation() {
     if (activated_)
         return;
     activated_ = true;
+    FindLog();
+}
+
+void frmMain::FindLog() {
     // Both can show dialogs, which handle messages; a later activation does nothing by now.
     Attempt([this] { locator_.FindCommanderFolder(); });
     Attempt([this] { locator_.FindCommanderIni(); });
@@ -191,14 +193,13 @@ void frmMain::FirstActivation() {
     std::string logFile;
     Attempt([&] { logFile = locator_.FindLogFile(); });
     if (!shared_.common.FileExists(logFile)) {
-        reader_.ForgetLogFile();
         SetTitle("");
         shared_.toolkit.ShowMessage(this, shared_.Text(text_id::kNoCommanderLog),
                                     mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
         return;
     }
     files_.BuildLogFileList();
-    reading_.ReadLogFile(false, logFile, false, true);
+    reading_.ReadLogFile(false, logFile, false);
 }
 
 void frmMain::KeyReleased(int key, toolkit::Modifiers modifiers) {
@@ -218,8 +219,8 @@ void frmMain::KeyReleased(int key, toolkit::Modifiers modifiers) {
 }
 
 void frmMain::OpenLog(const std::string& path) {
-    reading_.ReadLogFile(path.empty(), path, true, true);
-    files_.DeselectLogFile();
+    if (reading_.ReadLogFile(path.empty(), path, true))
+        files_.DeselectLogFile();
 }
 
 void frmMain::OpenRecentFile(std::int32_t index) {
@@ -238,7 +239,11 @@ void frmMain::OpenRecentFile(std::int32_t index) {
 }
 
 void frmMain::RefreshLog() {
-    reading_.ReadAppendedLines(reader_.CurrentLogFile());
+    if (reading_.CurrentLogFile().empty()) {
+        FindLog();
+        return;
+    }
+    reading_.Refresh();
     files_.BuildLogFileList();
 }
 

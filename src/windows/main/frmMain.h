@@ -8,7 +8,6 @@
 
 #include "hostconfig/TotalCommanderLocator.h"
 #include "log/EntryLists.h"
-#include "log/LogReader.h"
 #include "search/FilterChoice.h"
 #include "toolkit/Form.h"
 #include "windows/common/SharedObjects.h"
@@ -55,6 +54,8 @@ class frmMain : public toolkit::Form {
 
     // Events.
     void FirstActivation();
+    // Finds the file manager's settings and the log, and reads it.
+    void FindLog();
     void KeyReleased(int key, toolkit::Modifiers modifiers);
     void OpenLog(const std::string& path);
     void OpenRecentFile(std::int32_t index);
@@ -75,7 +76,6 @@ class frmMain : public toolkit::Form {
     MainTitle title_;
     PanelColumns columns_;
     CopyCommands copy_;
-    LogReader reader_;
     DayPanels panels_;
     ProgressWindow progress_;
     LogFileReading reading_;

@@ -28,9 +28,7 @@ DayPanels::DayPanels(const Controls& controls, const EntryLists& entries,
       text_(std::move(text)),
       panelFilter_(controls.SourceListView, controls.TargetListView, entries, filter, settings) {
     controls_.cboDate.Click.Subscribe([this] { DateComboClicked(); });
-    // Rows can be older than the entries, when a file could not be read, and an entry can be newer
-    // than the list of files: such a row has no title to show, which is nothing to report for each
-    // arrow key.
+    // A reaction that fails is nothing to report for each arrow key.
     controls_.SourceListView.ItemClick.Subscribe(
         [this](int row) { Attempt([&] { SourceRowClicked(row); }); });
     controls_.TargetListView.ItemClick.Subscribe(
@@ -68,12 +66,16 @@ void DayPanels::BuildDateList(bool selectLastDate) {
     controls_.SourceListView.SetFocus();
 }
 
-// Each step is made whatever became of the one before it, such as a reaction to the first row that
-// fails.
 void DayPanels::DateComboClicked() {
     if (ignoreComboClick_)
         return;
-    selectedDay_ = controls_.cboDate.ListIndex() - days_.FirstDayItem();
+    ShowDay(controls_.cboDate.ListIndex() - days_.FirstDayItem());
+}
+
+// Each step is made whatever became of the one before it, such as a reaction to the first row that
+// fails.
+void DayPanels::ShowDay(std::int32_t day) {
+    selectedDay_ = day;
     Attempt([this] { FillPanels(); });
     Attempt([this] { ApplyFilter(false); });
     Attempt([this] { DayShown.Raise(); });
@@ -138,21 +140,17 @@ void DayPanels::ShowDateInStatusBar(bool asGiven, std::string_view dateText) {
 void DayPanels::ApplyNewDateFormat(std::int32_t lngLd) {
     toolkit::ComboBox& cboDate = controls_.cboDate;
     const int selected = cboDate.ListIndex();
+    const bool listed = cboDate.ListCount() > 0;
     cboDate.Clear();
     std::vector<std::string> labels;
     if (days_.FirstDayItem() == 1)
         labels.push_back(text_(text_id::kAllDates));
     for (std::int32_t day = 0; day < days_.DayCount(); ++day) {
-        // Days that are older than the entries can have lost their dates; they keep their places.
-        std::string label;
-        Attempt([&] {
-            const std::string_view date = days_.DateOfDay(day, entries_.EntryDates());
-            label = lngLd != 0 ? LongDate(date) : std::string(date);
-        });
-        labels.push_back(std::move(label));
+        const std::string_view date = days_.DateOfDay(day, entries_.EntryDates());
+        labels.push_back(lngLd != 0 ? LongDate(date) : std::string(date));
     }
-    cboDate.AddItems(labels);
-    {
+    if (listed) {
+        cboDate.AddItems(labels);
         const toolkit::ScopedFlag ignore(ignoreComboClick_);
         cboDate.SetListIndex(selected);
     }
@@ -226,7 +224,7 @@ void DayPanels::ShowContextMenuAtRow() {
 void DayPanels::LanguageChanged() {
     ShowOperationCount();
     ShowFilterInStatusBar();
-    if (days_.FirstDayItem() == 1)
+    if (days_.FirstDayItem() == 1 && controls_.cboDate.ListCount() > 0)
         controls_.cboDate.SetItem(0, text_(text_id::kAllDates));
 }
 
@@ -237,8 +235,16 @@ bool DayPanels::ShowEntry(std::int32_t entry) {
     if (day == kNoDay)
         return false;
     if (day != selectedDay_)
-        controls_.cboDate.SetListIndex(CheckedAdd(days_.FirstDayItem(), day));
+        ChooseDay(day);
     return ShowRowOf(entry, days_.FirstEntryOf(day));
+}
+
+void DayPanels::ChooseDay(std::int32_t day) {
+    if (controls_.cboDate.ListCount() > 0) {
+        controls_.cboDate.SetListIndex(CheckedAdd(days_.FirstDayItem(), day));
+    } else {  // the days of the log whose rows are shown are not listed
+        ShowDay(day);
+    }
 }
 
 // Selects the entry's row. Without a filter the rows are the entries from the first one on, so its

@@ -52,6 +52,8 @@ class DayPanels : public EntryDisplay {
     // which fills the panels. A log without any dated entry empties cboDate and leaves the panels
     // alone. Errors end single steps only.
     void BuildDateList(bool selectLastDate);
+    // Empties the list of days; the panels and the index that belongs to them stay.
+    void ShowNoDays() { controls_.cboDate.Clear(); }
     // Fills both panels for SelectedDay unless they show it already. Every entry has its row, also
     // one whose time cannot be told.
     void FillPanels();
@@ -92,6 +94,8 @@ class DayPanels : public EntryDisplay {
 
   private:
     void DateComboClicked();
+    void ChooseDay(std::int32_t day);
+    void ShowDay(std::int32_t day);
     void TargetRowClicked(int row);
     void RowIsShown(int row);
     bool PrepareContextMenu();

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "log/LogReader.h"
 #include "support/platform/MemoryPlatform.h"
 #include "support/toolkit/MemoryToolkit.h"
 #include "windows/main/LogFileReading.h"
@@ -99,7 +98,7 @@ class LogWindow : public testing::Test {
     // Makes a log of these lines the entries and builds the date list.
     void Load(const std::vector<std::string>& lines, bool selectLast = true) {
         Write(kLog, lines);
-        reading.ReadLogFile(false, kLog, false, true);
+        reading.ReadLogFile(false, kLog, false);
         if (!selectLast)
             panels.BuildDateList(false);
     }
@@ -146,7 +145,6 @@ class LogWindow : public testing::Test {
 
     EntryLists entries;
     FilterChoice filter;
-    LogReader reader{system.files, system.codePages, entries};
     std::vector<int> shownRows;
     std::vector<std::int32_t> daysShown;
     DayPanels panels{{form, cboDate, SourceListView, TargetListView, StatusBar1,
@@ -161,9 +159,8 @@ class LogWindow : public testing::Test {
     std::vector<std::string> remembered;
     std::vector<std::string> dialogFolders;
     std::optional<std::string> chosenFile;
-    LogFileReading reading{shared, form, reader, entries, panels, progress, title};
-    LogFileSet files{
-        shared, {form, cboFiles, SourceListView, mnuViewRefresh}, entries, reading, panels, title};
+    LogFileReading reading{shared, form, entries, panels, progress, title};
+    LogFileSet files{shared, {form, cboFiles, SourceListView, mnuViewRefresh}, reading, title};
 };
 
 }  // namespace ordalyn::test

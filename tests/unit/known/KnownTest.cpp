@@ -11,6 +11,7 @@
 #include "hostconfig/OperationWords.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/mAppCommon.h"
+#include "log/AppendedLines.h"
 #include "log/DayIndex.h"
 #include "log/DayRows.h"
 #include "log/EntryLists.h"
@@ -104,9 +105,11 @@ TEST_F(Known, ATextIsFoundWhateverItsLetterCaseAndAsAWholeWord) {
 
 TEST_F(Known, WhatIsAppendedIsKnownNext) {
     Read();
-    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
+    AppendedLines appended(system.files, system.codePages, entries);
+    LogMark mark = reader.Mark();
+    EXPECT_EQ(appended.Read(mark), AppendedLines::Found::Nothing);
     system.files.Append(kPath, "03.03.2024 09:00:00: Delete C:\\d.txt\r\n");
-    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
+    EXPECT_EQ(appended.Read(mark), AppendedLines::Found::Lines);
     EXPECT_THAT(index.Build(entries.EntryDates()),
                 ElementsAre("01.03.2024", "02.03.2024", "03.03.2024"));
     EXPECT_THAT(RowsOf(2), ElementsAre(5));

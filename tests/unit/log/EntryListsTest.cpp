@@ -97,5 +97,41 @@ TEST(EntryLists, EachEntryHasTheFileThatWasSetBeforeIt) {
     EXPECT_EQ(entries.EntryFiles().List(0), "y.log") << "clearing changes nothing about it";
 }
 
+TEST(EntryLists, SwapExchangesEverything) {
+    EntryLists a;
+    EntryLists b;
+    a.SetFile("a.log");
+    a.Add({"d", "t: a", "x"});
+    b.SetFile("b.log");
+    a.Swap(b);
+    EXPECT_EQ(a.EntrySources().ListCount(), -1);
+    EXPECT_FALSE(a.HasDates());
+    EXPECT_TRUE(b.HasDates());
+    EXPECT_EQ(b.FileOf(0), "a.log");
+    EXPECT_EQ(b.EntryTargets().List(0), "x");
+    a.Add({"", "t: b", ""});
+    EXPECT_FALSE(a.HasDates());
+    EXPECT_EQ(a.FileOf(0), "b.log");
+    b.Add({"d", "t: c", "y"});
+    EXPECT_EQ(b.EntryDates().Position(0), b.EntryDates().Position(1));
+}
+
+TEST(EntryLists, TheLastEntryCanBeReplacedWhateverStandsBeforeIt) {
+    for (const int before : {0, 1, 5, 255, 256, 257}) {
+        SCOPED_TRACE(before);
+        EntryLists entries;
+        for (int i = 0; i <= before; ++i)
+            entries.Add({"d", "t: same", ""});
+        entries.ReplaceLast({"e", "t: other", "z"});
+        entries.Add({"d", "t: same", ""});
+        for (int i = 0; i < before; ++i)
+            ASSERT_EQ(entries.EntryDates().List(i), "d");
+        EXPECT_EQ(entries.EntryDates().List(before), "e");
+        EXPECT_EQ(entries.EntrySources().List(before), "t: other");
+        EXPECT_EQ(entries.EntryTargets().List(before), "z");
+        EXPECT_EQ(entries.EntryDates().List(before + 1), "d");
+    }
+}
+
 }  // namespace
 }  // namespace ordalyn

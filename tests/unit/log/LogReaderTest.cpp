@@ -198,136 +198,46 @@ TEST_F(LogReaderTest, MarksAndEncodingsNeverReachAField) {
     EXPECT_THAT(Targets(), ElementsAre("\xC3\xB6", ""));
 }
 
-// Refresh.
+// A file that another program writes.
 
-TEST_F(LogReaderTest, AnUnchangedFileHasNothingAppended) {
-    files.Put(kPath, "d t: a\r\n\r\nd t: b\r\n");
-    ReadFile(kPath);
-    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b"));
-    EXPECT_EQ(reader.LineCount(), 4);
-    EXPECT_EQ(files.openNow, 0);
+TEST_F(LogReaderTest, AGrowingFileIsReadInOnePassHoweverManyLinesItHas) {
+    std::string bytes;
+    for (int i = 0; i < 1000; ++i)
+        bytes += "d t: a\r\n";
+    files.Put(kPath, bytes + ";c\r\n");
+    files.PutNext(kPath, "");
+    reader.ReadGrowingFile(kPath);
+    EXPECT_EQ(entries.EntrySources().ListCount(), 1000);
+    EXPECT_EQ(entries.EntrySources().List(1000), "; c");
+    EXPECT_EQ(files.opened, 1);
+    EXPECT_EQ(reader.Mark().lineCount, 1002);
+    EXPECT_EQ(reader.LineCount(), 1002);
 }
 
-TEST_F(LogReaderTest, AppendedLinesAreReadOnce) {
-    files.Put(kPath, "d t: a\r\n");
-    ReadFile(kPath);
-    entries.FreeExtraItems();
-    files.Put(kPath, "d t: a\r\nd t: Copy b -> c\r\n\r\n  e t: d  \r\n");
-    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Dates(), ElementsAre("d", "d", "e"));
-    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: Copy b ", "t: d"));
-    EXPECT_THAT(Targets(), ElementsAre("", "c", ""));
-    EXPECT_EQ(reader.LineCount(), 5);
-    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: Copy b ", "t: d"));
-    EXPECT_EQ(files.openNow, 0);
-}
-
-TEST_F(LogReaderTest, AppendedBlankLinesCountAsNewLines) {
-    files.Put(kPath, "d t: a\n");
-    ReadFile(kPath);
-    files.Put(kPath, "d t: a\n\n");
-    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
+TEST_F(LogReaderTest, OfAGrowingFileALineThatIsJustBegunIsLeftForLater) {
+    files.Put(kPath, "d t: a\r\n01.0");
+    reader.ReadGrowingFile(kPath);
     EXPECT_THAT(Sources(), ElementsAre("t: a"));
-    EXPECT_EQ(reader.LineCount(), 3);
+    EXPECT_EQ(reader.Mark().lineCount, 2);
+    EXPECT_EQ(reader.Mark().lastLine, LogMark::LastLine::Finished);
+    files.Put(kPath, "d t: a\r\n01.0\r\n");
+    EXPECT_THROW(reader.ReadGrowingFile(kPath), MalformedText) << "it has its end";
 }
 
-TEST_F(LogReaderTest, AppendedLinesExtendNeitherFilesNorAreTheyTrimmed) {
-    files.Put(kPath, "d t: a\n");
-    ReadFile(kPath);
-    entries.FreeExtraItems();
-    files.Put(kPath, "d t: a\nd t: b\n");
-    reader.ReadAppendedLines(kPath);
-    EXPECT_THAT(Files(), ElementsAre("x.log"));
-    EXPECT_EQ(entries.EntryFiles().List(1), "");
-    EXPECT_THROW(entries.EntryFiles().List(2), SubscriptOutOfRange);
-    EXPECT_EQ(entries.EntrySources().UpperIndex(), 2000);
-}
-
-TEST_F(LogReaderTest, AppendedLinesKnowNoComments) {
-    files.Put(kPath, "d t: a\n");
-    ReadFile(kPath);
-    files.Put(kPath, "d t: a\n; hello world -> x\n");
-    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Dates(), ElementsAre("d", ";"));
-    EXPECT_THAT(Sources(), ElementsAre("t: a", "hello world "));
-    EXPECT_THAT(Targets(), ElementsAre("", "x"));
-
-    files.Put(kPath, "d t: a\n; hello world -> x\n;comment\n");
-    EXPECT_THROW(reader.ReadAppendedLines(kPath), MalformedText);
-}
-
-TEST_F(LogReaderTest, AFailureInAppendedLinesNamesTheCountBeforeThem) {
-    files.Put(kPath, "d t: a\nd t: b\n");
-    ReadFile(kPath);
-    files.Put(kPath, "d t: a\nd t: b\nd t: c\n\ngarbage\nd t: e\n");
-    EXPECT_THROW(reader.ReadAppendedLines(kPath), MalformedText);
-    EXPECT_EQ(reader.LineNumber(), 3);
-    EXPECT_EQ(reader.LineCount(), 6);
-    EXPECT_EQ(files.openNow, 0);
-    // The malformed line has been consumed; the next refresh goes on behind it.
-    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c", "t: e"));
-}
-
-TEST_F(LogReaderTest, AMissingFileHasNoAppendedLinesAndNamesZero) {
-    files.Put(kPath, "d t: a\nd t: b\n");
-    ReadFile(kPath);
-    files.Remove(kPath);
-    EXPECT_THROW(reader.ReadAppendedLines(kPath), FileError);
-    EXPECT_EQ(reader.LineNumber(), 0);
-    EXPECT_EQ(reader.LineCount(), 3);
-}
-
-TEST_F(LogReaderTest, AFailureWhilePassingOverOldLinesNamesZero) {
-    files.Put(kPath, "d t: a\nd t: b\n");
-    ReadFile(kPath);
-    files.mostAtOnce = 4;
-    files.failAfter = 8;
-    EXPECT_THROW(reader.ReadAppendedLines(kPath), FileError);
-    EXPECT_EQ(reader.LineNumber(), 0);
-}
-
-TEST_F(LogReaderTest, AFileThatWasTruncatedIsPassedOver) {
-    files.Put(kPath, "d t: a\nd t: b\nd t: c\n");
-    ReadFile(kPath);
-    files.Put(kPath, "d t: z\n");
-    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c"));
-    EXPECT_EQ(reader.LineCount(), 4);
-}
-
-TEST_F(LogReaderTest, BeforeAnyReadEveryLineCountsAsConsumed) {
-    // The count never meets 0 while it grows.
-    files.Put(kPath, "d t: a\nd t: b\n");
-    EXPECT_FALSE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Sources(), IsEmpty());
-    EXPECT_EQ(reader.LineCount(), 0);
-}
-
-TEST_F(LogReaderTest, AfterAFailedReadTheAppendedLinesAreThoseBehindTheCountedOnes) {
-    files.Put(kPath, "d t: a\ngarbage\nd t: c\n");
-    reader.BeginFile(kPath);
-    EXPECT_THROW(reader.ReadEntries(), MalformedText);
-    files.Put(kPath, "d t: a\ngarbage\nd t: c\nd t: d\n");
-    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: d"));
-}
-
-TEST_F(LogReaderTest, ALastLineThatWasReadUnfinishedIsNotReadAgain) {
-    files.Put(kPath, "d t: a\nd t: unfin");
-    ReadFile(kPath);
-    files.Put(kPath, "d t: a\nd t: unfinished\nd t: c\n");
-    EXPECT_TRUE(reader.ReadAppendedLines(kPath));
-    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: unfin", "t: c"));
-}
-
-TEST_F(LogReaderTest, ForgetsTheFile) {
-    files.Put(kPath, "d t: a\n");
-    ReadFile(kPath);
-    reader.ForgetLogFile();
-    EXPECT_EQ(reader.CurrentLogFile(), "");
+TEST_F(LogReaderTest, TheMarkSaysHowTheFileEnded) {
+    using LastLine = LogMark::LastLine;
+    for (const auto& [bytes, last] : {std::pair{"d t: a\r\n", LastLine::Finished},
+                                      {"d t: a", LastLine::UnfinishedEntry},
+                                      {"d t: a\n  ", LastLine::UnfinishedBlank},
+                                      {"d t: a\r", LastLine::Finished},
+                                      {"d t: a\n;", LastLine::UnfinishedEntry}}) {
+        files.Put(kPath, bytes);
+        ReadFile(kPath);
+        EXPECT_EQ(reader.Mark().lastLine, last) << bytes;
+        EXPECT_EQ(reader.Mark().lineCount, reader.LineCount());
+        EXPECT_EQ(reader.Mark().trace.Size(), std::string(bytes).size());
+        EXPECT_EQ(reader.Mark().path, kPath);
+    }
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ TEST_F(LogFileReadingTest, ReadsShowsAndFinishesInOrder) {
     EXPECT_THAT(Titles(), ElementsAre(kLog));
     EXPECT_THAT(progress.steps, ElementsAre("compact", "show Reading... Please wait. 4", "hide"));
     EXPECT_EQ(progress.lastValue, 4);  // it starts at 1 and grows with each line
-    EXPECT_EQ(reader.CurrentLogFile(), kLog);
+    EXPECT_EQ(reading.CurrentLogFile(), kLog);
     EXPECT_EQ(entries.EntrySources().List(0), "10:15:30: Copy C:\\a.txt ");
     EXPECT_THAT(Dates(), ElementsAre("All dates", "01.03.2024", "02.03.2024"));
     EXPECT_THAT(remembered, IsEmpty());
@@ -34,16 +34,18 @@ TEST_F(LogFileReadingTest, TrimsThreeListsButNotTheFiles) {
     EXPECT_EQ(entries.EntryFiles().List(1), "");
 }
 
-TEST_F(LogFileReadingTest, AppendingToTheListShowsTheTallFormAndChangesNoPanel) {
+TEST_F(LogFileReadingTest, OneOfSeveralFilesShowsTheTallFormAndChangesNothingYet) {
     Load({kLine});
     progress.steps.clear();
     ForgetTitles();
     Write("C:\\logs\\x.1.log", {kLine, kLine});
-    reading.ReadLogFile(false, "C:\\logs\\x.1.log", false, false);
+    EntryLists set;
+    reading.AddLogFile("C:\\logs\\x.1.log", set);
     EXPECT_THAT(progress.steps, ElementsAre("tall x.1.log", "show Reading... Please wait. 3"));
     EXPECT_THAT(Titles(), IsEmpty());
-    EXPECT_EQ(entries.EntryDates().ListCount(), 2);
-    EXPECT_EQ(entries.EntryFiles().List(2), "x.1.log");
+    EXPECT_EQ(set.EntryDates().ListCount(), 1);
+    EXPECT_EQ(set.EntryFiles().List(1), "x.1.log");
+    EXPECT_EQ(entries.EntryDates().ListCount(), 0);
     EXPECT_EQ(SourceListView.RowCount(), 1);
 }
 
@@ -51,9 +53,9 @@ TEST_F(LogFileReadingTest, TheOpenDialogStartsInTheCurrentLogsFolder) {
     Load({kLine});
     Write("C:\\other\\y.log", {kLine});
     chosenFile = "C:\\other\\y.log";
-    reading.ReadLogFile(true, "", true, true);
+    reading.ReadLogFile(true, "", true);
     EXPECT_THAT(dialogFolders, ElementsAre("C:\\logs\\"));
-    EXPECT_EQ(reader.CurrentLogFile(), "C:\\other\\y.log");
+    EXPECT_EQ(reading.CurrentLogFile(), "C:\\other\\y.log");
     EXPECT_THAT(remembered, ElementsAre("C:\\other\\y.log"));
 }
 
@@ -62,8 +64,8 @@ TEST_F(LogFileReadingTest, CancellingTheOpenDialogLeavesTheViewUntouched) {
     ForgetTitles();
     progress.steps.clear();
     chosenFile.reset();
-    reading.ReadLogFile(true, "", true, true);
-    EXPECT_EQ(reader.CurrentLogFile(), kLog);
+    reading.ReadLogFile(true, "", true);
+    EXPECT_EQ(reading.CurrentLogFile(), kLog);
     EXPECT_EQ(SourceListView.RowCount(), 1);
     EXPECT_THAT(Titles(), IsEmpty());
     EXPECT_THAT(progress.steps, IsEmpty());
@@ -77,8 +79,9 @@ TEST_F(LogFileReadingTest, ALineWithoutABlankEndsInAMessageWithItsNumber) {
     EXPECT_EQ(tools.messages[0].icon, toolkit::MessageIcon::None);
     EXPECT_EQ(tools.messages[0].buttons, toolkit::MessageButtons::Ok);
     EXPECT_FALSE(progress.visible);
-    EXPECT_EQ(entries.EntryDates().ListCount(), 0);  // what came before it stays
-    EXPECT_THAT(Dates(), IsEmpty());                 // the days are not listed anew
+    EXPECT_EQ(entries.EntryDates().ListCount(), -1);
+    EXPECT_THAT(Dates(), IsEmpty());
+    EXPECT_EQ(reading.CurrentLogFile(), "");
 }
 
 TEST_F(LogFileReadingTest, TheProgressWindowIsGoneBeforeTheMessageShows) {
@@ -93,11 +96,10 @@ TEST_F(LogFileReadingTest, TheProgressWindowIsGoneBeforeTheMessageShows) {
 
 TEST_F(LogFileReadingTest, AnEmptyFileIsAnErrorAtLine0) {
     system.files.Set(kLog, "");
-    reading.ReadLogFile(false, kLog, true, true);
+    reading.ReadLogFile(false, kLog, true);
     EXPECT_THAT(remembered, ElementsAre(kLog));  // it was read; only its lists cannot be trimmed
     ASSERT_EQ(tools.messages.size(), 1U);
     EXPECT_EQ(tools.messages[0].text, "There is an error in file\r\nC:\\logs\\x.log\r\nLine: 0");
-    EXPECT_EQ(reader.LineCount(), 1);
 }
 
 TEST_F(LogFileReadingTest, AWindowThatClosesInTheMiddleEndsTheReadWithoutAWord) {
@@ -116,7 +118,7 @@ TEST_F(LogFileReadingTest, AFileThatCannotBeOpenedIsAnErrorAtLine0) {
     system.files.Lock("C:\\logs\\locked.log");
     for (const char* path : {"C:\\logs\\missing.log", "C:\\logs\\locked.log", "C:\\logs"}) {
         tools.messages.clear();
-        reading.ReadLogFile(false, path, true, true);
+        reading.ReadLogFile(false, path, true);
         ASSERT_EQ(tools.messages.size(), 1U);
         EXPECT_EQ(tools.messages[0].text,
                   "There is an error in file\r\n" + std::string(path) + "\r\nLine: 0");
@@ -134,24 +136,85 @@ TEST_F(LogFileReadingTest, AFileThatGrowsBetweenThePassesIsAnError) {
         if (++opened == 2)
             system.files.Append(kLog, std::string(kLine) + "\r\n");
     };
-    reading.ReadLogFile(false, kLog, false, true);
+    reading.ReadLogFile(false, kLog, false);
     ASSERT_EQ(tools.messages.size(), 1U);
     EXPECT_THAT(tools.messages[0].text, testing::EndsWith("Line: 2"));
 }
 
-TEST_F(LogFileReadingTest, AFailureWhileReadingKeepsWhatWasRead) {
-    std::string bytes;
+TEST_F(LogFileReadingTest, AReadThatFailsLeavesTheWindowAsItWas) {
+    Load({kLine, "02.03.2024 10:00:00: Delete x", "02.03.2024 10:00:01: Copy y -> z"});
+    filter = {.boxText = "copy", .FilterText = "copy"};
+    panels.ApplyFilter(false);
+    title.SetTitle("the title");
+    ForgetTitles();
+    const std::string bad = "C:\\logs\\bad.log";
+    std::string half;
     for (int i = 0; i < 1000; ++i)
-        bytes += std::string(kLine) + "\r\n";
-    system.files.Set(kLog, bytes);
+        half += std::string(kLine) + "\r\n";
+    const auto failsAs = [&](const char* what, const std::string& bytes) {
+        SCOPED_TRACE(what);
+        system.files.Set(bad, bytes);
+        tools.messages.clear();
+        tools.onMessage = [&](const test::ShownMessage&) {
+            EXPECT_EQ(title.Text(), "the title") << "before the message";
+            return toolkit::Answer::Ok;
+        };
+        EXPECT_FALSE(reading.ReadLogFile(false, bad, false));
+        EXPECT_EQ(tools.messages.size(), 1U);
+        EXPECT_THAT(Dates(), ElementsAre("All dates", "01.03.2024", "02.03.2024"));
+        EXPECT_EQ(cboDate.ListIndex(), 2);
+        EXPECT_THAT(Sources(), ElementsAre("Copy y "));
+        EXPECT_EQ(entries.EntryTargets().List(SourceListView.Tag(0)), "z");
+        EXPECT_EQ(reading.CurrentLogFile(), kLog);
+        EXPECT_EQ(title.Text(), "the title");
+        EXPECT_TRUE(form.Enabled());
+    };
+    failsAs("empty", "");
+    failsAs("malformed", half + "garbage\r\n" + half);
     int opened = 0;
     system.files.onOpen = [&](const std::string&) {
-        if (++opened == 2)
-            system.files.FailReadingAfter(kLog, bytes.size() / 2);
+        if (++opened % 2 == 0)
+            system.files.FailReadingAfter(bad, half.size() / 2);
     };
-    reading.ReadLogFile(false, kLog, false, true);
-    ASSERT_EQ(tools.messages.size(), 1U);
-    EXPECT_GT(entries.EntryDates().ListCount(), 0);
+    failsAs("breaks off", half);
+    system.files.onOpen = [&](const std::string&) {
+        if (++opened % 2 == 0)
+            system.files.Append(bad, half);
+    };
+    failsAs("grows", half);
+    system.files.onOpen = [&](const std::string&) {
+        if (++opened % 2 == 0)
+            system.files.Delete(bad);
+    };
+    failsAs("gone", half);
+    system.files.onOpen = nullptr;
+    // What goes on is the file that is shown.
+    system.files.Append(kLog, "02.03.2024 10:00:02: Copy new -> n\r\n");
+    reading.Refresh();
+    EXPECT_THAT(Sources(), ElementsAre("Copy y ", "Copy new "));
+}
+
+TEST_F(LogFileReadingTest, AfterALogWithoutDatesWhatIsShownCanBeWorkedWith) {
+    Load({"01.03.2024 10:00:00: Copy a -> b", "02.03.2024 10:00:00: Copy c -> d"});
+    Write("C:\\logs\\comments.log", {"; one", "; two", "; three"});
+    EXPECT_TRUE(reading.ReadLogFile(false, "C:\\logs\\comments.log", false));
+    EXPECT_THAT(Dates(), IsEmpty());
+    EXPECT_EQ(title.Text(), "C:\\logs\\comments.log");
+    EXPECT_THAT(Sources(), ElementsAre("Copy c "));
+    EXPECT_EQ(entries.EntryTargets().List(SourceListView.Tag(0)), "d");
+    panels.LanguageChanged();
+    panels.ApplyNewDateFormat(1);
+    EXPECT_THAT(Dates(), IsEmpty());
+    panels.ApplyFilter(true);
+    EXPECT_THAT(Sources(), ElementsAre("Copy c "));
+    EXPECT_TRUE(panels.ShowEntry(0));
+    EXPECT_THAT(Sources(), ElementsAre("Copy a "));
+    // Refresh brings what is new in the log that was opened.
+    system.files.Append("C:\\logs\\comments.log", "03.03.2024 10:00:00: Copy e -> f\r\n");
+    reading.Refresh();
+    EXPECT_THAT(Dates(), ElementsAre("03.03.2024"));
+    EXPECT_EQ(entries.EntrySources().ListCount(), 3);
+    EXPECT_THAT(tools.messages, IsEmpty());
 }
 
 TEST_F(LogFileReadingTest, RefreshOfAnUnchangedFileChangesNothing) {
@@ -159,11 +222,10 @@ TEST_F(LogFileReadingTest, RefreshOfAnUnchangedFileChangesNothing) {
     const int fills = MemoryToolkit::Of(SourceListView).fills;
     SourceListView.SelectRow(0);
     tools.pointers.clear();
-    reading.ReadAppendedLines(kLog);
+    reading.Refresh();
     EXPECT_EQ(tools.pointers.front(), toolkit::Pointer::Hourglass);
     EXPECT_EQ(MemoryToolkit::Of(SourceListView).fills, fills);
     EXPECT_EQ(SourceListView.SelectedRow(), 0);
-    EXPECT_EQ(reader.LineCount(), 3);
     EXPECT_EQ(tools.pointer, toolkit::Pointer::Default);
 }
 
@@ -173,13 +235,12 @@ TEST_F(LogFileReadingTest, RefreshAppendsAndSelectsTheLastDayAndRow) {
     tools.pointers.clear();
     system.files.Append(
         kLog, "02.03.2024 11:00:00: Move a -> b\r\n\r\n02.03.2024 11:00:01: Delete c\r\n");
-    reading.ReadAppendedLines(kLog);
+    reading.Refresh();
     EXPECT_EQ(cboDate.ListIndex(), 2);
     EXPECT_THAT(Sources(), ElementsAre("Move a ", "Delete c"));
     EXPECT_EQ(SourceListView.SelectedRow(), 1);
     EXPECT_EQ(TargetListView.SelectedRow(), 1);
     EXPECT_EQ(shownRows.back(), 1);
-    EXPECT_EQ(reader.LineCount(), 5);
     EXPECT_EQ(entries.EntryFiles().ListCount(), 0);
     EXPECT_THAT(progress.steps, IsEmpty());
     EXPECT_THAT(tools.messages, IsEmpty());
@@ -189,7 +250,7 @@ TEST_F(LogFileReadingTest, RefreshAppendsAndSelectsTheLastDayAndRow) {
 TEST_F(LogFileReadingTest, RefreshHasNoCommentRule) {
     Load({kLine});
     system.files.Append(kLog, "; a comment\r\n");
-    reading.ReadAppendedLines(kLog);
+    reading.Refresh();
     EXPECT_EQ(entries.EntryDates().List(1), ";");
     EXPECT_EQ(entries.EntrySources().List(1), "a comment");
 }
@@ -202,7 +263,7 @@ TEST_F(LogFileReadingTest, ARefreshThatFailsNamesTheOldLineCount) {
         during = tools.pointer;
         return toolkit::Answer::Ok;
     };
-    reading.ReadAppendedLines(kLog);
+    reading.Refresh();
     ASSERT_EQ(tools.messages.size(), 1U);
     EXPECT_EQ(tools.messages[0].text, "There is an error in file\r\nC:\\logs\\x.log\r\nLine: 3");
     EXPECT_EQ(during, toolkit::Pointer::Default);
@@ -212,7 +273,7 @@ TEST_F(LogFileReadingTest, ARefreshThatFailsNamesTheOldLineCount) {
 TEST_F(LogFileReadingTest, ARefreshOfAMissingFileNamesLine0) {
     Load({kLine});
     system.files.Delete(kLog);
-    reading.ReadAppendedLines(kLog);
+    reading.Refresh();
     ASSERT_EQ(tools.messages.size(), 1U);
     EXPECT_THAT(tools.messages[0].text, testing::EndsWith("Line: 0"));
     EXPECT_EQ(SourceListView.RowCount(), 1);
@@ -223,33 +284,128 @@ TEST_F(LogFileReadingTest, NothingCanBeginAnotherReadWhileTheProgressWindowIsSho
     std::vector<bool> enabled;
     progress.onShow = [&] {
         enabled.push_back(form.Enabled());
-        reading.ReadLogFile(false, "C:\\logs\\y.log", true, true);
-        reading.ReadAppendedLines("C:\\logs\\y.log");
+        reading.ReadLogFile(false, "C:\\logs\\y.log", true);
+        reading.Refresh();
     };
     Load({kLine});
     EXPECT_THAT(enabled, ElementsAre(false));
     EXPECT_TRUE(form.Enabled());
-    EXPECT_EQ(reader.CurrentLogFile(), kLog);
+    EXPECT_EQ(reading.CurrentLogFile(), kLog);
     EXPECT_EQ(entries.EntryDates().ListCount(), 0);
     EXPECT_THAT(tools.messages, IsEmpty());
 }
 
 TEST_F(LogFileReadingTest, AFileThatCannotBeOpenedLeavesTheWindowsUsable) {
-    reading.ReadLogFile(false, "C:\\logs\\missing.log", false, true);
+    reading.ReadLogFile(false, "C:\\logs\\missing.log", false);
     EXPECT_TRUE(form.Enabled());
 }
 
-TEST_F(LogFileReadingTest, ARefreshBeyondTheStorageOfTheFilesIsAnError) {
-    // A list of files that has never grown has two slots: a third entry has none to name its file.
+TEST_F(LogFileReadingTest, ARefreshReadsALogAnewThatDoesNotGoOn) {
+    Load({kLine, kLine});
+    for (const char* bytes : {"05.03.2024 10:00:00: Delete x\r\n06.03.2024 10:00:00: Delete y\r\n"
+                              "06.03.2024 10:00:00: Delete z\r\n06.03.2024 10:00:01: Delete z\r\n",
+                              "07.03.2024 10:00:00: Delete x\r\n;c\r\n"}) {
+        system.files.Set(kLog, bytes);
+        ForgetTitles();
+        reading.Refresh();
+        EXPECT_EQ(Titles().front(), kLog);
+        EXPECT_EQ(cboDate.ListIndex(), cboDate.ListCount() - 1);
+        EXPECT_EQ(SourceListView.SelectedRow(), SourceListView.RowCount() - 1);
+        EXPECT_EQ(entries.FileOf(entries.EntrySources().ListCount()), "x.log");
+    }
+    EXPECT_THAT(Sources(), ElementsAre("Delete x", "c"));
+    EXPECT_THAT(tools.messages, IsEmpty());
+    EXPECT_EQ(tools.pointer, toolkit::Pointer::Default);
+    // One that is empty is about to begin.
+    system.files.Set(kLog, "");
+    reading.Refresh();
+    EXPECT_THAT(Sources(), ElementsAre("Delete x", "c"));
+    system.files.Set(kLog, "08.03.2024 10:00:00: Delete n\r\n");
+    reading.Refresh();
+    EXPECT_THAT(Sources(), ElementsAre("Delete n"));
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
+TEST_F(LogFileReadingTest, AnotherLogThatCannotBeReadLeavesTheWindowAsItWas) {
+    Load({kLine, kLine});
+    system.files.Set(kLog, "05.03.2024 10:00:00: Delete x\r\ngarbage\r\n");
+    reading.Refresh();
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text, "There is an error in file\r\nC:\\logs\\x.log\r\nLine: 2");
+    EXPECT_THAT(Dates(), ElementsAre("01.03.2024"));
+    EXPECT_EQ(SourceListView.RowCount(), 2);
+}
+
+TEST_F(LogFileReadingTest, ALogThatIsMissingForAMomentIsWaitedFor) {
+    Load({kLine});
+    system.files.Delete(kLog);
+    int opened = 0;
+    system.files.onOpen = [&](const std::string&) {
+        if (++opened == 5)
+            system.files.Set(kLog, "05.03.2024 10:00:00: Delete x\r\n");
+    };
+    reading.Refresh();
+    EXPECT_THAT(Sources(), ElementsAre("Delete x"));
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
+TEST_F(LogFileReadingTest, BesideAWriterEveryRefreshBringsEachLineOnce) {
+    std::vector<std::string> written;
+    const auto write = [&](bool begin) {
+        const std::string text = "Delete " + std::to_string(written.size());
+        const std::string line = "01.03.2024 10:00:00: " + text;
+        // In the middle of a line as often as at its end.
+        const std::string end = written.size() % 2 == 0 ? "\r\n" : "";
+        const std::string gap = written.empty() || (written.size() - 1) % 2 == 0 ? "" : "\r\n";
+        if (begin) {
+            written.clear();
+            system.files.Set(kLog, line + "\r\n");
+        } else {
+            system.files.Append(kLog, gap + line + end);
+        }
+        written.push_back(text);
+    };
+    Load({"01.03.2024 10:00:00: Delete 0"});
+    written = {"Delete 0"};
+    std::uint32_t random = 1;
+    for (int i = 0; i < 200; ++i) {
+        for (int lines = 0; lines < i % 4; ++lines)
+            write(false);
+        if (i == 70 || i == 140) {
+            written.clear();
+            system.files.Set(kLog, "");
+            if (i == 140)
+                system.files.Delete(kLog);
+            system.files.onOpen = [&](const std::string&) {
+                system.files.onOpen = nullptr;
+                system.files.Set(kLog, "01.03.2024 10:00:00: Delete 0\r\n");
+                written = {"Delete 0"};
+            };
+        } else {
+            system.files.onOpen = [&](const std::string&) {
+                random = random * 1664525U + 1013904223U;
+                if (random % 3 == 0)
+                    write(false);
+            };
+        }
+        reading.Refresh();
+        system.files.onOpen = nullptr;
+        ASSERT_THAT(tools.messages, IsEmpty()) << i;
+        ASSERT_THAT(Sources(), testing::ElementsAreArray(written)) << i;
+        ASSERT_EQ(SourceListView.SelectedRow(), SourceListView.RowCount() - 1);
+    }
+}
+
+TEST_F(LogFileReadingTest, AnEntryWithoutASlotForItsFileIsNoErrorOfTheFile) {
     panels.RowShown.Subscribe(
-        [this](int row) { static_cast<void>(entries.EntryFiles().List(SourceListView.Tag(row))); });
+        [this](int row) { title.ShowFile(entries.FileOf(SourceListView.Tag(row))); });
+    title.SetLogFolder("C:\\logs\\");
     Load(std::vector<std::string>(2, kLine));
     system.files.Append(kLog, std::string(kLine) + "\r\n");
-    reading.ReadAppendedLines(kLog);
-    ASSERT_EQ(tools.messages.size(), 1U);
-    EXPECT_THAT(tools.messages[0].text, testing::EndsWith("Line: 3"));
-    EXPECT_EQ(tools.pointer, toolkit::Pointer::Default);
+    reading.Refresh();
+    EXPECT_THAT(tools.messages, IsEmpty());
     EXPECT_EQ(SourceListView.RowCount(), 3);
+    EXPECT_EQ(title.Text(), "C:\\logs\\");
 }
 
 }  // namespace

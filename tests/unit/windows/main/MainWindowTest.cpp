@@ -255,12 +255,12 @@ TEST_F(MainWindow, DateAndTitleFollowTheRowsOfASinglePanel) {
     EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.1.log"));
 }
 
-TEST_F(MainWindow, ACancelledOpenChangesNothingButTheFileSelection) {
+TEST_F(MainWindow, ACancelledOpenChangesNothing) {
     SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
     SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
     Start();
     Choose("mnuFileOpen");
-    EXPECT_EQ(Files().ListIndex(), -1);
+    EXPECT_EQ(Files().ListIndex(), 1);
     EXPECT_EQ(Main().Caption(), Title("C:\\logs\\tc.log"));
     EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
     EXPECT_EQ(Stored("RecentFiles1"), "(absent)");
@@ -330,7 +330,7 @@ TEST_F(MainWindow, AFileWithoutAnyLogIsReportedAndTheOldRowsStay) {
     EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
 }
 
-TEST_F(MainWindow, OldRowsThatHaveLostTheirEntriesCanBeWalkedThroughInPeace) {
+TEST_F(MainWindow, AfterAReadThatFailedTheRowsCanBeWalkedThroughAndCopied) {
     SetLog("D:\\long.log", std::vector<std::string>(2500, "07.03.2024 10:00:00: Copy x -> y"));
     system.files.Set("D:\\empty.log", "");
     Start();
@@ -341,7 +341,31 @@ TEST_F(MainWindow, OldRowsThatHaveLostTheirEntriesCanBeWalkedThroughInPeace) {
     EXPECT_EQ(tools.messages.size(), 1U);
     tools.Press(Main(), 'C', kCtrlAlt);
     EXPECT_EQ(tools.messages.size(), 1U);
-    EXPECT_EQ(Clipboard(), "(empty)");
+    EXPECT_EQ(Clipboard(), "y");
+}
+
+TEST_F(MainWindow, WithoutALogRefreshLooksForItAgain) {
+    SetIni("LogFile=C:\\late.log");
+    Start();
+    ASSERT_EQ(tools.messages.size(), 1U);
+    Choose("mnuViewRefresh");
+    ASSERT_EQ(tools.messages.size(), 2U);
+    EXPECT_EQ(tools.messages[1].text, "Cannot find Total Commander log file.");
+    SetLog("C:\\late.log", {"07.03.2024 10:00:00: Copy x -> y"});
+    Choose("mnuViewRefresh");
+    EXPECT_EQ(tools.messages.size(), 2U);
+    EXPECT_EQ(Source().Text(0, 1), "Copy x ");
+}
+
+TEST_F(MainWindow, ALogThatWasLockedAtTheStartIsReadByRefresh) {
+    system.files.Lock("C:\\logs\\tc.log");
+    Start();
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(Source().RowCount(), 0);
+    system.files.Lock("C:\\logs\\tc.log", false);
+    Choose("mnuViewRefresh");
+    EXPECT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
 }
 
 TEST_F(MainWindow, ShortcutsDoNothingWhileADialogIsModal) {

@@ -283,17 +283,6 @@ TEST_F(DayPanelsTest, ThereIsNoContextMenuWithoutARow) {
     EXPECT_THAT(tools.poppedUpMenus, IsEmpty());
 }
 
-TEST_F(DayPanelsTest, ANewDateFormatOverOldDaysKeepsTheirPlaces) {
-    std::vector<std::string> lines(2500, "01.03.2024 10:00:00: Copy a -> b");
-    lines.emplace_back("02.03.2024 10:00:00: Copy a -> b");
-    Load(lines);
-    Write("C:\\logs\\bad.log", {"09.03.2024 10:00:00: Copy a -> b", "garbage"});
-    reading.ReadLogFile(false, "C:\\logs\\bad.log", false, true);
-    panels.ApplyNewDateFormat(1);
-    EXPECT_THAT(Dates(), ElementsAre("All dates", testing::_, ""));
-    EXPECT_EQ(cboDate.ListIndex(), 2);
-}
-
 TEST_F(DayPanelsTest, AReactionThatFailsLeavesWholeRowsAndTheNormalPointer) {
     panels.RowShown.Subscribe([](int) { throw SubscriptOutOfRange(); });
     Load(kThreeDays);

@@ -1,0 +1,220 @@
+#include "log/AppendedLines.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "log/LogReader.h"
+#include "unit/log/ScriptedFiles.h"
+
+namespace ordalyn {
+namespace {
+
+using testing::ElementsAre;
+using Found = AppendedLines::Found;
+
+class AppendedLinesTest : public testing::Test {
+  protected:
+    static constexpr const char* kLog = "C:\\logs\\x.log";
+
+    void ReadFile(const std::string& bytes) {
+        files.Put(kLog, bytes);
+        entries.Clear();
+        LogReader reader(files, codePages, entries);
+        reader.BeginFile(kLog);
+        reader.ReadEntries();
+        mark = reader.Mark();
+    }
+    Found Refresh(const std::string& bytes) {
+        files.Put(kLog, bytes);
+        return appended.Read(mark);
+    }
+    static std::vector<std::string> Items(const cStringArray& list) {
+        std::vector<std::string> items;
+        for (std::int32_t i = 0; i <= list.ListCount(); ++i)
+            items.emplace_back(list.List(i));
+        return items;
+    }
+    std::vector<std::string> Files() const { return Items(entries.EntryFiles()); }
+    std::vector<std::string> Dates() const { return Items(entries.EntryDates()); }
+    std::vector<std::string> Sources() const { return Items(entries.EntrySources()); }
+    std::vector<std::string> Targets() const { return Items(entries.EntryTargets()); }
+
+    test::ScriptedFiles files;
+    test::Latin1CodePages codePages;
+    EntryLists entries;
+    LogMark mark;
+    AppendedLines appended{files, codePages, entries};
+};
+
+TEST_F(AppendedLinesTest, AnUnchangedFileHasNothing) {
+    ReadFile("d t: a\r\n\r\nd t: b\r\n");
+    EXPECT_EQ(appended.Read(mark), Found::Nothing);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b"));
+    EXPECT_EQ(mark.lineCount, 4);
+    EXPECT_EQ(files.openNow, 0);
+}
+
+TEST_F(AppendedLinesTest, EachLineIsReadOnce) {
+    ReadFile("d t: a\r\n");
+    entries.FreeExtraItems();
+    const std::string more = "d t: a\r\nd t: Copy b -> c\r\n\r\n  e t: d  \r\n";
+    EXPECT_EQ(Refresh(more), Found::Lines);
+    EXPECT_THAT(Dates(), ElementsAre("d", "d", "e"));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: Copy b ", "t: d"));
+    EXPECT_THAT(Targets(), ElementsAre("", "c", ""));
+    EXPECT_EQ(mark.lineCount, 5);
+    EXPECT_EQ(appended.Read(mark), Found::Nothing);
+    EXPECT_EQ(Refresh(more + "e t: f\r\n"), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: Copy b ", "t: d", "t: f"));
+    EXPECT_EQ(files.openNow, 0);
+}
+
+TEST_F(AppendedLinesTest, BlankLinesCountAsNewLines) {
+    ReadFile("d t: a\n");
+    EXPECT_EQ(Refresh("d t: a\n\n"), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a"));
+    EXPECT_EQ(mark.lineCount, 3);
+}
+
+TEST_F(AppendedLinesTest, TheyExtendNeitherFilesNorAreTheyTrimmed) {
+    ReadFile("d t: a\n");
+    entries.FreeExtraItems();
+    Refresh("d t: a\nd t: b\n");
+    EXPECT_THAT(Files(), ElementsAre("x.log"));
+    EXPECT_EQ(entries.FileOf(0), "x.log");
+    EXPECT_EQ(entries.FileOf(1), "");
+    EXPECT_EQ(entries.FileOf(1'000'000), "");
+    EXPECT_EQ(entries.EntrySources().UpperIndex(), 2000);
+}
+
+TEST_F(AppendedLinesTest, TheyKnowNoComments) {
+    ReadFile("d t: a\n");
+    EXPECT_EQ(Refresh("d t: a\n; hello world -> x\n"), Found::Lines);
+    EXPECT_THAT(Dates(), ElementsAre("d", ";"));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "hello world "));
+    EXPECT_THROW(Refresh("d t: a\n; hello world -> x\n;comment\n"), MalformedText);
+}
+
+TEST_F(AppendedLinesTest, AMalformedLineNamesTheCountBeforeAndIsNotMetAgain) {
+    ReadFile("d t: a\nd t: b\n");
+    EXPECT_THROW(Refresh("d t: a\nd t: b\nd t: c\n\ngarbage\nd t: e\n"), MalformedText);
+    EXPECT_EQ(appended.LineNumber(), 3);
+    EXPECT_EQ(mark.lineCount, 6);
+    EXPECT_EQ(files.openNow, 0);
+    EXPECT_EQ(appended.Read(mark), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c", "t: e"));
+}
+
+TEST_F(AppendedLinesTest, AMissingFileNamesZero) {
+    ReadFile("d t: a\nd t: b\n");
+    files.Remove(kLog);
+    EXPECT_THROW(appended.Read(mark), FileError);
+    EXPECT_EQ(appended.LineNumber(), 0);
+    EXPECT_EQ(mark.lineCount, 3);
+}
+
+TEST_F(AppendedLinesTest, AFailureWhilePassingOverOldLinesNamesTheCountBefore) {
+    ReadFile("d t: a\nd t: b\n");
+    files.mostAtOnce = 4;
+    files.failAfter = 8;
+    EXPECT_THROW(appended.Read(mark), FileError);
+    EXPECT_EQ(appended.LineNumber(), 3);
+}
+
+TEST_F(AppendedLinesTest, AFailureBehindNewLinesBringsNoneOfThemTwice) {
+    ReadFile("d t: a\n");
+    files.mostAtOnce = 4;
+    files.failAfter = 16;
+    EXPECT_THROW(Refresh("d t: a\nd t: b\nd t: c\n"), FileError);
+    EXPECT_THAT(Sources(), ElementsAre("t: a"));
+    files.failAfter = std::numeric_limits<std::size_t>::max();
+    EXPECT_EQ(appended.Read(mark), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c"));
+}
+
+TEST_F(AppendedLinesTest, AFileThatDoesNotBeginWithWhatWasReadIsAnother) {
+    const std::string read = "d t: a\nd t: b\nd t: c\n";
+    for (const std::string& other :
+         {std::string(), std::string("d t: a\n"), std::string("d t: a\nd t: b\nd t: c"),
+          std::string("d t: a\nd t: x\nd t: c\n"), std::string("x t: a\nd t: b\nd t: c\nd t: d\n"),
+          std::string("d t: a\nd t: b\nd t: x\nd t: d\n"), std::string("garbage\n"),
+          std::string(100'000, '\n')}) {
+        SCOPED_TRACE(other.substr(0, 40));
+        for (const std::size_t atOnce : {std::size_t{3}, std::size_t{1} << 20U}) {
+            ReadFile(read);
+            files.mostAtOnce = atOnce;
+            EXPECT_EQ(Refresh(other), Found::AnotherFile);
+            EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c"));
+            EXPECT_EQ(mark.lineCount, 4);
+        }
+    }
+}
+
+TEST_F(AppendedLinesTest, ALongFileIsKnownByItsBeginningAndByWhereItsReadingEnded) {
+    std::string read;
+    for (int i = 0; i < 40'000; ++i)
+        read += "d 10:00:00: Delete " + std::to_string(100'000 + i) + "\n";
+    const std::string more = "d t: new\n";
+    for (const std::size_t at : {std::size_t{5}, read.size() - 2}) {
+        ReadFile(read);
+        std::string other = read + more;
+        other[at] = 'x';
+        EXPECT_EQ(Refresh(other), Found::AnotherFile) << at;
+    }
+    ReadFile(read);
+    EXPECT_EQ(Refresh(read.substr(0, read.size() - 20)), Found::AnotherFile);
+    EXPECT_EQ(Refresh(read + more), Found::Lines);
+    EXPECT_EQ(entries.EntrySources().ListCount(), 40'000);
+    EXPECT_EQ(entries.EntrySources().List(40'000), "t: new");
+    EXPECT_EQ(appended.Read(mark), Found::Nothing);
+}
+
+TEST_F(AppendedLinesTest, ALastLineThatHadNoEndIsReadAgain) {
+    ReadFile("d t: a\ne t: unfin");
+    EXPECT_EQ(Refresh("d t: a\ne t: unfinished -> x\nd t: c\n"), Found::Lines);
+    EXPECT_THAT(Dates(), ElementsAre("d", "e", "d"));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: unfinished ", "t: c"));
+    EXPECT_THAT(Targets(), ElementsAre("", "x", ""));
+    EXPECT_THAT(Files(), ElementsAre("x.log", "x.log"));
+    EXPECT_EQ(mark.lineCount, 4);
+}
+
+TEST_F(AppendedLinesTest, AnUnfinishedLineCanGrowManyTimes) {
+    ReadFile("d t: a\n");
+    const std::string lines = "d t: a\n01.03.2024 t: Copy b -> c\r\nd t: e\r\n";
+    for (std::size_t size = 8; size <= lines.size(); ++size) {
+        SCOPED_TRACE(size);
+        EXPECT_NO_THROW(Refresh(lines.substr(0, size)));
+    }
+    EXPECT_THAT(Dates(), ElementsAre("d", "01.03.2024", "d"));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: Copy b ", "t: e"));
+    EXPECT_THAT(Targets(), ElementsAre("", "c", ""));
+    EXPECT_EQ(mark.lineCount, 4);
+}
+
+TEST_F(AppendedLinesTest, AnEndForTheLastLineIsNothingNew) {
+    ReadFile("d t: a\nd t: b");
+    EXPECT_EQ(appended.Read(mark), Found::Nothing);
+    EXPECT_EQ(Refresh("d t: a\nd t: b\r\n"), Found::Nothing);
+    EXPECT_EQ(mark.lastLine, LogMark::LastLine::Finished);
+    EXPECT_EQ(Refresh("d t: a\nd t: b\r\nd t: c\r\n"), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c"));
+}
+
+TEST_F(AppendedLinesTest, ABlankLastLineCanBecomeAnEntry) {
+    ReadFile("d t: a\n  ");
+    EXPECT_EQ(Refresh("d t: a\n  d t: b\n"), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b"));
+}
+
+TEST_F(AppendedLinesTest, ACommentThatHadNoEndStaysOne) {
+    ReadFile("d t: a\n;com");
+    EXPECT_EQ(Refresh("d t: a\n;comment\n"), Found::Lines);
+    EXPECT_THAT(Dates(), ElementsAre("d", ""));
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "; comment"));
+}
+
+}  // namespace
+}  // namespace ordalyn
