@@ -66,18 +66,28 @@ def test_siblings_found_by_pattern(folder):
     # The title's folder is the live log's, as everywhere.
     assert app.main.log_title == logs + "where.log"
 
-    # Refresh looks for the files anew and chooses the live log's item without reading it.
+    # Refresh looks for the files anew; none of them is what is shown, so none is chosen.
+    assert refresh_enabled(app)
     (folder.path / "logs" / "xa.log").unlink()
     app.main.choose("View", "Refresh")
     assert files.items == ["All files", "x.log", "x_old.log"]
-    assert files.chosen == "x.log"
+    assert files.index == -1
     assert operations(app) == ["else0.txt", "else1.txt"]
-    # Its item is the chosen one now, so choosing it again does nothing.
-    files.choose("x.log")
-    assert operations(app) == ["else0.txt", "else1.txt"]
-    files.choose("x_old.log")
     files.choose("x.log")
     assert operations(app) == ["live0.txt", "live1.txt", "live2.txt"]
+    # The live log, opened by its path, is the list's.
+    files.choose("x_old.log")
+    app.main.drop_files(logs + "x.log")
+    assert files.chosen == "x.log"
+    assert refresh_enabled(app)
+
+    # A file that cannot be read is not the chosen one.
+    folder.write("logs/x_old.log", ["garbage"])
+    files.ask("chooseFromCombo", index=2)
+    app.message().press("OK")
+    assert files.chosen == "x.log"
+    assert operations(app) == ["live0.txt", "live1.txt", "live2.txt"]
+    assert refresh_enabled(app)
 
 
 @pytest.mark.usefixtures("pointer_inside")

@@ -67,26 +67,29 @@ void LogFileSet::SelectWithoutReading(int index) {
     controls_.cboFiles.SetListIndex(index);
 }
 
+// Whatever is shown that is not the live log in its own folder is none of the list's files.
+void LogFileSet::SelectShownFile() {
+    const std::string live = logFolder_ + liveLogName_;
+    const bool shown = EqualsIgnoreCase(reading_.CurrentLogFile(), live);
+    const int liveLog = controls_.cboFiles.ListCount() > 1 ? kLiveLogItem : 0;
+    SelectWithoutReading(shown && controls_.cboFiles.ListCount() > 0 ? liveLog : -1);
+}
+
 void LogFileSet::ShowLogFileCombo() {
-    Attempt([this] {
-        const toolkit::ScopedFlag ignore(ignoreComboClick_);
-        lastFilesIndex_ = kHandleNext;
-        controls_.cboFiles.SetText(liveLogName_);
-    });
+    Attempt([this] { SelectShownFile(); });
     if (controls_.cboFiles.ListCount() >= 2)
         controls_.cboFiles.SetVisible(true);
 }
 
-void LogFileSet::DeselectLogFile() {
-    if (!controls_.cboFiles.Visible())
-        return;
-    const toolkit::ScopedFlag ignore(ignoreComboClick_);
-    controls_.cboFiles.SetListIndex(-1);
+void LogFileSet::LogOpened() {
+    SelectShownFile();
+    controls_.mnuViewRefresh.SetEnabled(true);
 }
 
 void LogFileSet::LanguageChanged() {
-    if (controls_.cboFiles.Visible() && controls_.cboFiles.ListCount() > 0)
-        controls_.cboFiles.SetItem(0, shared_.Text(text_id::kAllFiles));
+    // A list of the live log alone does not begin with "All files".
+    if (controls_.cboFiles.Visible() && controls_.cboFiles.ListCount() > 1)
+        controls_.cboFiles.SetItem(kAllFilesItem, shared_.Text(text_id::kAllFiles));
 }
 
 void LogFileSet::FileComboClicked() {

@@ -25,11 +25,12 @@ class LogFileSet {
     LogFileSet(SharedObjects& shared, const Controls& controls, LogFileReading& reading,
                MainTitle& title);
 
-    // Rebuilds the list of files, with the live log selected but not read. Errors end single steps
-    // only.
+    // Rebuilds the list of files and reads none. The live log is selected if it is what is shown,
+    // and otherwise nothing is. Errors end single steps only.
     void BuildLogFileList();
-    // A log from elsewhere is shown: no file of the set is.
-    void DeselectLogFile();
+    // A log was opened that the list was not asked for: it is selected if it is the live log in its
+    // own folder, and otherwise nothing is. It can grow, whichever it is.
+    void LogOpened();
 
     // Name and folder (with a trailing backslash) of the live log, from the file manager's
     // settings; the folder is empty when the path there has none.
@@ -41,6 +42,7 @@ class LogFileSet {
   private:
     RotationSettings ReadRotationSettings() const;
     void ShowLogFileCombo();
+    void SelectShownFile();
     void FileComboClicked();
     // `before` is the item that was selected before this one was chosen.
     void ReadAllFiles(int before);

@@ -199,7 +199,8 @@ void frmMain::FindLog() {
         return;
     }
     files_.BuildLogFileList();
-    reading_.ReadLogFile(false, logFile, false);
+    if (reading_.ReadLogFile(false, logFile, false))
+        files_.LogOpened();
 }
 
 void frmMain::KeyReleased(int key, toolkit::Modifiers modifiers) {
@@ -220,7 +221,7 @@ void frmMain::KeyReleased(int key, toolkit::Modifiers modifiers) {
 
 void frmMain::OpenLog(const std::string& path) {
     if (reading_.ReadLogFile(path.empty(), path, true))
-        files_.DeselectLogFile();
+        files_.LogOpened();
 }
 
 void frmMain::OpenRecentFile(std::int32_t index) {

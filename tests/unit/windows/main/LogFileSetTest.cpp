@@ -20,6 +20,8 @@ class LogFileSetTest : public LogWindow {
 };
 
 TEST_F(LogFileSetTest, OffersAllFilesTheLiveLogAndItsSiblings) {
+    Load({"03.03.2024 10:00:00: Copy live -> l"});
+    progress.steps.clear();
     files.BuildLogFileList();
     EXPECT_THAT(Files(), ElementsAre("All files", "x.log", "x_old.log", "xa.log"));
     EXPECT_TRUE(cboFiles.Visible());
@@ -92,6 +94,8 @@ TEST_F(LogFileSetTest, PickingTheSelectedItemAgainDoesNothing) {
 }
 
 TEST_F(LogFileSetTest, BuildingTheListRecordsTheLiveLogsItemAsHandled) {
+    Load({"03.03.2024 10:00:00: Copy live -> l"});
+    progress.steps.clear();
     files.BuildLogFileList();
     cboFiles.UserSelected(1);
     EXPECT_THAT(progress.steps, IsEmpty());
@@ -206,18 +210,72 @@ TEST_F(LogFileSetTest, ABadSiblingIsReportedAndTheOthersAreStillRead) {
     EXPECT_THAT(Titles(), ElementsAre("All files"));
 }
 
-TEST_F(LogFileSetTest, ALogFromElsewhereLeavesNoFileSelected) {
+TEST_F(LogFileSetTest, OnlyTheLogThatIsShownIsSelected) {
     files.BuildLogFileList();
-    files.DeselectLogFile();
-    EXPECT_EQ(cboFiles.ListIndex(), -1);
-    EXPECT_THAT(progress.steps, IsEmpty());
-    // That no file is selected was recorded: the live log can be picked again.
+    EXPECT_EQ(cboFiles.ListIndex(), -1) << "nothing is shown";
+    EXPECT_TRUE(cboFiles.Visible());
+    Write("C:\\other\\x.log", {"05.03.2024 10:00:00: Copy other -> o"});
+    ASSERT_TRUE(reading.ReadLogFile(false, "C:\\other\\x.log", false));
+    mnuViewRefresh.SetEnabled(false);
+    files.LogOpened();
+    EXPECT_EQ(cboFiles.ListIndex(), -1) << "the live log's name in another folder";
+    EXPECT_TRUE(mnuViewRefresh.Enabled());
+    files.BuildLogFileList();
+    EXPECT_EQ(cboFiles.ListIndex(), -1) << "after a refresh";
+    // Every item can be picked then.
     cboFiles.UserSelected(1);
     EXPECT_EQ(reading.CurrentLogFile(), kLog);
-    cboFiles.SetVisible(false);
-    cboFiles.SetListIndex(1);
-    files.DeselectLogFile();
+    ASSERT_TRUE(reading.ReadLogFile(false, "C:\\other\\x.log", false));
+    files.LogOpened();
+    cboFiles.UserSelected(0);
+    EXPECT_EQ(entries.EntryDates().ListCount(), 3);
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
+    // The live log opened by its path, in whatever letter case.
+    ASSERT_TRUE(reading.ReadLogFile(false, "c:\\LOGS\\x.LOG", false));
+    files.LogOpened();
     EXPECT_EQ(cboFiles.ListIndex(), 1);
+    EXPECT_TRUE(mnuViewRefresh.Enabled());
+}
+
+TEST_F(LogFileSetTest, AFileThatCannotBeReadIsNotSelected) {
+    Load({"03.03.2024 10:00:00: Copy live -> l"});
+    files.BuildLogFileList();
+    cboFiles.UserSelected(3);
+    ASSERT_FALSE(mnuViewRefresh.Enabled());
+    system.files.Lock("C:\\logs\\x_old.log");
+    cboFiles.UserSelected(2);
+    EXPECT_EQ(cboFiles.ListIndex(), 3);
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
+    EXPECT_EQ(reading.CurrentLogFile(), "C:\\logs\\xa.log");
+    system.files.Lock("C:\\logs\\x.log");
+    cboFiles.UserSelected(1);
+    EXPECT_EQ(cboFiles.ListIndex(), 3);
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
+    // A stop before the live log that cannot be read either.
+    tools.onDoEvents = [&] { reading.CancelReading = true; };
+    tools.onMessage = [](const test::ShownMessage&) { return toolkit::Answer::Yes; };
+    cboFiles.UserSelected(0);
+    EXPECT_EQ(cboFiles.ListIndex(), 3);
+    EXPECT_THAT(Sources(), ElementsAre("Move b"));
+    // It is not taken for the one that was handled last.
+    tools.onDoEvents = nullptr;
+    system.files.Lock("C:\\logs\\x_old.log", false);
+    cboFiles.UserSelected(2);
+    EXPECT_THAT(Sources(), ElementsAre("Copy old "));
+}
+
+TEST_F(LogFileSetTest, OnlyAllFilesIsNamedInANewLanguage) {
+    Load({"03.03.2024 10:00:00: Copy live -> l"});
+    files.BuildLogFileList();
+    UseLanguageFile("4006=Alle Dateien");
+    files.LanguageChanged();
+    EXPECT_THAT(Files(), ElementsAre("Alle Dateien", "x.log", "x_old.log", "xa.log"));
+    system.files.Delete("C:\\logs\\x_old.log");
+    system.files.Delete("C:\\logs\\xa.log");
+    files.BuildLogFileList();
+    ASSERT_TRUE(cboFiles.Visible());
+    files.LanguageChanged();
+    EXPECT_THAT(Files(), ElementsAre("x.log"));
 }
 
 TEST_F(LogFileSetTest, TheLiveLogAloneInAListThatStillShowsIsReadLikeAnyFile) {
