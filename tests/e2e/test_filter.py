@@ -4,6 +4,7 @@ import pytest
 
 from harness.controls import center
 from harness.dialogs import filter_dialog, open_filter
+from harness.waiting import wait_until
 
 FIRST_DAY = [
     r"01.03.2024 10:00:00: Program start (anna/DESK7) UTF-8",
@@ -103,8 +104,11 @@ def test_the_boxes_say_what_they_choose_between(app):
     assert dialog.source.items == ["Source", "Target"]
     assert (dialog.contains.chosen, dialog.source.chosen) == ("Contains", "Source")
     assert dialog.cancel.text == "Cancel"
-    tips = {tip["text"] for tip in app.agent.ask("toolTips")}
-    assert "Apply filter" in tips
+    # The tool bar asks for its tips when the pointer comes to it.
+    left, top, _, bottom = dialog.tool_bar.buttons[0]["rect"]
+    app.point_at(left + 10, (top + bottom) // 2)
+    wait_until(lambda: "Apply filter" in {tip["text"] for tip in app.agent.ask("toolTips")},
+               "the tip of the tool bar's button")
 
 
 def test_without_a_language_file_the_words_are_english(app, folder):

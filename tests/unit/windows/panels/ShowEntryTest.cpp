@@ -191,9 +191,8 @@ TEST_F(Search, WithinADateASearchAfterASuccessBeginsWhereItIsTold) {
     EXPECT_EQ(Find("copy", 5, 0, 0, 1), -1);  // behind the day's last entry
     EXPECT_EQ(Find("copy", 0, 0, 0, 1), 2);   // the failure made it begin with the day
     ShowDay(3);
-    // Not with the day's first entry, even before the day: kept as it is.
-    EXPECT_EQ(Find("copy", 2, 0, 0, 1), 3);
-    EXPECT_EQ(cboDate.ListIndex(), 1);
+    EXPECT_EQ(Find("copy", 2, 0, 0, 1), 8);  // what lies before the day is passed over
+    EXPECT_EQ(cboDate.ListIndex(), 3);
 }
 
 TEST_F(Search, RemembersWhereItBegan) {
