@@ -41,8 +41,6 @@ class RotatedLogs {
     // its siblings. Empty when no log is configured.
     const std::vector<std::string>& Items() const { return items_; }
     Display ComboDisplay() const { return display_; }
-    // Whether a list that selects the live log is to be shown.
-    bool ComboIsShown() const { return display_ == Display::LiveLog && items_.size() >= 2; }
 
   private:
     void AddListed(const std::vector<std::string>& listed);

@@ -11,8 +11,9 @@ namespace ordalyn {
 
 // Which of these entries stay, in their order. The filter's text must not be empty. With an
 // operation in the filter, a source counts as holding the text only when the entry is of that
-// operation. A target filter leaves no entry without a target, deliberately, whether it asks for a
-// text or against it. Throws SubscriptOutOfRange for an entry outside the lists.
+// operation. An entry without a target never passes a filter of the targets, deliberately,
+// whether that asks for a text or against it. Throws SubscriptOutOfRange for an entry outside the
+// lists.
 std::vector<std::int32_t> EntriesThatPass(const EntryLists& entries,
                                           const std::vector<std::int32_t>& candidates,
                                           const FilterChoice& filter);

@@ -53,7 +53,7 @@ class FieldScan {
     static constexpr std::ptrdiff_t kWidestGap = 512;
 
     // Takes up the fields from this number on as long as each follows the one before closely.
-    // Answers the number behind them.
+    // Returns the number of the first that was not taken up.
     template <typename EntryAt>
     std::int32_t Gather(std::int32_t number, std::int32_t count, const EntryAt& entryAt) {
         count_ = 0;

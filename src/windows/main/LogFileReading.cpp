@@ -82,7 +82,7 @@ bool LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool add
             FileOpened.Raise(fileName);
         fresh.FreeExtraItems();
     } catch (const std::exception&) {
-        // Whatever it was, the user is told where in which file; running out of memory included.
+        // Whatever it was, running out of memory included, the message says where in which file.
         progress_.HideProgress();
         title_.SetTitle(titleBefore);
         ShowReadError(fileName, reader.LineNumber());

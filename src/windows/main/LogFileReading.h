@@ -48,13 +48,13 @@ class LogFileReading {
     // Shows what has been read of several files, the last of which is this one; `set` is used up.
     void ShowSet(EntryLists& set, const std::string& lastFile);
     // Reads what is new in the file that is shown, then shows the last day and its last row. A file
-    // that does not continue what was read is read anew.
+    // that does not continue what was read is read from its beginning.
     void Refresh();
     // The file that is shown; empty when none is.
     const std::string& CurrentLogFile() const { return mark_.path; }
 
-    // The main window has closed, perhaps in the middle of a read: nothing is read, shown or told
-    // any more.
+    // The main window has closed, perhaps in the middle of a read: nothing is read, shown or
+    // reported any more.
     void Stop() { stopped_ = true; }
     bool Stopped() const { return stopped_; }
 
