@@ -96,23 +96,28 @@ Rect Win32Toolkit::WorkArea() {
     return desktop_.scale.Twips(area);
 }
 
+namespace {
+
+struct Screens {
+    const Scale& scale;
+    std::vector<Rect>& areas;
+};
+
+BOOL CALLBACK AddOtherScreen(HMONITOR monitor, HDC, RECT*, LPARAM parameter) {
+    const Screens& found = *reinterpret_cast<Screens*>(parameter);
+    MONITORINFO about = {};
+    about.cbSize = sizeof about;
+    if (GetMonitorInfoW(monitor, &about) && (about.dwFlags & MONITORINFOF_PRIMARY) == 0)
+        found.areas.push_back(found.scale.Twips(about.rcWork));
+    return TRUE;
+}
+
+}  // namespace
+
 std::vector<Rect> Win32Toolkit::WorkAreas() {
     std::vector<Rect> areas = {WorkArea()};
-    struct Screens {
-        const Scale& scale;
-        std::vector<Rect>& areas;
-    } screens{desktop_.scale, areas};
-    EnumDisplayMonitors(
-        nullptr, nullptr,
-        [](HMONITOR monitor, HDC, RECT*, LPARAM parameter) -> BOOL {
-            const Screens& found = *reinterpret_cast<Screens*>(parameter);
-            MONITORINFO about = {};
-            about.cbSize = sizeof about;
-            if (GetMonitorInfoW(monitor, &about) && (about.dwFlags & MONITORINFOF_PRIMARY) == 0)
-                found.areas.push_back(found.scale.Twips(about.rcWork));
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&screens));
+    Screens screens{desktop_.scale, areas};
+    EnumDisplayMonitors(nullptr, nullptr, AddOtherScreen, reinterpret_cast<LPARAM>(&screens));
     return areas;
 }
 
