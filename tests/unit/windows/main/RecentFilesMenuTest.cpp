@@ -24,8 +24,8 @@ constexpr toolkit::FormDesign kDesign = {.name = "frmMain",
 
 class RecentMenu : public FormFixture {
   protected:
-    void SetUp() override { Setup(9); }
-    void Setup(std::int32_t maximum) {
+    void SetUp() override { ShowMenu(9); }
+    void ShowMenu(std::int32_t maximum) {
         recentMenu.Setup(maximum, form, menu, "No Recent Files", "Clear List", "Are you sure?");
     }
     void Read() { recent.ReadList(kOwnFile, "Ordalyn", "RecentFiles"); }
@@ -95,7 +95,7 @@ TEST_F(RecentMenu, EntriesAreNumberedVisibleAndEnabled) {
 
 TEST_F(RecentMenu, FromTheTenthEntryOnTheFirstDigitIsTheAccessKey) {
     recentMenu.RestartClass();
-    Setup(16);
+    ShowMenu(16);
     AddAll("abcdefghijk");
     EXPECT_EQ(Item(10).Caption(), "&10 b");
     EXPECT_EQ(Item(11).Caption(), "&11 a");
@@ -103,7 +103,7 @@ TEST_F(RecentMenu, FromTheTenthEntryOnTheFirstDigitIsTheAccessKey) {
 
 TEST_F(RecentMenu, AnAmpersandOfAPathMarksNoAccessKey) {
     recentMenu.RestartClass();
-    Setup(4);
+    ShowMenu(4);
     recent.AddFile("C:\\R&D\\x&y.log");
     EXPECT_EQ(Item(1).Caption(), "&1 C:\\R&&D\\x&&y.log");
     EXPECT_EQ(recent.ListItems(1), "C:\\R&D\\x&y.log");
@@ -142,7 +142,7 @@ TEST_F(RecentMenu, AfterARestartTheFirstItemStillTellsOnce) {
     int chosen = 0;
     recentMenu.FileChosen.Subscribe([&](std::int32_t) { ++chosen; });
     recentMenu.RestartClass();
-    Setup(2);
+    ShowMenu(2);
     recent.AddFile("a");
     menu.Items().front()->Choose();
     EXPECT_EQ(chosen, 1);
