@@ -22,8 +22,8 @@ class OtherBytes : public Error {
     OtherBytes() : Error("The file does not begin with what was read") {}
 };
 
-// A file that begins with what was read of it; another one throws OtherBytes as soon as that can be
-// told, at its end at the latest.
+// A file that begins with what was read of it; another one throws OtherBytes as soon as that is
+// seen, at its end at the latest.
 class ContinuedFile : public platform::ReadableFile {
   public:
     ContinuedFile(std::unique_ptr<platform::ReadableFile> file, const FileTrace& before,
@@ -88,7 +88,7 @@ AppendedLines::Found AppendedLines::Read(LogMark& mark) {
     return more || changed ? Found::Lines : Found::Nothing;
 }
 
-// Answers false at a line that is none of a log.
+// Returns false at a line that is none of a log.
 bool AppendedLines::Collect(LineReader& lines, const LogMark& mark, LogMark& moved,
                             EntryLists& added) const {
     const bool again = mark.lastLine != LastLine::Finished;
@@ -120,7 +120,7 @@ bool AppendedLines::Collect(LineReader& lines, const LogMark& mark, LogMark& mov
     return true;
 }
 
-// Answers whether an entry is another one than before.
+// Returns whether an entry is another one than before.
 bool AppendedLines::Append(const EntryLists& added, bool replacesLast) {
     bool changed = false;
     for (std::int32_t i = 0; i <= added.EntrySources().ListCount(); ++i) {

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <exception>
+#include <thread>
 
 #include "base/Attempt.h"
 #include "base/Errors.h"
@@ -16,6 +17,7 @@ namespace {
 
 // A log that is being rotated is missing for a moment. Longer than this, a person would wait.
 constexpr std::chrono::milliseconds kMoment{100};
+constexpr std::chrono::milliseconds kBetweenTries{5};
 
 class ReadAnewFailed : public Error {
   public:
@@ -35,6 +37,8 @@ auto InAMoment(const Read& read) {
             if (std::chrono::steady_clock::now() >= end)
                 throw;
         }
+        // The file manager needs the processor to be done with the file.
+        std::this_thread::sleep_for(kBetweenTries);
     }
 }
 

@@ -38,11 +38,11 @@ class LogFileReading {
     // a read.
     toolkit::Event<bool> WindowsEnabled;
 
-    // Reads one whole file and shows it instead of what is shown; answers whether it does. A
+    // Reads one whole file and shows it instead of what is shown; returns whether it does. A
     // failure of any kind ends in a message that names the file and the line, and leaves the window
     // as it was. Does nothing while another file is being read.
     bool ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles);
-    // Reads one of several files, behind what `set` has; a message tells of a failure, and what was
+    // Reads one of several files, behind what `set` has; a message reports a failure, and what was
     // read before it stays. The progress window stays, too.
     void AddLogFile(const std::string& fileName, EntryLists& set);
     // Shows what has been read of several files, the last of which is this one; `set` is used up.

@@ -55,7 +55,7 @@ class DayPanels : public EntryDisplay {
     // Empties the list of days; the panels and the index that belongs to them stay.
     void ShowNoDays() { controls_.cboDate.Clear(); }
     // Fills both panels for SelectedDay unless they show it already. Every entry has its row, also
-    // one whose time cannot be told.
+    // one whose source has no time.
     void FillPanels();
     // Narrows the panels to the filter. With blnPreShow they are filled for their day first, so
     // that rows which an earlier filter removed come back.
