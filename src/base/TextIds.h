@@ -101,6 +101,8 @@ inline constexpr TextId kNoCommanderSettings{"3046"};
 inline constexpr TextId kFileNotFound{"3056"};
 inline constexpr TextId kReading{"3250"};
 inline constexpr TextId kNoCommanderLog{"4050"};
+inline constexpr TextId kLinesPassedOver{"4051"};
+inline constexpr TextId kFirstPassedOver{"4052"};
 
 // The main window: columns, lists and status bar.
 inline constexpr TextId kTime{"4000"};

@@ -70,11 +70,12 @@ AppendedLines::Found AppendedLines::Read(LogMark& mark) {
     // Beside the lists until the file has been read to its end: only then is it known whether it is
     // the one that was read before.
     EntryLists added;
+    PassedOverLines passedOver;
     bool malformed = false;
     try {
         LineReader lines(std::make_unique<ContinuedFile>(std::move(file), mark.trace, moved.trace),
                          codePages_);
-        malformed = !Collect(lines, mark, moved, added);
+        malformed = !Collect(lines, mark, moved, added, passedOver);
     } catch (const OtherBytes&) {
         return Found::AnotherFile;
     }
@@ -83,14 +84,16 @@ AppendedLines::Found AppendedLines::Read(LogMark& mark) {
     const bool more = moved.lineCount > mark.lineCount;
     const bool changed = Append(added, mark.lastLine == LastLine::UnfinishedEntry);
     mark = std::move(moved);
+    if (passedOver_)
+        *passedOver_ = std::move(passedOver);
     if (malformed)
         throw MalformedText("A line of the log has no blank");
     return more || changed ? Found::Lines : Found::Nothing;
 }
 
-// Returns false at a line that is none of a log.
+// Returns false at a line that is none of a log and ends the read.
 bool AppendedLines::Collect(LineReader& lines, const LogMark& mark, LogMark& moved,
-                            EntryLists& added) const {
+                            EntryLists& added, PassedOverLines& passedOver) const {
     const bool again = mark.lastLine != LastLine::Finished;
     const std::int32_t old = mark.lineCount - (again ? 1 : 0);
     while (moved.lineCount < old && lines.Skip())
@@ -109,9 +112,14 @@ bool AppendedLines::Collect(LineReader& lines, const LogMark& mark, LogMark& mov
                 trimmed.empty() ? LastLine::UnfinishedBlank : LastLine::UnfinishedEntry;
         }
         // The count grows before a line is looked at: a malformed line is not met again next time.
-        moved.lineCount = CheckedAdd(moved.lineCount, 1);
-        if (!whole)
-            return false;
+        const std::int32_t number = moved.lineCount;
+        moved.lineCount = CheckedAdd(number, 1);
+        if (!whole) {
+            if (!passedOver_)
+                return false;
+            passedOver.Note(mark.path, number);
+            continue;
+        }
         if (std::exchange(comment, false) && IsCommentLine(trimmed))
             added.AddWithoutFile({{}, CommentSource(trimmed), {}});
         else if (!trimmed.empty())

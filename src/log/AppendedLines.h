@@ -6,6 +6,7 @@
 #include "log/EntryLists.h"
 #include "log/LineReader.h"
 #include "log/LogMark.h"
+#include "log/PassedOverLines.h"
 #include "platform/Platform.h"
 
 namespace ordalyn {
@@ -18,16 +19,18 @@ class AppendedLines {
         AnotherFile,  // it does not begin with what was read; nothing has been changed
     };
 
-    AppendedLines(platform::Files& files, platform::CodePages& codePages, EntryLists& entries)
-        : files_(files), codePages_(codePages), entries_(entries) {}
+    // A line that no log has ends a read, unless there is a place to note that it was passed over.
+    AppendedLines(platform::Files& files, platform::CodePages& codePages, EntryLists& entries,
+                  PassedOverLines* passedOver = nullptr)
+        : files_(files), codePages_(codePages), entries_(entries), passedOver_(passedOver) {}
 
     // Reads on behind the mark, whose entries are the last ones of the lists, and moves it on. A
     // last line that had no end is read again and its entry replaced; one that is not there yet up
     // to its first blank is left for later. Deliberately different from reading a whole file: a
     // line that begins with ";" is split like any other, EntryFiles is not extended, and the lists
     // keep their spare slots. Throws FileError, with nothing changed, and MalformedText for a line
-    // without a blank: the lines before it have been added, and it is not met again. Closes the
-    // file.
+    // without a blank that is not to be passed over: the lines before it have been added, and it is
+    // not met again. Closes the file.
     Found Read(LogMark& mark);
 
     // The number that a message about a failure names: the mark's LineCount as it was before the
@@ -35,12 +38,14 @@ class AppendedLines {
     std::int32_t LineNumber() const { return lineNumber_; }
 
   private:
-    bool Collect(LineReader& lines, const LogMark& mark, LogMark& moved, EntryLists& added) const;
+    bool Collect(LineReader& lines, const LogMark& mark, LogMark& moved, EntryLists& added,
+                 PassedOverLines& passedOver) const;
     bool Append(const EntryLists& added, bool replacesLast);
 
     platform::Files& files_;
     platform::CodePages& codePages_;
     EntryLists& entries_;
+    PassedOverLines* passedOver_;
     std::int32_t lineNumber_ = 0;
 };
 

@@ -32,7 +32,7 @@ class FileTrace {
 struct LogMark {
     enum class LastLine {
         Finished,         // it had an end, or there was none
-        UnfinishedBlank,  // more of it may come
+        UnfinishedBlank,  // more of it may come; there is no entry of it yet
         UnfinishedEntry,  // the same, and what there was of it is the last entry
     };
     std::string path;            // empty: nothing has been read

@@ -69,6 +69,12 @@ void LogReader::ReadLines(std::int32_t mostLines, const Progress& progress) {
         }
         if (trimmed.empty())
             continue;
+        if (passedOver_ && !IsWholeLogLine(trimmed)) {
+            passedOver_->Note(currentLogFile_, lineNumber_);
+            if (lines.Unfinished())
+                mark.lastLine = LogMark::LastLine::UnfinishedBlank;
+            continue;
+        }
         LogLine fields;
         if (IsCommentLine(trimmed)) {
             comment = CommentSource(trimmed);

@@ -9,6 +9,7 @@
 
 #include "log/EntryLists.h"
 #include "log/LogMark.h"
+#include "log/PassedOverLines.h"
 #include "platform/Platform.h"
 
 namespace ordalyn {
@@ -18,8 +19,10 @@ class LogReader {
     // Takes the progress bar's value. Called some two hundred times in a read, when a bar moves.
     using Progress = std::function<void(std::int32_t value)>;
 
-    LogReader(platform::Files& files, platform::CodePages& codePages, EntryLists& entries)
-        : files_(files), codePages_(codePages), entries_(entries) {}
+    // A line that no log has ends a read, unless there is a place to note that it was passed over.
+    LogReader(platform::Files& files, platform::CodePages& codePages, EntryLists& entries,
+              PassedOverLines* passedOver = nullptr)
+        : files_(files), codePages_(codePages), entries_(entries), passedOver_(passedOver) {}
 
     // The file that was begun last, and its lines PLUS ONE as they were counted (0 before the first
     // file): the maximum of a progress bar for the read.
@@ -37,7 +40,8 @@ class LogReader {
     void BeginFile(std::string_view path);
     // Reads the current file, appending an entry to all four lists for every comment and operation
     // line. The file is closed when this returns or throws; what was read before a failure stays in
-    // the lists. Throws FileError; MalformedText for an operation line without a blank;
+    // the lists. Throws FileError; MalformedText for an operation line without a blank that is not
+    // to be passed over;
     // InvalidPropertyValue when the file has more lines than were counted, which would take the
     // progress bar past its maximum.
     void ReadEntries(const Progress& progress = {});
@@ -51,6 +55,7 @@ class LogReader {
     platform::Files& files_;
     platform::CodePages& codePages_;
     EntryLists& entries_;
+    PassedOverLines* passedOver_;
     std::string currentLogFile_;
     std::int32_t lineCount_ = 0;
     std::int32_t lineNumber_ = 0;

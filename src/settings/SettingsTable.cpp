@@ -56,6 +56,8 @@ constexpr Setting kSettings[] = {
      "splitter position for stacked panels, in twips", PanelLayout, 0, kNoMost},
     {"StatusBarVisible", kOrdalynSection, Flag, &V::StatusBarVisible, "1", "status bar shown",
      MainWindow},
+    {"SkipMalformedLines", kOrdalynSection, Flag, &V::SkipMalformedLines, "0",
+     "lines that no log has are passed over and counted, instead of ending the read", Nobody},
 };
 
 // Entries that the rooms below read and write by keys of their own.

@@ -34,6 +34,7 @@ struct SettingsValues {
     std::int32_t VSplitPosition = 0;
     std::int32_t HSplitPosition = 0;
     std::int32_t StatusBarVisible = 0;
+    std::int32_t SkipMalformedLines = 0;
 };
 
 // Bits of FontStyle.

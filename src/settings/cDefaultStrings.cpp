@@ -85,6 +85,8 @@ constexpr std::string_view kTable[] = {
     "4034=Does not contain",
     "4035=Apply filter",
     "4050=Cannot find Total Commander log file.",
+    "4051=Lines passed over that are not lines of a log:",
+    "4052=The first one is line:",
 };
 // clang-format on
 

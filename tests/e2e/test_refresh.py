@@ -274,3 +274,28 @@ def test_a_line_that_had_no_end_is_read_again(folder):
     app.keys("F5")
     assert operations(app) == ["a.txt", "unfinished.txt", "c.txt"]
     app.close()
+
+
+def test_lines_that_no_log_has_are_passed_over_when_the_settings_say_so(folder):
+    folder.write_settings(Ordalyn={"SkipMalformedLines": 1})
+    log = folder.write("live.log", [line("a"), "garbage", line("b"), "rubbish"])
+    path = folder.windows(log.name)
+    app = folder.start(env=folder.file_manager(f"LogFile={path}"))
+    passed_over = "Lines passed over that are not lines of a log: {}\n{}\nThe first one is line: {}"
+    message = app.message(30)
+    assert message.text == passed_over.format(2, path, 2)
+    assert message.buttons == ["OK"]
+    assert operations(app) == ["a.txt", "b.txt"]
+    message.press("OK")
+    assert app.main.enabled
+
+    with open(log, "ab") as file:
+        file.write(f"litter\r\n{line('c')}\r\n".encode())
+    app.main.choose("View", "Refresh")
+    message = app.message()
+    assert message.text == passed_over.format(1, path, 5)
+    message.press("OK")
+    assert operations(app) == ["a.txt", "b.txt", "c.txt"]
+    app.keys("F5")
+    assert not app.find_dialog()
+    assert app.pointer == "arrow"

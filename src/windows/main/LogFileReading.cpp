@@ -8,7 +8,6 @@
 #include "base/Errors.h"
 #include "base/FileNames.h"
 #include "base/TextIds.h"
-#include "log/AppendedLines.h"
 #include "toolkit/ScopedPointer.h"
 
 namespace ordalyn {
@@ -72,7 +71,9 @@ bool LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool add
     const toolkit::ScopedFlag reading(reading_);
     const std::string titleBefore = title_.Text();
     EntryLists fresh;
-    LogReader reader(shared_.services.files, shared_.services.codePages, fresh);
+    PassedOverLines passedOver;
+    LogReader reader(shared_.services.files, shared_.services.codePages, fresh,
+                     NotedIn(passedOver));
     try {
         if (showDialog)
             fileName = ChooseFile();
@@ -95,14 +96,16 @@ bool LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool add
     mark_ = reader.Mark();
     Show(fresh, true);
     progress_.HideProgress();
+    ReportPassedOver(passedOver);
     return true;
 }
 
-void LogFileReading::AddLogFile(const std::string& fileName, EntryLists& set) {
+void LogFileReading::AddLogFile(const std::string& fileName, Set& set) {
     if (reading_ || stopped_)
         return;
     const toolkit::ScopedFlag reading(reading_);
-    LogReader reader(shared_.services.files, shared_.services.codePages, set);
+    LogReader reader(shared_.services.files, shared_.services.codePages, set.entries,
+                     NotedIn(set.passedOver));
     try {
         Prepare(reader, fileName, false);
         if (!stopped_)
@@ -113,12 +116,13 @@ void LogFileReading::AddLogFile(const std::string& fileName, EntryLists& set) {
     }
 }
 
-void LogFileReading::ShowSet(EntryLists& set, const std::string& lastFile) {
-    Attempt([&] { set.FreeExtraItems(); });
+void LogFileReading::ShowSet(Set& set, const std::string& lastFile) {
+    Attempt([&] { set.entries.FreeExtraItems(); });
     progress_.HideProgress();
     mark_ = {};
     mark_.path = lastFile;
-    Show(set, false);
+    Show(set.entries, false);
+    ReportPassedOver(set.passedOver);
 }
 
 // A log without any date has no row to show. What is on the screen then stays, and so do its
@@ -165,36 +169,42 @@ void LogFileReading::Refresh() {
     if (reading_ || stopped_)
         return;
     const toolkit::ScopedFlag reading(reading_);
-    AppendedLines appended(shared_.services.files, shared_.services.codePages, entries_);
+    PassedOverLines passedOver;
+    AppendedLines appended(shared_.services.files, shared_.services.codePages, entries_,
+                           NotedIn(passedOver));
     try {
-        const toolkit::ScopedPointer hourglass(shared_.toolkit, toolkit::Pointer::Hourglass);
-        if (mark_.lineCount == 0) {
-            ReadAnew();
-            return;
-        }
-        switch (InAMoment([&] { return appended.Read(mark_); })) {
-            case AppendedLines::Found::Nothing:
-                return;
-            case AppendedLines::Found::Lines:
-                panels_.BuildDateList(true);
-                panels_.SelectLastRow();
-                return;
-            case AppendedLines::Found::AnotherFile:
-                ReadAnew();
-                return;
-        }
+        ReadWhatIsNew(appended, passedOver);
     } catch (const ReadAnewFailed& failed) {
         ShowReadError(mark_.path, failed.lineNumber);
     } catch (const std::exception&) {
         ShowReadError(mark_.path, appended.LineNumber());
     }
+    ReportPassedOver(passedOver);
+}
+
+void LogFileReading::ReadWhatIsNew(AppendedLines& appended, PassedOverLines& passedOver) {
+    const toolkit::ScopedPointer hourglass(shared_.toolkit, toolkit::Pointer::Hourglass);
+    const auto found = mark_.lineCount == 0 ? AppendedLines::Found::AnotherFile
+                                            : InAMoment([&] { return appended.Read(mark_); });
+    switch (found) {
+        case AppendedLines::Found::Nothing:
+            return;
+        case AppendedLines::Found::Lines:
+            panels_.BuildDateList(true);
+            panels_.SelectLastRow();
+            return;
+        case AppendedLines::Found::AnotherFile:
+            ReadAnew(passedOver);
+            return;
+    }
 }
 
 // The file is another one than the one that was read, perhaps one that another program writes just
 // now: its lines are not counted first. One that is empty is a log about to begin.
-void LogFileReading::ReadAnew() {
+void LogFileReading::ReadAnew(PassedOverLines& passedOver) {
     EntryLists fresh;
-    LogReader reader(shared_.services.files, shared_.services.codePages, fresh);
+    PassedOverLines left;
+    LogReader reader(shared_.services.files, shared_.services.codePages, fresh, NotedIn(left));
     try {
         InAMoment([&] { reader.ReadGrowingFile(mark_.path); });
     } catch (const std::exception&) {
@@ -203,6 +213,7 @@ void LogFileReading::ReadAnew() {
     if (fresh.EntrySources().ListCount() < 0)
         return;
     fresh.FreeExtraItems();
+    passedOver = left;
     mark_ = reader.Mark();
     title_.SetTitle(mark_.path);
     Show(fresh, true);
@@ -215,6 +226,22 @@ void LogFileReading::ShowReadError(const std::string& fileName, std::int32_t lin
                                 shared_.Text(text_id::kErrorInFile) + "\r\n" + fileName + "\r\n" +
                                     shared_.Text(text_id::kLine) + " " + std::to_string(lineNumber),
                                 mAppCommon::kProgramTitle);
+}
+
+PassedOverLines* LogFileReading::NotedIn(PassedOverLines& passedOver) const {
+    return shared_.settings->SkipMalformedLines != 0 ? &passedOver : nullptr;
+}
+
+// Modal, too.
+void LogFileReading::ReportPassedOver(const PassedOverLines& passedOver) {
+    if (passedOver.count == 0 || stopped_)
+        return;
+    shared_.toolkit.ShowMessage(
+        &mainWindow_,
+        shared_.Text(text_id::kLinesPassedOver) + " " + std::to_string(passedOver.count) + "\r\n" +
+            passedOver.firstFile + "\r\n" + shared_.Text(text_id::kFirstPassedOver) + " " +
+            std::to_string(passedOver.firstLine),
+        mAppCommon::kProgramTitle);
 }
 
 }  // namespace ordalyn

@@ -4,8 +4,10 @@
 
 #include <string>
 
+#include "log/AppendedLines.h"
 #include "log/EntryLists.h"
 #include "log/LogReader.h"
+#include "log/PassedOverLines.h"
 #include "toolkit/Form.h"
 #include "windows/common/SharedObjects.h"
 #include "windows/main/MainTitle.h"
@@ -28,6 +30,11 @@ class LogFileReading {
       private:
         LogFileReading& reading_;
     };
+    // Several files that are read one behind the other.
+    struct Set {
+        EntryLists entries;
+        PassedOverLines passedOver;
+    };
 
     LogFileReading(SharedObjects& shared, toolkit::Form& mainWindow, EntryLists& entries,
                    DayPanels& panels, ReadingProgress& progress, MainTitle& title);
@@ -44,9 +51,9 @@ class LogFileReading {
     bool ReadLogFile(bool showDialog, std::string fileName, bool addToRecentFiles);
     // Reads one of several files, behind what `set` has; a message reports a failure, and what was
     // read before it stays. The progress window stays, too.
-    void AddLogFile(const std::string& fileName, EntryLists& set);
+    void AddLogFile(const std::string& fileName, Set& set);
     // Shows what has been read of several files, the last of which is this one; `set` is used up.
-    void ShowSet(EntryLists& set, const std::string& lastFile);
+    void ShowSet(Set& set, const std::string& lastFile);
     // Reads what is new in the file that is shown, then shows the last day and its last row. A file
     // that does not continue what was read is read from its beginning.
     void Refresh();
@@ -64,9 +71,13 @@ class LogFileReading {
   private:
     void Prepare(LogReader& reader, const std::string& fileName, bool alone);
     void ReadEntries(LogReader& reader);
-    void ReadAnew();
+    void ReadWhatIsNew(AppendedLines& appended, PassedOverLines& passedOver);
+    void ReadAnew(PassedOverLines& passedOver);
     void Show(EntryLists& entries, bool selectLastDate);
     void ShowReadError(const std::string& fileName, std::int32_t lineNumber);
+    void ReportPassedOver(const PassedOverLines& passedOver);
+    // Where lines that no log has are noted; nowhere when they are to end the read.
+    PassedOverLines* NotedIn(PassedOverLines& passedOver) const;
     void EnableWindows(bool enabled);
     // Empty when the user cancels.
     std::string ChooseFile();

@@ -122,7 +122,7 @@ void LogFileSet::SelectAgain(int before) {
 }
 
 void LogFileSet::ReadAllFiles(int before) {
-    EntryLists set;
+    LogFileReading::Set set;
     reading_.CancelReading = false;
     const std::string liveLog = logFolder_ + controls_.cboFiles.List(kLiveLogItem);
     bool stopped = false;
@@ -144,7 +144,7 @@ void LogFileSet::ReadAllFiles(int before) {
     controls_.mnuViewRefresh.SetEnabled(false);
 }
 
-bool LogFileSet::ReadSiblings(EntryLists& set) {
+bool LogFileSet::ReadSiblings(LogFileReading::Set& set) {
     for (int item = kFirstSiblingItem; item < controls_.cboFiles.ListCount(); ++item) {
         reading_.AddLogFile(logFolder_ + controls_.cboFiles.List(item), set);
         // So that a click on Cancel is seen. The main window waits for the read, but the list of

@@ -47,7 +47,7 @@ class LogFileSet {
     // `before` is the item that was selected before this one was chosen.
     void ReadAllFiles(int before);
     // Reads the rotated siblings in the order of the list; false when the user stopped it.
-    bool ReadSiblings(EntryLists& set);
+    bool ReadSiblings(LogFileReading::Set& set);
     void ReadOnlyLiveLog(int before);
     void SelectAgain(int before);
     void EnableRefreshForLiveLog();

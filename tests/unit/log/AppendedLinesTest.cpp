@@ -216,5 +216,56 @@ TEST_F(AppendedLinesTest, ACommentThatHadNoEndStaysOne) {
     EXPECT_THAT(Sources(), ElementsAre("t: a", "; comment"));
 }
 
+class TolerantAppendedLinesTest : public AppendedLinesTest {
+  protected:
+    Found Refresh(const std::string& bytes) {
+        files.Put(kLog, bytes);
+        return tolerant.Read(mark);
+    }
+    PassedOverLines passedOver;
+    AppendedLines tolerant{files, codePages, entries, &passedOver};
+};
+
+TEST_F(TolerantAppendedLinesTest, LinesThatNoLogHasArePassedOverWhereTheyAreNoted) {
+    ReadFile("d t: a\n\n");
+    EXPECT_EQ(Refresh("d t: a\n\nd t: b\ngarbage\n;comment\nd t: c\n"), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b", "t: c"));
+    EXPECT_EQ(passedOver.count, 2) << "an appended comment is split like any other line";
+    EXPECT_EQ(passedOver.firstFile, kLog);
+    EXPECT_EQ(passedOver.firstLine, 4);
+    EXPECT_EQ(mark.lineCount, 7);
+
+    EXPECT_EQ(tolerant.Read(mark), Found::Nothing);
+    EXPECT_EQ(passedOver.count, 0) << "they are not met again";
+}
+
+TEST_F(TolerantAppendedLinesTest, OneWithoutAnEndIsLeftForLater) {
+    ReadFile("d t: a\n");
+    EXPECT_EQ(Refresh("d t: a\ngarb"), Found::Nothing);
+    EXPECT_EQ(passedOver.count, 0);
+    EXPECT_EQ(Refresh("d t: a\ngarbage\nd t: b\n"), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b"));
+    EXPECT_EQ(passedOver.count, 1);
+    EXPECT_EQ(passedOver.firstLine, 2);
+}
+
+TEST_F(TolerantAppendedLinesTest, OneThatAWholeReadHasPassedOverIsReadAgain) {
+    files.Put(kLog, "d t: a\n2024");
+    LogReader reader(files, codePages, entries, &passedOver);
+    reader.BeginFile(kLog);
+    reader.ReadEntries();
+    mark = reader.Mark();
+    EXPECT_EQ(Refresh("d t: a\n2024 t: b\n"), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b"));
+    EXPECT_EQ(passedOver.count, 0);
+}
+
+TEST_F(TolerantAppendedLinesTest, NothingIsNotedOfAnotherFile) {
+    ReadFile("d t: a\nd t: b\n");
+    passedOver = {};
+    EXPECT_EQ(Refresh("garbage\ngarbage\ngarbage\ngarbage\n"), Found::AnotherFile);
+    EXPECT_EQ(passedOver.count, 0);
+}
+
 }  // namespace
 }  // namespace ordalyn

@@ -240,5 +240,55 @@ TEST_F(LogReaderTest, TheMarkSaysHowTheFileEnded) {
     }
 }
 
+TEST_F(LogReaderTest, LinesThatNoLogHasArePassedOverWhereTheyAreNoted) {
+    PassedOverLines passedOver;
+    LogReader tolerant(files, codePages, entries, &passedOver);
+    files.Put(kPath, "d t: a\n\ngarbage\n;comment\nd\tt:\tb\nd t: c\n");
+    tolerant.BeginFile(kPath);
+    std::vector<std::int32_t> progress;
+    tolerant.ReadEntries([&](std::int32_t value) { progress.push_back(value); });
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "; comment", "t: c"));
+    EXPECT_THAT(Files(), ElementsAre("x.log", "x.log", "x.log"));
+    EXPECT_EQ(passedOver.count, 2);
+    EXPECT_EQ(passedOver.firstFile, kPath);
+    EXPECT_EQ(passedOver.firstLine, 3) << "blank lines count";
+    EXPECT_EQ(tolerant.LineNumber(), 6);
+    EXPECT_EQ(tolerant.Mark().lineCount, 7);
+    EXPECT_EQ(progress.back(), 7);
+}
+
+TEST_F(LogReaderTest, WhatIsPassedOverOfSeveralFilesIsCountedTogether) {
+    PassedOverLines passedOver;
+    LogReader tolerant(files, codePages, entries, &passedOver);
+    files.Put(kPath, "d t: a\n");
+    files.Put("C:\\logs\\y.log", "garbage\nrubbish\n");
+    files.Put("C:\\logs\\z.log", "d t: b\nlitter\n");
+    const std::vector<std::string> paths = {kPath, "C:\\logs\\y.log", "C:\\logs\\z.log"};
+    for (const std::string& path : paths) {
+        tolerant.BeginFile(path);
+        tolerant.ReadEntries();
+    }
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: b"));
+    EXPECT_EQ(passedOver.count, 3);
+    EXPECT_EQ(passedOver.firstFile, "C:\\logs\\y.log");
+    EXPECT_EQ(passedOver.firstLine, 1);
+}
+
+TEST_F(LogReaderTest, APassedOverLineWithoutAnEndMayStillBecomeOne) {
+    PassedOverLines passedOver;
+    LogReader tolerant(files, codePages, entries, &passedOver);
+    files.Put(kPath, "d t: a\ngarb");
+    tolerant.BeginFile(kPath);
+    tolerant.ReadEntries();
+    EXPECT_EQ(passedOver.count, 1);
+    EXPECT_EQ(tolerant.Mark().lastLine, LogMark::LastLine::UnfinishedBlank)
+        << "there is no entry to replace";
+
+    passedOver = {};
+    tolerant.ReadGrowingFile(kPath);
+    EXPECT_EQ(passedOver.count, 0) << "in a file that grows it is left for later";
+    EXPECT_EQ(tolerant.Mark().lineCount, 2);
+}
+
 }  // namespace
 }  // namespace ordalyn

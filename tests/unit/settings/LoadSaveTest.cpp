@@ -35,6 +35,7 @@ constexpr Row kRows[] = {
     {"VSplitPosition", "Ordalyn", false, 4000, false},
     {"HSplitPosition", "Ordalyn", false, 4000, false},
     {"StatusBarVisible", "Ordalyn", false, 1, false},
+    {"SkipMalformedLines", "Ordalyn", false, 0, false},
 };
 
 const Setting& RowOf(std::string_view key) {

@@ -39,12 +39,12 @@ TEST_F(LogFileReadingTest, OneOfSeveralFilesShowsTheTallFormAndChangesNothingYet
     progress.steps.clear();
     ForgetTitles();
     Write("C:\\logs\\x.1.log", {kLine, kLine});
-    EntryLists set;
+    LogFileReading::Set set;
     reading.AddLogFile("C:\\logs\\x.1.log", set);
     EXPECT_THAT(progress.steps, ElementsAre("tall x.1.log", "show Reading... Please wait. 3"));
     EXPECT_THAT(Titles(), IsEmpty());
-    EXPECT_EQ(set.EntryDates().ListCount(), 1);
-    EXPECT_EQ(set.EntryFiles().List(1), "x.1.log");
+    EXPECT_EQ(set.entries.EntryDates().ListCount(), 1);
+    EXPECT_EQ(set.entries.EntryFiles().List(1), "x.1.log");
     EXPECT_EQ(entries.EntryDates().ListCount(), 0);
     EXPECT_EQ(SourceListView.RowCount(), 1);
 }
@@ -406,6 +406,64 @@ TEST_F(LogFileReadingTest, AnEntryWithoutASlotForItsFileIsNoErrorOfTheFile) {
     EXPECT_THAT(tools.messages, IsEmpty());
     EXPECT_EQ(SourceListView.RowCount(), 3);
     EXPECT_EQ(title.Text(), "C:\\logs\\");
+}
+
+TEST_F(LogFileReadingTest, LinesThatNoLogHasCanBePassedOverAndAreReportedOnceAtTheEnd) {
+    settings.SkipMalformedLines = -1;  // a flag: any value but 0
+    bool visible = true;
+    int rows = 0;
+    tools.onMessage = [&](const test::ShownMessage&) {
+        visible = progress.visible;
+        rows = SourceListView.RowCount();
+        return toolkit::Answer::Ok;
+    };
+    Load({kLine, "", "garbage", kLine, "rubbish"});
+    EXPECT_EQ(SourceListView.RowCount(), 2);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text,
+              "Lines passed over that are not lines of a log: 2\r\nC:\\logs\\x.log\r\n"
+              "The first one is line: 3");
+    EXPECT_EQ(tools.messages[0].icon, toolkit::MessageIcon::None);
+    EXPECT_EQ(tools.messages[0].buttons, toolkit::MessageButtons::Ok);
+    EXPECT_FALSE(visible) << "the progress window is gone";
+    EXPECT_EQ(rows, 2) << "what was read is shown behind the message";
+    tools.messages.clear();
+    Load({kLine});
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
+TEST_F(LogFileReadingTest, RefreshReportsWhatItHasPassedOverOnce) {
+    settings.SkipMalformedLines = 1;
+    Load({kLine});
+    system.files.Append(kLog, "garbage\r\n" + std::string(kLine) + "\r\n");
+    bool hourglass = false;
+    tools.onMessage = [&](const test::ShownMessage&) {
+        hourglass = tools.pointer == toolkit::Pointer::Hourglass;
+        return toolkit::Answer::Ok;
+    };
+    reading.Refresh();
+    reading.Refresh();
+    EXPECT_EQ(SourceListView.RowCount(), 2);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_THAT(tools.messages[0].text, testing::EndsWith("The first one is line: 2"));
+    EXPECT_FALSE(hourglass) << "a person can answer";
+
+    // Another file at the path: counted anew.
+    Write(kLog, {"rubbish", "litter", "02.03.2024 10:00:00: Delete x"});
+    reading.Refresh();
+    EXPECT_EQ(SourceListView.RowCount(), 1);
+    ASSERT_EQ(tools.messages.size(), 2U);
+    EXPECT_THAT(tools.messages[1].text, testing::HasSubstr(": 2\r\n"));
+    EXPECT_THAT(tools.messages[1].text, testing::EndsWith("The first one is line: 1"));
+}
+
+TEST_F(LogFileReadingTest, ARefreshThatReadsNothingAnewReportsNothing) {
+    settings.SkipMalformedLines = 1;
+    Load({kLine, kLine});
+    Write(kLog, {"garbage"});
+    reading.Refresh();
+    EXPECT_EQ(SourceListView.RowCount(), 2);
+    EXPECT_THAT(tools.messages, IsEmpty()) << "the file may be about to begin";
 }
 
 }  // namespace

@@ -291,5 +291,24 @@ TEST_F(LogFileSetTest, TheLiveLogAloneInAListThatStillShowsIsReadLikeAnyFile) {
     EXPECT_TRUE(mnuViewRefresh.Enabled());
 }
 
+TEST_F(LogFileSetTest, WhatWasPassedOverInAllFilesIsReportedOnceAtTheEnd) {
+    settings.SkipMalformedLines = 1;
+    system.files.Append("C:\\logs\\xa.log", "garbage\r\n");
+    system.files.Append(kLog, "rubbish\r\n");
+    files.BuildLogFileList();
+    std::vector<std::string> dates;
+    tools.onMessage = [&](const test::ShownMessage&) {
+        dates = Dates();
+        return toolkit::Answer::Ok;
+    };
+    cboFiles.UserSelected(0);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text,
+              "Lines passed over that are not lines of a log: 2\r\nC:\\logs\\xa.log\r\n"
+              "The first one is line: 3");
+    EXPECT_THAT(dates, ElementsAre("All dates", "01.03.2024", "02.03.2024", "03.03.2024"))
+        << "what was read is shown behind the message";
+}
+
 }  // namespace
 }  // namespace ordalyn
