@@ -206,7 +206,12 @@ void LogFileReading::ReadAnew(PassedOverLines& passedOver) {
     PassedOverLines left;
     LogReader reader(shared_.services.files, shared_.services.codePages, fresh, NotedIn(left));
     try {
-        InAMoment([&] { reader.ReadGrowingFile(mark_.path); });
+        InAMoment([&] {
+            // Nothing of a try that failed in the middle.
+            fresh.Clear();
+            left = {};
+            reader.ReadGrowingFile(mark_.path);
+        });
     } catch (const std::exception&) {
         throw ReadAnewFailed(reader.LineNumber());
     }

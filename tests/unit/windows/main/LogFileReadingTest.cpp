@@ -466,5 +466,23 @@ TEST_F(LogFileReadingTest, ARefreshThatReadsNothingAnewReportsNothing) {
     EXPECT_THAT(tools.messages, IsEmpty()) << "the file may be about to begin";
 }
 
+TEST_F(LogFileReadingTest, AReadThatFailsInTheMiddleAndIsTriedAgainBringsEachLineOnce) {
+    settings.SkipMalformedLines = 1;
+    Load({kLine});
+    std::vector<std::string> anew(2002, "02.03.2024 10:00:00: Delete x");
+    anew.front() = anew.back() = "garbage";
+    Write(kLog, anew);
+    int opened = 0;
+    // What Refresh opens first tells it that this is another log.
+    system.files.onOpen = [&](const std::string& path) {
+        system.files.FailReadingAfter(path, ++opened == 2 ? 50'000 : 1'000'000);
+    };
+    reading.Refresh();
+    EXPECT_EQ(opened, 3);
+    EXPECT_EQ(SourceListView.RowCount(), 2000);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_THAT(tools.messages[0].text, testing::HasSubstr("of a log: 2\r\n"));
+}
+
 }  // namespace
 }  // namespace ordalyn
