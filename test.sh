@@ -2,7 +2,7 @@
 # Runs every test of the project, or the kinds that are named, and ends with the count. Benchmarks run
 # only when they are named: a limit that a busy machine misses is no failed test.
 #
-#   ./test.sh [lint] [unit] [wine] [clang] [contract] [e2e] [fuzz] [bench]
+#   ./test.sh [lint] [unit] [wine] [clang] [contract] [e2e] [x86] [fuzz] [bench]
 #
 #   lint      layout, static analysis, and rules of this code base
 #   unit      unit tests and the in-memory side of the contract suite, with sanitizers
@@ -10,6 +10,7 @@
 #   clang     builds the program with the second compiler, then as wine
 #   contract  both sides of the contract suite only
 #   e2e       the real program in a real window
+#   x86       wine and e2e with the 32-bit program, in a small Debian of its own (tools/x86_wine.sh)
 #   fuzz      every fuzz target for a bounded time
 #   bench     benchmarks; a missed limit is a failure
 #
@@ -35,12 +36,20 @@ count_file() {
     done <"$COUNTS"
 }
 
+# What drives the real program in its window.
+build_agent() {
+    cmake --build --preset "$1" --target ordalyn_e2e_agent ordalyn_e2e_launch ordalyn_e2e_hold
+}
+
+# What pytest is started with, when it is not by itself.
+UNDER=()
+
 run_pytest() {
     local report=build/$1.xml
     shift
     rm -f "$report"
     # pytest ends with 1 when a test fails; the counts tell that, too.
-    /usr/bin/python3 -B -m pytest -p no:cacheprovider -q --junitxml="$report" "$@" || true
+    "${UNDER[@]}" /usr/bin/python3 -B -m pytest -p no:cacheprovider -q --junitxml="$report" "$@" || true
     /usr/bin/python3 tools/pytest_counts.py "$report" >>$COUNTS
 }
 
@@ -88,12 +97,23 @@ kind_contract() {
 
 kind_e2e() {
     ./build.sh x64
-    cmake --build --preset mingw-x64 --target ordalyn_e2e_agent ordalyn_e2e_launch ordalyn_e2e_hold
+    build_agent mingw-x64
     # The program and its tests mostly wait for one another. Each worker has a display and a Wine
     # prefix of its own. Keyboard and mouse come through that display, whose timing is nobody's: a
     # test that fails is run once more, and the run names it (RERUN).
     # shellcheck disable=SC2086
     run_pytest e2e -n 2 --reruns 1 -rR tests/e2e ${ORDALYN_E2E:-}
+}
+
+kind_x86() {
+    build_tests mingw-x86
+    programs_in build/mingw-x86/tests/{unit,contract} | grep '\.exe$' |
+        tools/x86_wine.sh /usr/bin/python3 tools/run_googletest.py wine $COUNTS
+    ./build.sh x86
+    build_agent mingw-x86
+    UNDER=(tools/x86_wine.sh)
+    # shellcheck disable=SC2086
+    run_pytest x86 -n 2 --reruns 1 -rR tests/e2e ${ORDALYN_E2E:-}
 }
 
 # targets PRESET PREFIX: the names of a build folder's targets that start so.
@@ -124,7 +144,7 @@ kind_bench() {
 # The program itself under Wine, on a log of a million lines.
 bench_real_program() {
     ./build.sh x64
-    cmake --build --preset mingw-x64 --target ordalyn_e2e_agent ordalyn_e2e_launch
+    build_agent mingw-x64
     cmake --build --preset native-release --target make_log
     build/native-release/tests/bench/make_log build/million.log
     if /usr/bin/python3 -B tests/bench/real_program.py build/million.log; then
@@ -134,10 +154,14 @@ bench_real_program() {
     fi
 }
 
-[ $# -gt 0 ] || set -- lint unit wine clang e2e fuzz
+if [ $# -eq 0 ]; then
+    set -- lint unit wine clang e2e x86 fuzz
+    # It says what is missing. Whoever names this kind, and CI, gets a failure instead.
+    tools/x86_wine.sh --check || set -- lint unit wine clang e2e fuzz
+fi
 for kind in "$@"; do
     case $kind in
-        lint | unit | wine | clang | contract | e2e | fuzz | bench) ;;
+        lint | unit | wine | clang | contract | e2e | x86 | fuzz | bench) ;;
         *)
             echo "test.sh: no such kind of test: $kind" >&2
             exit 2

@@ -13,9 +13,9 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
 from harness.display import Display  # noqa: E402
 from harness.folder import Folder  # noqa: E402
 from harness.processor import stay_on_processor  # noqa: E402
-from harness.wine import PROJECT, WORK, Wine  # noqa: E402
+from harness.wine import BITS, PROJECT, WORK, Wine  # noqa: E402
 
-ARTIFACTS = PROJECT / "build" / "e2e-artifacts"
+ARTIFACTS = PROJECT / "build" / ("e2e-artifacts" if BITS == "x64" else f"e2e-artifacts-{BITS}")
 
 
 @pytest.fixture(scope="session")

@@ -5,18 +5,18 @@ import pathlib
 import shutil
 
 from .app import App
-from .wine import PROJECT, windows_path
+from .wine import BITS, PROJECT, windows_path
 
 
 def program_folder():
     """Where the program that is tested lies; build.sh makes it."""
-    return pathlib.Path(os.environ.get("ORDALYN_PROGRAM", PROJECT / "dist" / "x64"))
+    return pathlib.Path(os.environ.get("ORDALYN_PROGRAM", PROJECT / "dist" / BITS))
 
 
 def tools_folder():
     """Where the agent and its launcher lie."""
     return pathlib.Path(os.environ.get(
-        "ORDALYN_E2E_TOOLS", PROJECT / "build" / "mingw-x64" / "tests" / "e2e" / "agent"))
+        "ORDALYN_E2E_TOOLS", PROJECT / "build" / f"mingw-{BITS}" / "tests" / "e2e" / "agent"))
 
 
 class Folder:

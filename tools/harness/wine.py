@@ -9,7 +9,9 @@ import subprocess
 from .waiting import wait_until
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
-WORK = PROJECT / "build" / "e2e"
+# Which program is tested: the 64-bit one, or the 32-bit one under a Wine that runs it (x86_wine.sh).
+BITS = os.environ.get("ORDALYN_BITS", "x64")
+WORK = PROJECT / "build" / ("e2e" if BITS == "x64" else f"e2e-{BITS}")
 
 
 def windows_path(path):

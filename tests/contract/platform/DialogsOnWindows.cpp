@@ -55,21 +55,20 @@ class Presser {
     std::thread thread_;
 };
 
+int CALLBACK TakeTrueType(const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM found) {
+    if (!(type & TRUETYPE_FONTTYPE) || font->lfFaceName[0] == L'@')
+        return 1;
+    *reinterpret_cast<std::wstring*>(found) = font->lfFaceName;
+    return 0;
+}
+
 // A scalable font that is installed here.
 std::string InstalledFont() {
     std::wstring name;
     LOGFONTW any{};
     any.lfCharSet = ANSI_CHARSET;
     const HDC screen = GetDC(nullptr);
-    EnumFontFamiliesExW(
-        screen, &any,
-        [](const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM found) -> int {
-            if (!(type & TRUETYPE_FONTTYPE) || font->lfFaceName[0] == L'@')
-                return 1;
-            *reinterpret_cast<std::wstring*>(found) = font->lfFaceName;
-            return 0;
-        },
-        reinterpret_cast<LPARAM>(&name), 0);
+    EnumFontFamiliesExW(screen, &any, TakeTrueType, reinterpret_cast<LPARAM>(&name), 0);
     ReleaseDC(nullptr, screen);
     return win32::FromWide(name);
 }

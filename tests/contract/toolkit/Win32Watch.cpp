@@ -18,6 +18,16 @@ Answer AnswerOf(int button) {
     return button == IDNO ? Answer::No : Answer::Ok;
 }
 
+BOOL CALLBACK FindBox(HWND window, LPARAM found) {
+    wchar_t name[16] = {};
+    GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    if (std::wstring_view(name) != L"#32770" || !IsWindowVisible(window) ||
+        !IsWindowEnabled(window))
+        return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
 }  // namespace
 
 Win32Watch* Win32Watch::watch_ = nullptr;
@@ -39,18 +49,7 @@ void CALLBACK Win32Watch::Look(HWND, UINT, UINT_PTR, DWORD) {
 
 void Win32Watch::LookAround() {
     HWND box = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM found) -> BOOL {
-            wchar_t name[16] = {};
-            GetClassNameW(window, name, static_cast<int>(std::size(name)));
-            if (std::wstring_view(name) != L"#32770" || !IsWindowVisible(window) ||
-                !IsWindowEnabled(window))
-                return TRUE;
-            *reinterpret_cast<HWND*>(found) = window;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&box));
+    EnumThreadWindows(GetCurrentThreadId(), FindBox, reinterpret_cast<LPARAM>(&box));
     if (box != nullptr && box != answered_)
         AnswerBox(box);
     GUITHREADINFO info = {};

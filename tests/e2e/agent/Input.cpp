@@ -163,16 +163,15 @@ LRESULT CALLBACK WatchMessages(int code, WPARAM wParam, LPARAM lParam) {
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
+BOOL CALLBACK SeePendingPaint(HWND window, LPARAM parameter) {
+    if (IsWindowVisible(window) && GetUpdateRect(window, nullptr, FALSE))
+        *reinterpret_cast<bool*>(parameter) = true;
+    return TRUE;
+}
+
 bool HasPendingPaint() {
     bool pending = false;
-    EnumThreadWindows(
-        InterfaceThread(),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            if (IsWindowVisible(window) && GetUpdateRect(window, nullptr, FALSE))
-                *reinterpret_cast<bool*>(parameter) = true;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&pending));
+    EnumThreadWindows(InterfaceThread(), SeePendingPaint, reinterpret_cast<LPARAM>(&pending));
     return pending;
 }
 

@@ -13,17 +13,22 @@ bool IsServiceWindow(HWND window) {
     return name == "IME" || name == "MSCTFIME UI" || name == "OleMainThreadWndClass";
 }
 
+BOOL CALLBACK CollectOwnWindow(HWND window, LPARAM parameter) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process == GetCurrentProcessId() && !IsServiceWindow(window))
+        reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(window);
+    return TRUE;
+}
+
+BOOL CALLBACK CollectWindow(HWND window, LPARAM parameter) {
+    reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(window);
+    return TRUE;
+}
+
 std::vector<HWND> TopLevelWindows() {
     std::vector<HWND> windows;
-    EnumWindows(
-        [](HWND window, LPARAM parameter) -> BOOL {
-            DWORD process = 0;
-            GetWindowThreadProcessId(window, &process);
-            if (process == GetCurrentProcessId() && !IsServiceWindow(window))
-                reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    EnumWindows(CollectOwnWindow, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 
@@ -88,13 +93,7 @@ Json Windows(const Json&) {
 // All descendants, in the order of the tab key within each parent.
 Json Tree(const Json& request) {
     std::vector<HWND> children;
-    EnumChildWindows(
-        WindowOf(request),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&children));
+    EnumChildWindows(WindowOf(request), CollectWindow, reinterpret_cast<LPARAM>(&children));
     return DescribeAll(children);
 }
 
