@@ -1,0 +1,264 @@
+#include "unit/app/texts/Situations.h"
+
+#include <regex>
+
+#include "base/TextIds.h"
+#include "windows/main/FindCommands.h"
+#include "windows/progress/ProgressWindow.h"
+
+namespace ordalyn::test {
+
+std::string WithoutAccessKeys(const std::string& caption) {
+    static const std::regex bracketed(R"(\(&\w\))");
+    return std::regex_replace(std::regex_replace(caption, bracketed, ""), std::regex("&"), "");
+}
+
+std::string Trimmed(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? ""
+                                      : text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
+namespace {
+
+using Kind = Situation::Kind;
+
+constexpr const char* kDamaged = "D:\\Archiv\\damaged.log";
+
+// One line for each part of a window that has a text.
+class Lines {
+  public:
+    void Add(const std::string& text) {
+        if (!text.empty())
+            lines_ += (lines_.empty() ? "" : "\n") + WithoutAccessKeys(text);
+    }
+    const std::string& All() const { return lines_; }
+
+  private:
+    std::string lines_;
+};
+
+std::string WindowLines(const toolkit::Form& form) {
+    Lines lines;
+    lines.Add(form.Caption());
+    for (const auto& control : form.Controls()) {
+        const Shown& shown = MemoryToolkit::Of(*control);
+        lines.Add(control->Caption());
+        for (const std::string& tab : shown.tabs)
+            lines.Add(tab);
+        if (control->ControlKind() == toolkit::Kind::ComboBox) {
+            for (const std::string& item : shown.items)
+                lines.Add(item);
+        }
+        if (const auto* bar = dynamic_cast<const toolkit::ToolBar*>(control.get())) {
+            for (int button = 1; button <= bar->ButtonCount(); ++button) {
+                lines.Add(bar->ButtonAt(button).toolTip);
+                for (const auto& entry : bar->ButtonAt(button).menu)
+                    lines.Add(entry.text);
+            }
+        }
+    }
+    return lines.All();
+}
+
+// The about box, where a value stands behind each label.
+std::string AboutLines(const toolkit::Form& about) {
+    std::string lines = about.Caption();
+    bool value = false;
+    for (const auto& control : about.Controls()) {
+        if (control->ControlKind() != toolkit::Kind::Label)
+            continue;
+        lines += (value ? " " : "\n") + control->Caption();
+        value = control->Caption().ends_with(":");
+        if (!MemoryToolkit::Of(*control).toolTip.empty())
+            lines += "\n(" + MemoryToolkit::Of(*control).toolTip + ")";
+    }
+    return lines;
+}
+
+// What the menu entry's dialog shows.
+std::string InDialog(Speaker& speaker, const char* menu,
+                     std::string (*lines)(const toolkit::Form&)) {
+    std::string shown;
+    speaker.tools.modalScripts.push_back([&](toolkit::Form& dialog) { shown = lines(dialog); });
+    speaker.Choose(menu);
+    return shown;
+}
+
+// Filter and find beside those of the main window, which shows no one its dialogs. They listen to
+// the same controls: what the program itself does with its rows is to be looked at before.
+struct OwnCommands {
+    explicit OwnCommands(Speaker& speaker)
+        : main(speaker.Main()),
+          panels({main, speaker.Date(), speaker.Source(), speaker.Target(), speaker.Status(),
+                  main.Menu("mnuContext"), main.Menu("mnuContextCopyTarget")},
+                 entries, filter, *speaker.Shared().settings, speaker.system.locale,
+                 speaker.Shared().Texts()),
+          commands(speaker.Shared(), main, entries, panels, filter) {}
+
+    frmMain& main;
+    EntryLists entries;
+    FilterChoice filter;
+    DayPanels panels;
+    FindCommands commands;
+};
+
+OwnCommands& Own(Speaker& speaker) {
+    if (speaker.kept == nullptr)
+        speaker.kept = std::make_shared<OwnCommands>(speaker);
+    return *static_cast<OwnCommands*>(speaker.kept.get());
+}
+
+void AddMenu(Lines& lines, const std::string& above, const std::vector<ShownMenu>& items) {
+    for (const ShownMenu& item : items) {
+        const std::string place = above + item.caption;
+        if (item.items.empty() && !item.separator)
+            lines.Add(place + (item.keys.empty() ? "" : " [" + item.keys + "]"));
+        AddMenu(lines, place + " > ", item.items);
+    }
+}
+
+std::string Menus(Speaker& speaker) {
+    Lines lines;
+    AddMenu(lines, "", MemoryToolkit::MenusOf(speaker.Main()));
+    for (const auto& item : speaker.Main().Menu("mnuContext").Items())
+        lines.Add(item->Caption() + " [" + item->KeyHint() + "]");
+    return lines.All();
+}
+
+std::string MainWindow(Speaker& speaker) {
+    Lines lines;
+    lines.Add(speaker.Date().List(0));
+    lines.Add(speaker.Files().List(0));
+    lines.Add(speaker.Source().ColumnCaption(0));
+    lines.Add(speaker.Source().ColumnCaption(1));
+    lines.Add(speaker.Target().ColumnCaption(0));
+    return lines.All();
+}
+
+std::string TitleOfAllFiles(Speaker& speaker) {
+    speaker.Files().UserSelected(0);
+    // A row's file takes its place as soon as the rows are there.
+    for (const std::string& title : MemoryToolkit::Of(speaker.Main()).captions) {
+        if (title.ends_with(speaker.Files().List(0)))
+            return title;
+    }
+    return "";
+}
+
+// Each day's count, below one another.
+std::string Counts(Speaker& speaker) {
+    constexpr int kLiveLog = 1;
+    speaker.Files().UserSelected(kLiveLog);
+    Lines lines;
+    for (int day = 1; day < speaker.Date().ListCount(); ++day) {
+        speaker.Date().UserSelected(day);
+        lines.Add(Trimmed(speaker.Status().PanelText(1)));
+    }
+    return lines.All();
+}
+
+std::string Filter(Speaker& speaker) {
+    OwnCommands& own = Own(speaker);
+    own.filter.boxText = kSought;
+    own.panels.LanguageChanged();
+    return speaker.Status().PanelText(3);
+}
+
+std::string Progress(Speaker& speaker) {
+    ProgressWindow progress(speaker.tools, speaker.Main(), speaker.Shared().FormTexts(), [] {});
+    progress.PrepareTall("totalcmd.1.log");
+    progress.ShowProgress(speaker.Text(text_id::kReading), 1000);
+    std::string shown = WindowLines(*progress.Window());
+    progress.HideProgress();
+    return shown;
+}
+
+std::string BadLine(Speaker& speaker) {
+    speaker.SetLog(kDamaged, {"01.03.2024 10:15:30: Delete C:\\b.txt", "damaged"});
+    speaker.Main().FilesDropped.Raise({kDamaged});
+    return speaker.LastMessage();
+}
+
+std::string MissingRecentFile(Speaker& speaker) {
+    speaker.Choose("mnuFileRecentFiles");
+    return speaker.LastMessage();
+}
+
+std::string NothingFound(Speaker& speaker) {
+    speaker.Choose("mnuSearchFindNext");
+    return speaker.LastMessage();
+}
+
+std::string NoLog(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.SetIni("LogFile=C:\\logs\\missing.log");
+    other.Start();
+    return other.LastMessage();
+}
+
+std::string NoSettingsOfTheFileManager(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.system.environment.RemoveVariable("Commander_INI");
+    other.Start();
+    return other.tools.messages.empty() ? "" : other.tools.messages.front().text;
+}
+
+std::string TitleOfTheOpenDialog(Speaker& speaker) {
+    speaker.Choose("mnuFileOpen");
+    const auto& requests = speaker.system.dialogs.openRequests;
+    return requests.empty() ? "" : requests.back().title;
+}
+
+std::string NoHelp(Speaker& speaker) {
+    speaker.Choose("mnuHelpHelpTopics");
+    return speaker.LastMessage();
+}
+
+std::string ClearRecentFiles(Speaker& speaker) {
+    speaker.Main().Menu("mnuFileRecentGroup").Items().back()->Choose();
+    return speaker.LastMessage();
+}
+
+}  // namespace
+
+const std::vector<Situation>& Situations() {
+    static const std::vector<Situation> situations = {
+        {Kind::Title, "The title while all files are read", {"Ordalyn 1.00"}, TitleOfAllFiles},
+        {Kind::Title, "The title of the dialog that opens a log", {}, TitleOfTheOpenDialog},
+        {Kind::Message, "A line that is none of a log", {kDamaged, "2"}, BadLine},
+        {Kind::Message, "Before a list is cleared or a read is left", {}, ClearRecentFiles},
+        {Kind::Message, "A recent file is gone", {kGone}, MissingRecentFile},
+        {Kind::Message, "Nothing is found", {"\"" + std::string(kSought) + "\""}, NothingFound},
+        {Kind::Message, "There is no log", {}, NoLog},
+        {Kind::Message,
+         "The file manager's settings are not found",
+         {"[Wincmd.ini]"},
+         NoSettingsOfTheFileManager},
+        {Kind::Message, "There is no help file", {}, NoHelp},
+        {Kind::Count, "Rows", {"1", "2", "5", "21"}, Counts},
+        {Kind::Window, "While logs are read", {"totalcmd.1.log"}, Progress},
+        {Kind::Window, "The menus", {"[Ctrl+C]", "[F3]"}, Menus},
+        {Kind::Window, "The main window's lists and columns", {}, MainWindow},
+        {Kind::Window,
+         "The options",
+         {},
+         [](Speaker& speaker) { return InDialog(speaker, "mnuViewOptions", WindowLines); }},
+        {Kind::Window,
+         "The about box",
+         {"Ordalyn", "1.00", "mail@"},
+         [](Speaker& speaker) { return InDialog(speaker, "mnuHelpAbout", AboutLines); }},
+        {Kind::Count, "A filter", {kSought}, Filter},
+        {Kind::Window,
+         "The find dialog",
+         {},
+         [](Speaker& speaker) { return WindowLines(Own(speaker).commands.FindDialog()); }},
+        {Kind::Window,
+         "The filter dialog",
+         {},
+         [](Speaker& speaker) { return WindowLines(Own(speaker).commands.FilterDialog()); }},
+    };
+    return situations;
+}
+
+}  // namespace ordalyn::test

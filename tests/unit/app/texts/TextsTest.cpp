@@ -1,0 +1,157 @@
+// Every title, message and count that the program puts together, in every language, read as a
+// whole. The test also writes them on one page for a reader: texts.html in the build's folder.
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <set>
+
+#include "settings/cDefaultStrings.h"
+#include "unit/app/texts/Situations.h"
+#include "unit/app/texts/TextsPage.h"
+
+namespace ordalyn::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+using Kind = Situation::Kind;
+
+// Shown in English: it says that there is no file with the text.
+constexpr std::int32_t kMissingLanguageFile = 3048;
+
+// Where a language says the same as English. What only it would say is no translation.
+const std::set<std::pair<std::string, std::string>> kAsInEnglish = {
+    {"A filter", "Dutch"},
+    {"A filter", "German"},
+};
+
+std::vector<std::string> Languages() {
+    std::vector<std::string> languages;
+    for (const auto& file : std::filesystem::directory_iterator(ORDALYN_SOURCE_DIR "/languages"))
+        languages.push_back(file.path().stem().string());
+    std::sort(languages.begin(), languages.end());
+    languages.insert(languages.begin(), kBuiltInLanguage);
+    return languages;
+}
+
+std::vector<std::string> LinesOf(const std::string& text) {
+    std::vector<std::string> lines(1);
+    for (const char c : text) {
+        if (c == '\n')
+            lines.emplace_back();
+        else if (c != '\r')
+            lines.back() += c;
+    }
+    return lines;
+}
+
+bool EndsWithOneOf(const std::string& text, const std::vector<std::string>& ends) {
+    return std::any_of(ends.begin(), ends.end(),
+                       [&](const std::string& end) { return text.ends_with(end); });
+}
+
+// A line of a message is a sentence or ends with what the program put in; one that the next line
+// goes on with leads to it.
+void ExpectWholeLines(const Situation& situation, const std::string& language,
+                      const std::string& text) {
+    std::vector<std::string> ends = {".", "!", "?", ";", "。", "！", "？"};
+    ends.insert(ends.end(), situation.inserts.begin(), situation.inserts.end());
+    const std::vector<std::string> lines = LinesOf(text);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i].empty())
+            continue;
+        const bool last = i + 1 == lines.size() || lines[i + 1].empty();
+        if (last) {
+            EXPECT_TRUE(EndsWithOneOf(lines[i], ends)) << lines[i];
+        } else if (!EndsWithOneOf(lines[i], situation.inserts) && language != kBuiltInLanguage) {
+            EXPECT_TRUE(EndsWithOneOf(lines[i], {":", "："})) << lines[i];
+        }
+    }
+}
+
+// A sign with two parts stands behind a blank that keeps it on the line; a short word loses its
+// vowel before another one.
+void ExpectFrenchSpelling(const std::string& text) {
+    static const std::regex sign("[:?!]( |\r|\n|$)");
+    for (std::sregex_iterator found(text.begin(), text.end(), sign), end; found != end; ++found)
+        EXPECT_TRUE(text.substr(0, static_cast<std::size_t>(found->position())).ends_with("\u00A0"))
+            << text;
+    static const std::regex unelided("(^|[ \n])([dlnjmst]e|la|que) [aeiouAEIOU]");
+    EXPECT_FALSE(std::regex_search(text, unelided)) << text;
+}
+
+void ExpectReadable(const Situation& situation, const std::string& language,
+                    const std::string& shown) {
+    const std::string text = Trimmed(shown);
+    EXPECT_NE(text, "");
+    for (const std::string& insert : situation.inserts)
+        EXPECT_THAT(text, HasSubstr(insert));
+    EXPECT_EQ(text.find_first_of("%&"), std::string::npos) << text;
+    EXPECT_EQ(text.find("  "), std::string::npos) << text;
+    EXPECT_FALSE(std::regex_search(text, std::regex(" [.,;:!?]"))) << text;
+    if (language == "French")
+        ExpectFrenchSpelling(text);
+    if (situation.kind == Kind::Message)
+        ExpectWholeLines(situation, language, text);
+    // "operation(s)" is two texts in one.
+    if (situation.kind == Kind::Count && language != kBuiltInLanguage) {
+        EXPECT_EQ(text.find_first_of("()/"), std::string::npos) << text;
+    }
+}
+
+// The pieces of a text that stand around a number, as they read.
+std::vector<std::string> PiecesOf(const std::string& text) {
+    const std::string plain = WithoutAccessKeys(text);
+    const std::size_t number = plain.find("%i");
+    if (number == std::string::npos)
+        return {Trimmed(plain)};
+    return {Trimmed(plain.substr(0, number)), Trimmed(plain.substr(number + 2))};
+}
+
+// The texts that no situation shows, so that a new one cannot be forgotten.
+std::vector<std::string> NotShown(Speaker& speaker, const std::string& allShown) {
+    std::vector<std::string> missing;
+    for (const std::string_view entry : cDefaultStrings::BuiltInTable()) {
+        const std::int32_t id = std::stoi(std::string(entry));
+        const std::string text = speaker.Text(id);
+        for (const std::string& piece : PiecesOf(text)) {
+            if (id != kMissingLanguageFile && allShown.find(piece) == std::string::npos)
+                missing.push_back(std::to_string(id) + "=" + text);
+        }
+    }
+    return missing;
+}
+
+TEST(Texts, ReadAsAWholeInEveryLanguage) {
+    std::vector<TextsSection> sections;
+    for (const Situation& situation : Situations())
+        sections.push_back({situation.name, {}});
+    const std::vector<std::string> languages = Languages();
+    ASSERT_GT(languages.size(), 2U);
+    for (const std::string& language : languages) {
+        Speaker speaker(language);
+        speaker.Start();
+        std::string allShown;
+        for (std::size_t i = 0; i < sections.size(); ++i) {
+            const Situation& situation = Situations()[i];
+            SCOPED_TRACE(std::string(situation.name) + ", " + language);
+            speaker.tools.messages.clear();
+            const std::string shown = situation.shown(speaker);
+            ExpectReadable(situation, language, shown);
+            sections[i].texts.emplace_back(language, shown);
+            allShown += shown + "\n";
+            EXPECT_EQ(language != kBuiltInLanguage && shown == sections[i].texts[0].second,
+                      kAsInEnglish.contains({situation.name, language}))
+                << shown;
+        }
+        EXPECT_THAT(NotShown(speaker, allShown), IsEmpty()) << language;
+    }
+    std::ofstream(ORDALYN_TEXTS_PAGE, std::ios::binary) << TextsPage(sections, "Hebrew");
+}
+
+}  // namespace
+}  // namespace ordalyn::test
