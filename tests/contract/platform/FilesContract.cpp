@@ -180,6 +180,15 @@ TEST_P(FilesContract, ListingMatchesLongNamesOnly) {
     EXPECT_THAT(Files().List(System().Folder(), "n*."), ElementsAre("no extension"));
 }
 
+// As in the names of a log's numbered siblings when it has no extension.
+TEST_P(FilesContract, ADotAtTheEndOfANameIsDropped) {
+    System().SetBytes("log.1", "one");
+    EXPECT_TRUE(Files().Exists(System().Path("log.1.")));
+    EXPECT_FALSE(Files().Exists(System().Path("log.2.")));
+    EXPECT_EQ(ReadRest(*Open("log.1.")), "one");
+    EXPECT_THAT(Files().List(System().Folder(), "*"), ElementsAre("log.1"));
+}
+
 TEST_P(FilesContract, ListingNamesOfEveryScript) {
     System().SetBytes("\xD0\x96\xE3\x82\xBD.log", "");
     EXPECT_THAT(Files().List(System().Folder(), "\xD0\xB6*.log"),

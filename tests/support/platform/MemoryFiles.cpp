@@ -76,6 +76,9 @@ std::string MemoryFiles::FullPath(std::string_view path) const {
             parts.push_back(part);
         }
     }
+    // Dots and blanks at the end of a name are dropped.
+    if (!parts.empty())
+        parts.back().resize(parts.back().find_last_not_of(". ") + 1);
     return (network ? "\\\\" : "") + Join(parts, "\\");
 }
 

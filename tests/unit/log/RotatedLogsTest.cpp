@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "unit/log/ScriptedFiles.h"
+#include "support/platform/MemoryFiles.h"
 
 namespace ordalyn {
 namespace {
@@ -16,13 +16,13 @@ class RotatedLogsTest : public testing::Test {
   protected:
     void Put(std::initializer_list<const char*> names) {
         for (const char* name : names)
-            files.Put(std::string("c:\\logs\\") + name, "");
+            files.Set(std::string("c:\\logs\\") + name, "");
     }
     RotatedLogs Build(const std::string& limit, const std::string& keep = "",
                       const std::string& log = "c:\\logs\\x.log") {
         return {files, {false, log, limit, keep}, "All files"};
     }
-    test::ScriptedFiles files;
+    test::MemoryFiles files;
 };
 
 TEST_F(RotatedLogsTest, NameAndFolderOfTheLiveLog) {
@@ -128,11 +128,18 @@ TEST_F(RotatedLogsTest, AnAbsentLogFileLeavesTheListEmpty) {
     EXPECT_EQ(logs.LogFolder(), "");
 }
 
-TEST_F(RotatedLogsTest, ALogWithoutAnExtensionKeepsTheDot) {
-    files.Put("c:\\logs\\log.", "");
-    files.Put("c:\\logs\\log.1.", "");
-    EXPECT_THAT(Build("1", "1", "c:\\logs\\log").Items(),
-                ElementsAre("All files", "log", "log.1."));
+// A pattern that ends in a dot stands for the names without one.
+TEST_F(RotatedLogsTest, ALogWithoutAnExtensionHasSiblingsWithoutOne) {
+    Put({"log", "log_old", "log.1", "log.2", "log.txt"});
+    EXPECT_THAT(Build("-1", "", "c:\\logs\\log").Items(),
+                ElementsAre("All files", "log", "log_old"));
+}
+
+// Windows drops the dot and finds the file.
+TEST_F(RotatedLogsTest, TheNumberedNamesOfALogWithoutAnExtensionKeepTheDot) {
+    Put({"log", "log_old", "log.1", "log.3"});
+    EXPECT_THAT(Build("1", "3", "c:\\logs\\log").Items(),
+                ElementsAre("All files", "log", "log.1.", "log.3."));
 }
 
 }  // namespace

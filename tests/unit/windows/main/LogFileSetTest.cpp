@@ -85,6 +85,23 @@ TEST_F(LogFileSetTest, TheLiveLogIsKnownInAnyLetterCase) {
     EXPECT_TRUE(mnuViewRefresh.Enabled());
 }
 
+// The dot stays at the end of the numbered names. Windows drops it and finds the file.
+TEST_F(LogFileSetTest, ALogWithoutAnExtensionHasSiblingsToo) {
+    Write("C:\\logs\\log", {"03.03.2024 10:00:00: Copy live -> l"});
+    Write("C:\\logs\\log_old", {"01.03.2024 10:00:00: Copy old -> o"});
+    Write("C:\\logs\\log.1", {"02.03.2024 10:00:00: Copy first -> f"});
+    Write("C:\\logs\\log.txt", {});
+    SetRotation("-1", "C:\\logs\\log");
+    files.BuildLogFileList();
+    EXPECT_THAT(Files(), ElementsAre("All files", "log", "log_old"));
+    SetRotation("1000", "C:\\logs\\log");
+    files.BuildLogFileList();
+    EXPECT_THAT(Files(), ElementsAre("All files", "log", "log.1."));
+    cboFiles.UserSelected(2);
+    EXPECT_THAT(Sources(), ElementsAre("Copy first "));
+    EXPECT_FALSE(mnuViewRefresh.Enabled());
+}
+
 TEST_F(LogFileSetTest, PickingTheSelectedItemAgainDoesNothing) {
     files.BuildLogFileList();
     cboFiles.UserSelected(2);
