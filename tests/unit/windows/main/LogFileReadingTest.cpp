@@ -34,6 +34,24 @@ TEST_F(LogFileReadingTest, TrimsThreeListsButNotTheFiles) {
     EXPECT_EQ(entries.EntryFiles().List(1), "");
 }
 
+TEST_F(LogFileReadingTest, TheDaysAreListedBeforeTheProgressWindowGoes) {
+    int listed = 0;
+    panels.DayShown.Subscribe([&] {
+        ++listed;
+        EXPECT_TRUE(progress.visible);
+        EXPECT_EQ(entries.EntrySources().UpperIndex(), 0) << "the lists are trimmed";
+    });
+    Load({kLine});
+    EXPECT_EQ(listed, 1);
+}
+
+TEST_F(LogFileReadingTest, TheTitleNamesTheFileBeforeTheProgressWindowShows) {
+    std::string during;
+    progress.onShow = [&] { during = title.Text(); };
+    Load({kLine});
+    EXPECT_EQ(during, kLog);
+}
+
 TEST_F(LogFileReadingTest, OneOfSeveralFilesShowsTheTallFormAndChangesNothingYet) {
     Load({kLine});
     progress.steps.clear();
@@ -245,6 +263,31 @@ TEST_F(LogFileReadingTest, RefreshAppendsAndSelectsTheLastDayAndRow) {
     EXPECT_THAT(progress.steps, IsEmpty());
     EXPECT_THAT(tools.messages, IsEmpty());
     EXPECT_EQ(tools.pointers.front(), toolkit::Pointer::Hourglass);
+}
+
+// The file is another one than before, so its end is shown.
+TEST_F(LogFileReadingTest, RefreshThatFindsOnlyBlankLinesShowsTheLastDayAndRow) {
+    Load({kLine, "02.03.2024 11:00:00: Move a -> b", "02.03.2024 11:00:01: Delete c"});
+    cboDate.UserSelected(1);
+    system.files.Append(kLog, "\r\n  \r\n");
+    reading.Refresh();
+    EXPECT_EQ(cboDate.ListIndex(), 2);
+    EXPECT_THAT(Sources(), ElementsAre("Move a ", "Delete c"));
+    EXPECT_EQ(SourceListView.SelectedRow(), 1);
+    EXPECT_EQ(entries.EntryDates().ListCount(), 2);
+    EXPECT_THAT(tools.messages, IsEmpty());
+}
+
+TEST_F(LogFileReadingTest, RefreshUnderAFilterThatLetsNothingPassIsNoError) {
+    Load({kLine});
+    filter = {.boxText = "xyz", .FilterText = "xyz"};
+    panels.ApplyFilter(false);
+    system.files.Append(kLog, "02.03.2024 11:00:00: Move a -> b\r\n");
+    reading.Refresh();
+    EXPECT_THAT(tools.messages, IsEmpty());
+    EXPECT_EQ(cboDate.ListIndex(), 2);
+    EXPECT_EQ(SourceListView.RowCount(), 0);
+    EXPECT_EQ(entries.EntryDates().ListCount(), 1);
 }
 
 TEST_F(LogFileReadingTest, RefreshHasNoCommentRule) {

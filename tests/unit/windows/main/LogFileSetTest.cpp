@@ -194,6 +194,10 @@ TEST_F(LogFileSetTest, AStoppedReadShowsTheLiveLogAloneAndLeavesRefreshDisabled)
     EXPECT_FALSE(progress.visible);
     EXPECT_EQ(tools.focus, &SourceListView);
     EXPECT_TRUE(form.Enabled());
+    // One question is enough: no other sibling is read behind it.
+    EXPECT_EQ(tools.messages.size(), 1U);
+    EXPECT_THAT(progress.steps, ElementsAre("tall x_old.log", "show Reading... Please wait. 2",
+                                            "compact", "show Reading... Please wait. 2", "hide"));
     // The selection was recorded without reading again.
     progress.steps.clear();
     cboFiles.UserSelected(1);
@@ -205,6 +209,42 @@ TEST_F(LogFileSetTest, AStoppedReadShowsTheLiveLogAloneAndLeavesRefreshDisabled)
     EXPECT_THAT(tools.messages, IsEmpty());
     EXPECT_FALSE(reading.CancelReading);
     EXPECT_EQ(entries.EntryDates().ListCount(), 3);
+}
+
+TEST_F(LogFileSetTest, AfterAStoppedReadTheKeysGoToTheSourcePanel) {
+    Load({"02.03.2024 10:00:00: Copy live -> l"});
+    // A live log without a day: listing days moves the focus, too.
+    Write(kLog, {"; no day"});
+    files.BuildLogFileList();
+    tools.onDoEvents = [&] { reading.CancelReading = true; };
+    tools.onMessage = [](const test::ShownMessage&) { return toolkit::Answer::Yes; };
+    cboFiles.SetFocus();
+    cboFiles.UserSelected(0);
+    EXPECT_EQ(tools.focus, &SourceListView);
+}
+
+TEST_F(LogFileSetTest, NothingOfTheListIsARecentFile) {
+    files.BuildLogFileList();
+    for (const int item : {2, 0, 1})
+        cboFiles.UserSelected(item);
+    ASSERT_EQ(entries.EntryDates().ListCount(), 0);
+    tools.onDoEvents = [&] { reading.CancelReading = true; };
+    tools.onMessage = [](const test::ShownMessage&) { return toolkit::Answer::Yes; };
+    cboFiles.UserSelected(0);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_THAT(remembered, IsEmpty());
+}
+
+TEST_F(LogFileSetTest, TheDaysOfAllFilesAreListedWhenTheReadIsOver) {
+    files.BuildLogFileList();
+    int listed = 0;
+    panels.DayShown.Subscribe([&] {
+        ++listed;
+        EXPECT_FALSE(progress.visible);
+        EXPECT_EQ(entries.EntrySources().UpperIndex(), 3) << "the lists are trimmed";
+    });
+    cboFiles.UserSelected(0);
+    EXPECT_EQ(listed, 1);
 }
 
 TEST_F(LogFileSetTest, NothingButEmptyFilesIsNoError) {

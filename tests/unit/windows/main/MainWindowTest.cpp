@@ -1,6 +1,8 @@
 // What the main window does with clicks, keys and commands.
 #include "windows/main/frmMain.h"
 
+#include <utility>
+
 #include "support/windows/ProgramWindow.h"
 
 namespace ordalyn {
@@ -189,6 +191,39 @@ TEST_F(MainWindow, RefreshRebuildsTheListOfFiles) {
     Choose("mnuViewRefresh");
     EXPECT_TRUE(Files().Visible());
     EXPECT_EQ(Files().ListCount(), 3);
+}
+
+// The list is built when the rotation that Refresh waits for is over.
+TEST_F(MainWindow, RefreshListsTheFileThatARotationHasJustMade) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    Start();
+    system.files.Delete("C:\\logs\\tc.log");
+    bool rotated = false;
+    system.files.onOpen = [&](const std::string& path) {
+        if (path != "C:\\logs\\tc.log" || std::exchange(rotated, true))
+            return;
+        SetLog("C:\\logs\\tc.1.log", {"01.03.2024 10:15:30: Copy C:\\a.txt -> D:\\a.txt"});
+        SetLog("C:\\logs\\tc.log", {"07.03.2024 10:00:00: Copy x -> y"});
+    };
+    Choose("mnuViewRefresh");
+    ASSERT_TRUE(rotated);
+    EXPECT_EQ(Source().Text(0, 1), "Copy x ");
+    EXPECT_EQ(Files().ListCount(), 3);
+    EXPECT_EQ(Files().ListIndex(), 1);
+}
+
+TEST_F(MainWindow, ARefreshThatFailsRebuildsTheListOfFilesToo) {
+    SetIni("LogFile=C:\\logs\\tc.log\r\nLogRotateLimit=1000\r\nLogKeepCount=3");
+    SetLog("C:\\logs\\tc.1.log", {"01.01.2024 10:00:00: Copy o -> p"});
+    Start();
+    ASSERT_EQ(Files().ListCount(), 3);
+    // Rotated, and nothing has been logged since.
+    system.files.Rename("C:\\logs\\tc.log", "C:\\logs\\tc.2.log");
+    Choose("mnuViewRefresh");
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_THAT(tools.messages[0].text, EndsWith("Line: 0"));
+    EXPECT_EQ(Files().ListCount(), 4);
+    EXPECT_EQ(Source().Text(0, 1), "Move C:\\c ");
 }
 
 TEST_F(MainWindow, FileOpenReadsAndRemembersAndLeavesNoFileSelected) {

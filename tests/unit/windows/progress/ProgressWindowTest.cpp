@@ -100,6 +100,25 @@ TEST_F(Progress, ValuesThatFollowFasterThanEyesAreLeftOut) {
     EXPECT_EQ(bar.Value(), 2);
 }
 
+TEST_F(Progress, TheBarBeginsAnewForTheNextFile) {
+    const auto show = [&](const char* name, std::int32_t lines) -> const toolkit::ProgressBar& {
+        progress.PrepareTall(name);
+        progress.ShowProgress("Reading", lines);
+        return progress.Window()->ProgressBar1;
+    };
+    show("a", 40);
+    progress.SetValue(40);
+    const toolkit::ProgressBar& bar = show("b", 7);
+    EXPECT_EQ(bar.Value(), 1);
+    EXPECT_EQ(bar.Maximum(), 7);
+    now += std::chrono::seconds(1);
+    progress.SetValue(7);
+    show("c", 300);
+    EXPECT_EQ(bar.Value(), 1);
+    EXPECT_EQ(bar.Maximum(), 300);
+    EXPECT_EQ(progress.Window()->lblFileName.Caption(), "c");
+}
+
 TEST_F(Progress, HidingUnloadsTheWindowAndRestoresThePointer) {
     progress.PrepareTall("a");
     progress.ShowProgress("Reading", 3);
