@@ -9,6 +9,10 @@
 
 namespace ordalyn {
 
+namespace test {
+struct ListBoundsInternals;
+}
+
 class ListBounds {
   public:
     // Growth step: slots added when the storage is full. Below 1 counts as 1.
@@ -34,6 +38,7 @@ class ListBounds {
     }
 
   private:
+    friend struct test::ListBoundsInternals;
     std::int32_t GrowStorage();
     std::int32_t step_ = 1;
     std::int32_t upper_ = 1;

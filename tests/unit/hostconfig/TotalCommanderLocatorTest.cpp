@@ -34,6 +34,17 @@ TEST_F(CommanderFolder, TheVariableIsNotExpanded) {
     EXPECT_EQ(Remembered("TCInstallDir"), "%Drive%\\tc");
 }
 
+// Not by the program's folder: it is found again when the program has been moved.
+TEST_F(CommanderFolder, AFolderBelowTheProgramsIsRememberedAsItWasFound) {
+    system.environment.SetVariable("Commander_Path", "C:\\Ordalyn\\tc");
+    EXPECT_EQ(locator.FindCommanderFolder(), "C:\\Ordalyn\\tc\\");
+    EXPECT_EQ(Remembered("TCInstallDir"), "C:\\Ordalyn\\tc");
+    system.environment.RemoveVariable("Commander_Path");
+    Register(kUser, "InstallDir", "C:\\Ordalyn\\other");
+    EXPECT_EQ(locator.FindCommanderFolder(), "C:\\Ordalyn\\other\\");
+    EXPECT_EQ(Remembered("TCInstallDir"), "C:\\Ordalyn\\other");
+}
+
 TEST_F(CommanderFolder, TheUsersRegistryComesSecond) {
     Register(kUser, "InstallDir", "c:\\user\\");
     Register(kMachine, "InstallDir", "c:\\machine");

@@ -248,6 +248,35 @@ TEST_F(ProfileRedirection, AListOfExemptSectionsThatIsThereCountsAndStays) {
     EXPECT_EQ(Text(kOwnFile), own);
 }
 
+TEST_F(ProfileRedirection, WithoutAPlaceToWriteTheDefaultListItCountsAllTheSame) {
+    system.files.Set(kOwnFile, "");
+    system.files.FailWriting(kOwnFile);
+    Wincmd(
+        "[Configuration]\r\nAlternateUserIni=D:\\users\\anna.ini\r\nKey=main\r\n"
+        "[Colors]\r\nBack=main\r\n");
+    EXPECT_EQ(Read("Configuration", "Key"), "main");
+    EXPECT_EQ(Read("Colors", "Back"), "default");
+    EXPECT_EQ(Text(kOwnFile), "");
+}
+
+TEST_F(ProfileRedirection, TheListOfExemptSectionsHas4095Characters) {
+    system.files.Set(kOwnFile, "[Common]\r\nTCSectionsNotRedirectedByDefault=" +
+                                   std::string(4089, ';') + "Colors2\r\n");
+    Wincmd("[Configuration]\r\nAlternateUserIni=D:\\users\\anna.ini\r\n[Colors]\r\nKey=main\r\n");
+    EXPECT_EQ(Read("Colors", "Key"), "main");
+    EXPECT_EQ(Read("Colors2", "Key"), "default");
+}
+
+TEST_F(ProfileRedirection, ATargetHas4095Characters) {
+    std::string target = "D:\\users\\" + std::string(4095, 'x');
+    target.resize(4095);
+    system.files.Set(target, "[Colors]\r\nBack=there\r\n");
+    Wincmd("[Configuration]\r\nAlternateUserIni=" + target + "xyz\r\n[Colors]\r\nBack=main\r\n");
+    EXPECT_EQ(Read("Colors", "Back"), "there");
+    Wincmd("[Colors]\r\nRedirectSection=" + target + "xyz\r\nBack=main\r\n");
+    EXPECT_EQ(Read("Colors", "Back"), "there");
+}
+
 TEST_F(ProfileRedirection, ExemptSectionsAreNotTrimmed) {
     system.files.Set(kOwnFile,
                      "[Common]\r\nTCSectionsNotRedirectedByDefault=Configuration; Colors\r\n");

@@ -177,6 +177,11 @@ TEST_F(CommonDialog, ASystemColorStartsAsTheUsersSettingsSay) {
     EXPECT_EQ(InitialColor(kWindowText, "WindowText"), 0x000180FFU);
 }
 
+TEST_F(CommonDialog, AnyNumberOfBlanksStandsBetweenThePartsOfAColor) {
+    SetSystemColor("  255   128 1 ");
+    EXPECT_EQ(InitialColor(kWindowText, "WindowText"), 0x000180FFU);
+}
+
 TEST_F(CommonDialog, PartsOfAColorThatAreTooLargeAreFull) {
     SetSystemColor("300 0 16");
     EXPECT_EQ(InitialColor(kWindowText, "WindowText"), 0x001000FFU);
@@ -196,6 +201,9 @@ TEST_F(CommonDialog, ASystemColorThatIsNoColorStartsAsItIs) {
 TEST_F(CommonDialog, OnlyASystemColorWithANameIsLookedUp) {
     SetSystemColor("255 128 1");
     EXPECT_EQ(InitialColor(0x00112233, "WindowText"), 0x00112233U);
+    // A key of the registry can have a value without a name.
+    system.registry.SetString(test::MemoryRegistry::kCurrentUser, "Control Panel\\Colors", "",
+                              "1 2 3");
     EXPECT_EQ(InitialColor(kWindowText, ""), 0x80000008U);
 }
 
