@@ -102,6 +102,30 @@ TEST_F(ProgramStart, HasTheDefaultPlacementAndColumns) {
     EXPECT_FALSE(Files().Visible());
 }
 
+TEST_F(ProgramStart, HasTheDefaultColumnsInOnePanel) {
+    SetSettings("TwoPanels=0");
+    Start();
+    ASSERT_EQ(Source().ColumnCount(), 3);
+    EXPECT_EQ(Source().ColumnWidth(2), 10890);
+    for (int column = 0; column < 3; ++column)
+        EXPECT_EQ(Source().ColumnPosition(column), column);
+    const std::string file = SettingsAfterClose();
+    EXPECT_THAT(file, HasSubstr("ColumnsWidth=884,10019,10890\r\n"));
+    EXPECT_THAT(file, HasSubstr("ColumnHeadersPosition=1,2,3\r\n"));
+}
+
+// In whole twips, which need not be the same in both directions.
+TEST_F(ProgramStart, IsLaidOutInThePixelsOfTheScreen) {
+    tools.twipsPerPixelX = 14.4;
+    tools.twipsPerPixelY = 11.6;
+    SetSettings("VerticalPanels=1");
+    Start();
+    const auto& container = Get<toolkit::PictureBox>("picSpliterContainer");
+    EXPECT_EQ(container.Left(), 14);
+    EXPECT_EQ(container.Top(), Date().Height() + 4 * 12);
+    EXPECT_EQ(Get<toolkit::Frame>("Frame1").Width(), 3 * 14);
+}
+
 TEST_F(ProgramStart, RestoresPlacementColumnsAndPanels) {
     SetSettings(
         "MainPosition=100,200,9000,7000\r\nColumnsWidth=500,600,700\r\n"
@@ -125,6 +149,13 @@ TEST_F(ProgramStart, AThirdColumnWithoutAPlaceIsPutLast) {
     EXPECT_EQ(Source().ColumnPosition(0), 1);
     EXPECT_EQ(Source().ColumnPosition(1), 0);
     EXPECT_EQ(Source().ColumnPosition(2), 2);
+}
+
+TEST_F(ProgramStart, ASecondColumnWithoutAPlaceStaysWhereItIs) {
+    SetSettings("ColumnHeadersPosition=1\r\nTwoPanels=0");
+    Start();
+    for (int column = 0; column < 3; ++column)
+        EXPECT_EQ(Source().ColumnPosition(column), column);
 }
 
 TEST_F(ProgramStart, BadColumnSettingsStillGiveEveryColumn) {

@@ -82,6 +82,17 @@ TEST_F(Language, ASinglePanelsThirdColumnFollowsToo) {
     EXPECT_EQ(Source().ColumnCaption(2), "Ziel");
 }
 
+TEST_F(Language, AnotherFileTakesThePlaceOfTheFirst) {
+    Start();
+    ChooseLanguage();
+    const std::string other = "C:\\Ordalyn\\Languages\\French.lng";
+    system.files.Set(other, "[UserLanguage]\r\n101=&Fichier\r\n4005=Tous les jours\r\n");
+    ChooseLanguage(other);
+    EXPECT_EQ(Main().Menu("mnuFile").Caption(), "&Fichier");
+    EXPECT_EQ(Date().List(0), "Tous les jours");
+    EXPECT_EQ(Source().ColumnCaption(0), "Time");  // absent in the file
+}
+
 TEST_F(Language, ChoosingTheSameFileAgainChangesNothingOnScreen) {
     Start();
     ChooseLanguage();
@@ -133,7 +144,9 @@ TEST_F(Language, TheOptionsReachTheMainWindowAtOnce) {
         options.Get<toolkit::CommandButton>("cmdApply").UserClicked();
         options.Get<toolkit::CommandButton>("cmdCancel").UserClicked();
     });
+    const int paintings = MemoryToolkit::Of(Main()).refreshes;
     Choose("mnuViewOptions");
+    EXPECT_EQ(MemoryToolkit::Of(Main()).refreshes, paintings + 1);
     EXPECT_TRUE(Source().GridLines());
     EXPECT_TRUE(Target().GridLines());
     EXPECT_EQ(Date().List(1), "Friday, March 1, 2024");

@@ -307,6 +307,16 @@ TEST_F(Layout, GoingToOnePanelAndBackKeepsOrientationBarAndWidth) {
     EXPECT_EQ(tools.pointers.front(), toolkit::Pointer::Hourglass);
 }
 
+TEST_F(Layout, ARowThatIsSelectedIsShownAgainTheFirstOneToo) {
+    layout.ArrangeFirstTime();
+    FillBoth();
+    layout.ToggleTwoPanels();
+    EXPECT_THAT(selected, IsEmpty());
+    source.SelectRow(0);
+    layout.ToggleTwoPanels();
+    EXPECT_THAT(selected, ElementsAre(0));
+}
+
 TEST_F(Layout, AChangeOfPanelsDoesNotTakeTheBarsPlace) {
     layout.ArrangeFirstTime();
     splitter.SetSplitPosition(1234);

@@ -34,7 +34,11 @@ class Options : public testing::Test {
                 .commonDialog = dialog,
                 .programFolder = common.ProgramFolder(),
                 .isNoValue = [this](const std::string& text) { return common.IsNoValue(text); },
-                .applySettings = [this] { steps.emplace_back("apply"); },
+                .applySettings =
+                    [this] {
+                        steps.emplace_back("apply");
+                        storedAtApply = Stored("GridLines");
+                    },
                 .applyNewDateFormat =
                     [this](std::int32_t lngLd) {
                         steps.push_back("dates " + std::to_string(lngLd) + " was " +
@@ -70,6 +74,7 @@ class Options : public testing::Test {
                          [](std::int32_t) { return std::string("Open"); }};
     mAppSpecific settings{profile, common};
     std::vector<std::string> steps;
+    std::string storedAtApply;  // of the grid lines
     std::unique_ptr<frmOptions> options;
 };
 
@@ -117,6 +122,17 @@ TEST_F(Options, ShowsOnePageAndKeepsTheOtherAway) {
     EXPECT_EQ(Page(1).Left(), -20000);
     EXPECT_FALSE(Page(1).Enabled());
     EXPECT_EQ(settings.OptionsPage, 1);
+}
+
+TEST_F(Options, OnlyThePageThatIsShownComesToTheFront) {
+    Open();
+    const auto inFront = [this](int page) { return MemoryToolkit::Of(Page(page)).broughtToFront; };
+    const int first = inFront(1);
+    const int second = inFront(2);
+    EXPECT_GT(first, 0);
+    options->Get<toolkit::TabStrip>("tbsOptions").UserSelected(1);
+    EXPECT_EQ(inFront(1), first);
+    EXPECT_EQ(inFront(2), second + 1);
 }
 
 TEST_F(Options, CarriesTheIdsOfItsTexts) {
@@ -331,6 +347,14 @@ TEST_F(Options, ApplyCopiesTheDialogAndStaysOpen) {
     EXPECT_EQ(Stored("GridLines"), "1");
 }
 
+TEST_F(Options, WhatIsAppliedIsSeenBeforeItIsStored) {
+    Open();
+    Box("chkGridLines").UserToggled();
+    Button("cmdApply").UserClicked();
+    EXPECT_EQ(storedAtApply, "(absent)");
+    EXPECT_EQ(Stored("GridLines"), "1");
+}
+
 TEST_F(Options, ClearingThePathKeepsTheOldOne) {
     settings.LanguageFile = "C:\\x.lng";
     settings.UseDefaultLanguage = 0;
@@ -349,6 +373,17 @@ TEST_F(Options, ANewDateFormatIsAppliedOnceBeforeItIsStored) {
     Button("cmdApply").UserClicked();
     EXPECT_THAT(steps, ElementsAre("dates 1 was 0", "refresh", "apply"));
     EXPECT_EQ(settings.LongDate, 1);
+}
+
+TEST_F(Options, EverySettingButZeroMeansLongDates) {
+    settings.LongDate = 2;
+    Open();
+    EXPECT_TRUE(Box("chkLongDate").Checked());
+    Button("cmdApply").UserClicked();
+    EXPECT_THAT(steps, ElementsAre("apply")) << "the dates are long already";
+    Box("chkLongDate").UserToggled();
+    Button("cmdApply").UserClicked();
+    EXPECT_EQ(settings.LongDate, 0);
 }
 
 TEST_F(Options, CancelTakesNothing) {

@@ -128,6 +128,22 @@ TEST_F(DayPanelsTest, LongDatesInTheListGoWithPlainOnesInTheStatusBar) {
     EXPECT_EQ(Status(2), "01.03.2024  ");
 }
 
+TEST_F(DayPanelsTest, EverySettingButZeroMeansLongDates) {
+    for (const std::int32_t longDate : {-1, 2}) {
+        settings.LongDate = longDate;
+        Load(kThreeDays);
+        EXPECT_EQ(Dates().back(), "Friday, March 1, 2024") << longDate;
+        EXPECT_EQ(Status(2), "01.03.2024  ") << longDate;
+        cboDate.UserSelected(0);
+        SourceListView.UserSelected(2);
+        EXPECT_EQ(Status(2), "02.03.2024  ") << longDate;
+        panels.ApplyNewDateFormat(0);
+        panels.ApplyNewDateFormat(longDate);
+        EXPECT_EQ(Dates().back(), "Friday, March 1, 2024") << longDate;
+        EXPECT_EQ(Status(2), "02.03.2024  ") << longDate;
+    }
+}
+
 TEST_F(DayPanelsTest, ATextThatIsNoDateStaysAsItIs) {
     settings.LongDate = 1;
     Load({"yesterday 10:00:00: Copy a -> b"});
@@ -245,6 +261,16 @@ TEST_F(DayPanelsTest, ANewDateFormatRelabelsWithoutRefilling) {
     EXPECT_EQ(Status(2), "Friday, March 1, 2024  ");
     cboDate.UserSelected(1);  // clicks count again
     EXPECT_THAT(daysShown, ElementsAre(0));
+}
+
+TEST_F(DayPanelsTest, ANewDateFormatIsThatOfTheSelectedRow) {
+    Load(kThreeDays);
+    cboDate.UserSelected(0);
+    SourceListView.UserSelected(2);
+    panels.ApplyNewDateFormat(1);
+    EXPECT_EQ(Status(2), "02.03.2024  ");
+    panels.ApplyNewDateFormat(0);
+    EXPECT_EQ(Status(2), "Saturday, March 2, 2024  ");
 }
 
 TEST_F(DayPanelsTest, SelectEntryRowSelectsInBothPanelsAndScrolls) {
