@@ -180,6 +180,15 @@ std::string BadLine(Speaker& speaker) {
     return speaker.LastMessage();
 }
 
+std::string LinesPassedOver(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.Start();
+    other.Shared().settings->SkipMalformedLines = 1;
+    other.SetLog(kDamaged, {"01.03.2024 10:15:30: Delete C:\\b.txt", "damaged", "torn", "broken"});
+    other.Main().FilesDropped.Raise({kDamaged});
+    return other.LastMessage();
+}
+
 std::string MissingRecentFile(Speaker& speaker) {
     speaker.Choose("mnuFileRecentFiles");
     return speaker.LastMessage();
@@ -227,6 +236,10 @@ const std::vector<Situation>& Situations() {
         {Kind::Title, "The title while all files are read", {"Ordalyn 1.00"}, TitleOfAllFiles},
         {Kind::Title, "The title of the dialog that opens a log", {}, TitleOfTheOpenDialog},
         {Kind::Message, "A line that is none of a log", {kDamaged, "2"}, BadLine},
+        {Kind::Message,
+         "Lines that are none of a log have been passed over",
+         {kDamaged, "2", "3"},
+         LinesPassedOver},
         {Kind::Message, "Before a list is cleared or a read is left", {}, ClearRecentFiles},
         {Kind::Message, "A recent file is gone", {kGone}, MissingRecentFile},
         {Kind::Message, "Nothing is found", {"\"" + std::string(kSought) + "\""}, NothingFound},
