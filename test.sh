@@ -156,7 +156,7 @@ bench_real_program() {
 
 if [ $# -eq 0 ]; then
     set -- lint unit wine clang e2e x86 fuzz
-    # It says what is missing. Whoever names this kind, and CI, gets a failure instead.
+    # It says what is missing. Whoever names this kind gets a failure instead.
     tools/x86_wine.sh --check || set -- lint unit wine clang e2e fuzz
 fi
 for kind in "$@"; do

@@ -5,7 +5,7 @@
 #   tools/setup.sh build|run|test ...
 #
 # Works as root or with sudo on Debian 12; with nothing missing it is done in a moment. The i386
-# architecture is never added: the 64-bit Wine runs all that has to run here.
+# architecture is never added: 32-bit programs run in a Debian of their own (x86_wine.sh).
 set -euo pipefail
 
 packages_for() {
@@ -25,7 +25,7 @@ packages_for() {
             ;;
         test)
             echo python3-pytest python3-pytest-rerunfailures python3-pytest-xdist \
-                locales shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev
+                locales shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev debootstrap
             ;;
         *)
             echo "setup.sh: no such task: $1" >&2

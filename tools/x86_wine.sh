@@ -94,8 +94,10 @@ bind /tmp
 bind "$project"
 tools=$(mktemp -d)
 for name in wine wineserver; do
-    printf '#!/bin/sh\nexec chroot "%s" /usr/bin/env -C "$PWD" /usr/bin/%s "$@"\n' \
-        "$root" "$name" >"$tools/$name"
+    cat >"$tools/$name" <<END
+#!/bin/sh
+exec chroot "$root" /usr/bin/env -C "\$PWD" /usr/bin/$name "\$@"
+END
     chmod +x "$tools/$name"
 done
 status=0
