@@ -225,6 +225,16 @@ TEST_F(Layout, TogglingTheOrientationTwiceReturnsTheBar) {
     EXPECT_TRUE(mnuViewVerticalPanels.Enabled());
 }
 
+TEST_F(Layout, TogglingTheOrientationKeepsThePositionInWholeTwips) {
+    layout.ArrangeFirstTime();
+    splitter.SetSplitPosition(1235.5F);  // halves go to the even neighbour
+    layout.ToggleVerticalPanels();
+    EXPECT_EQ(settings.HSplitPosition, 1236);
+    splitter.SetSplitPosition(1234.5F);
+    layout.ToggleVerticalPanels();
+    EXPECT_EQ(settings.VSplitPosition, 1234);
+}
+
 TEST_F(Layout, APositionBeyondTheWindowIsKeptFirstAndHalvedAtTheNextChange) {
     settings.HSplitPosition = 30000;
     settings.VSplitPosition = 30000;

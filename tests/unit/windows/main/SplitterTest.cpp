@@ -1,47 +1,10 @@
-#include "windows/main/cSplitter.h"
-
-#include <gmock/gmock.h>
-
-#include <cmath>
-#include <limits>
-
 #include "base/Errors.h"
-#include "support/toolkit/MemoryToolkit.h"
+#include "unit/windows/main/SplitterFixture.h"
 
-namespace ordalyn {
+namespace ordalyn::test {
 namespace {
 
-using test::MemoryToolkit;
 using toolkit::Rect;
-
-constexpr toolkit::ControlDesign kControls[] = {
-    {.kind = toolkit::Kind::PictureBox, .name = "container", .bounds = {0, 0, 6000, 4000}},
-    {.kind = toolkit::Kind::Frame, .name = "bar", .bounds = {0, 0, 45, 45}},
-    {.kind = toolkit::Kind::PictureBox, .name = "otherContainer", .bounds = {0, 0, 6000, 4000}},
-    {.kind = toolkit::Kind::Frame, .name = "otherBar", .bounds = {0, 0, 45, 45}},
-    {.kind = toolkit::Kind::ListView, .name = "one", .bounds = {0, 0, 100, 100}},
-    {.kind = toolkit::Kind::ListView, .name = "two", .bounds = {0, 0, 100, 100}},
-};
-constexpr toolkit::FormDesign kDesign = {
-    .name = "frmTest", .tag = "", .clientSize = {8000, 6000}, .style = {}, .controls = kControls};
-
-class Splitter : public testing::Test {
-  protected:
-    void Create(std::int32_t direction, std::int32_t start, float margin = 0,
-                std::int32_t size = 45) {
-        splitter.CreateSplitter(container, bar, one, two, direction, start, size, margin, margin,
-                                margin, margin);
-    }
-    void Drag(int buttons, float x, float y) { bar.MouseMove.Raise(buttons, {}, x, y); }
-
-    MemoryToolkit toolkit;
-    toolkit::Form form{toolkit, kDesign};
-    toolkit::PictureBox& container = form.Get<toolkit::PictureBox>("container");
-    toolkit::Frame& bar = form.Get<toolkit::Frame>("bar");
-    toolkit::ListView& one = form.Get<toolkit::ListView>("one");
-    toolkit::ListView& two = form.Get<toolkit::ListView>("two");
-    cSplitter splitter;
-};
 
 TEST_F(Splitter, StartsEmptyAndInert) {
     EXPECT_TRUE(splitter.Visible());
@@ -52,6 +15,17 @@ TEST_F(Splitter, StartsEmptyAndInert) {
     splitter.Resize(1000, 1000);
     splitter.Move(5, 5);
     EXPECT_EQ(container.Bounds(), (Rect{0, 0, 6000, 4000}));
+}
+
+TEST_F(Splitter, KeepsWhatItIsToldBeforeItHasControls) {
+    splitter.SetLeftPanelVisible(false);
+    splitter.SetRightPanelVisible(false);
+    splitter.SetVisible(false);
+    splitter.SetSplitPosition(77);
+    EXPECT_FALSE(splitter.LeftPanelVisible());
+    EXPECT_FALSE(splitter.RightPanelVisible());
+    EXPECT_FALSE(splitter.Visible());
+    EXPECT_EQ(splitter.SplitPosition(), 77);
 }
 
 TEST_F(Splitter, PlacesPanesSideBySideInsideTheMargins) {
@@ -71,6 +45,8 @@ TEST_F(Splitter, StacksPanesForEveryOtherDirection) {
 TEST_F(Splitter, MovesPanesAndBarIntoTheContainerAndShowsThem) {
     one.SetVisible(false);
     bar.SetCaption("bar");
+    bar.SetBorder(toolkit::BorderStyle::FixedSingle);
+    container.SetBorder(toolkit::BorderStyle::FixedSingle);
     container.SetBackColor(0x123456);
     Create(1, 2000);
     EXPECT_EQ(one.Container(), &container);
@@ -107,77 +83,6 @@ TEST_F(Splitter, HalvesAStackedStartPositionAtTheContainersHeight) {
     EXPECT_EQ(bar.Top(), 3999);
 }
 
-TEST_F(Splitter, DragFollowsThePointerWithOneJumpBack) {
-    Create(1, 2000);
-    bar.MouseDown.Raise(1, {}, 20, 0);
-    Drag(1, 120, 0);  // 2000 + 100 - 45 + 15
-    EXPECT_EQ(bar.Left(), 2070);
-    EXPECT_EQ(one.Width(), 2070);
-    EXPECT_EQ(two.Left(), 2115);
-    // The pointer stands 50 twips right of where it was pressed inside the bar; one more step of 10
-    // moves the bar by 10.
-    Drag(1, 50 + 10, 0);
-    EXPECT_EQ(bar.Left(), 2070 + 40 - 30);
-}
-
-TEST_F(Splitter, DragSetsThePointerOnEveryMove) {
-    Create(1, 2000);
-    Drag(0, 5, 5);
-    EXPECT_EQ(bar.MousePointer(), toolkit::Pointer::SizeEastWest);
-    Create(2, 2000);
-    Drag(2, 5, 5);
-    EXPECT_EQ(bar.MousePointer(), toolkit::Pointer::SizeNorthSouth);
-}
-
-TEST_F(Splitter, DragWithAnotherButtonOrTwoMovesNothing) {
-    Create(1, 2000);
-    bar.MouseDown.Raise(2, {}, 0, 0);
-    Drag(2, 100, 0);
-    Drag(3, 100, 0);
-    Drag(0, 100, 0);
-    EXPECT_EQ(bar.Left(), 2000);
-    EXPECT_EQ(bar.MousePointer(), toolkit::Pointer::SizeEastWest);
-}
-
-TEST_F(Splitter, MovesOnlyWhileAButtonIsDownOnTheBar) {
-    Create(1, 2000);
-    Drag(1, 100, 0);
-    EXPECT_EQ(bar.Left(), 2000);
-}
-
-TEST_F(Splitter, DragStopsRightBeforeItsBounds) {
-    splitter.MinLeftPanelWidth = 500;
-    splitter.MinRightPanelWidth = 700;
-    Create(1, 2000);
-    bar.MouseDown.Raise(1, {}, 0, 0);
-    Drag(1, 530 - 2000, 0);  // exactly minimum + 30
-    EXPECT_EQ(bar.Left(), 2000);
-    Drag(1, 5300 - 2000, 0);  // exactly container - minimum
-    EXPECT_EQ(bar.Left(), 2000);
-    Drag(1, 531 - 2000, 0);
-    EXPECT_EQ(bar.Left(), 531 - 45 + 15);
-    bar.SetLeft(2000);
-    Drag(1, 5299 - 2000, 0);
-    EXPECT_EQ(bar.Left(), 5299 - 45 + 15);
-}
-
-TEST_F(Splitter, DragStackedUsesTheHeight) {
-    Create(2, 1000);
-    bar.MouseDown.Raise(1, {}, 0, 10);
-    Drag(1, 0, 110);
-    EXPECT_EQ(bar.Top(), 1070);
-    bar.SetTop(1000);
-    Drag(1, 0, 3010);  // exactly the container's height
-    EXPECT_EQ(bar.Top(), 1000);
-}
-
-TEST_F(Splitter, AnOverflowingDragBoundIsAnError) {
-    splitter.MinLeftPanelWidth = std::numeric_limits<std::int32_t>::max();
-    Create(1, 2000);
-    bar.MouseDown.Raise(1, {}, 0, 0);
-    EXPECT_THROW(Drag(1, 100, 0), Overflow);
-}
-
 TEST_F(Splitter, OverflowingMarginsSkipOnlyTheSizeBetweenThem) {
     splitter.CreateSplitter(container, bar, one, two, 1, 2000, 45, 2.1e9F, 0, 2.1e9F, 0);
     one.Move({1, 2, 33, 44});
@@ -192,64 +97,6 @@ TEST_F(Splitter, ABarBetweenOverflowingMarginsKeepsItsLength) {
     splitter.CreateSplitter(container, bar, one, two, 1, 2000, 45, 0, 2.1e9F, 0, 2.1e9F);
     EXPECT_EQ(bar.Bounds(), (Rect{2000, 2.1e9F, 45, 77}));
     EXPECT_EQ(two.Left(), 2045);
-}
-
-TEST_F(Splitter, ReleasingCommitsThePosition) {
-    Create(1, 2000);
-    bar.MouseDown.Raise(1, {}, 0, 0);
-    Drag(1, 100, 0);
-    EXPECT_EQ(splitter.SplitPosition(), 2000);
-    bar.MouseUp.Raise(1, {}, 0, 0);
-    EXPECT_EQ(splitter.SplitPosition(), 2070);
-    Drag(1, 100, 0);
-    EXPECT_EQ(bar.Left(), 2070);
-}
-
-TEST_F(Splitter, ResizePullsBackALostBarOnlyAbove1800) {
-    Create(2, 3500);
-    splitter.Resize(1800, 6000);
-    EXPECT_EQ(bar.Top(), 3500);
-    splitter.Resize(1801, 6000);
-    EXPECT_EQ(bar.Top(), 1711);
-}
-
-TEST_F(Splitter, ResizePullsBackALostBarSideBySide) {
-    Create(1, 5000);
-    splitter.Resize(4000, 1800);
-    EXPECT_EQ(bar.Left(), 5000);
-    splitter.Resize(4000, 2000);
-    EXPECT_EQ(bar.Left(), 1910);
-}
-
-TEST_F(Splitter, ABarThatWasPulledBackReturnsWhenThereIsRoomAgain) {
-    Create(1, 5000);
-    splitter.Resize(4000, 4000);
-    EXPECT_EQ(bar.Left(), 3910);
-    EXPECT_EQ(splitter.SplitPosition(), 5000);
-    splitter.Resize(4000, 4500);
-    EXPECT_EQ(bar.Left(), 3910);
-    splitter.Resize(4000, 5000);
-    EXPECT_EQ(bar.Left(), 5000);
-    EXPECT_EQ(one.Width(), 5000);
-}
-
-TEST_F(Splitter, AClickDoesNotCommitWhereTheBarWasPulledTo) {
-    Create(1, 5000);
-    splitter.Resize(4000, 4000);
-    bar.MouseDown.Raise(1, {}, 0, 0);
-    bar.MouseUp.Raise(1, {}, 0, 0);
-    EXPECT_EQ(splitter.SplitPosition(), 5000);
-}
-
-TEST_F(Splitter, ADraggedBarDoesNotReturnToWhereItWasBefore) {
-    Create(1, 5000);
-    splitter.Resize(4000, 4000);
-    bar.MouseDown.Raise(1, {}, 0, 0);
-    Drag(1, -880, 0);  // 3910 - 880 - 45 + 15
-    bar.MouseUp.Raise(1, {}, 0, 0);
-    EXPECT_EQ(splitter.SplitPosition(), 3000);
-    splitter.Resize(4000, 6000);
-    EXPECT_EQ(bar.Left(), 3000);
 }
 
 TEST_F(Splitter, ControlsThatComeBackAreObservedOnce) {
@@ -296,6 +143,56 @@ TEST_F(Splitter, GoesOnWhenSomeSizesCannotBe) {
     EXPECT_EQ(two.Height(), 3000);
 }
 
+TEST_F(Splitter, GoesOnWhenTheWidthCannotBe) {
+    Create(1, 2000);
+    splitter.Resize(3000, -1);
+    EXPECT_EQ(container.Height(), 3000);
+    EXPECT_EQ(container.Width(), 6000);
+}
+
+TEST_F(Splitter, GoesOnWhenAPaneCannotBePlaced) {
+    Create(1, 2000);
+    one.Resize.Subscribe([] { throw SubscriptOutOfRange(); });
+    EXPECT_NO_THROW(container.SetHeight(3000));
+    EXPECT_EQ(two.Height(), 3000);
+}
+
+TEST_F(Splitter, ASinglePaneFillsTheInsideOfAllFourMargins) {
+    splitter.CreateSplitter(container, bar, one, two, 1, 2000, 45, 10, 20, 30, 40);
+    splitter.SetRightPanelVisible(false);
+    EXPECT_EQ(one.Bounds(), (Rect{10, 20, 6000 - 40, 4000 - 60}));
+    splitter.SetRightPanelVisible(true);
+    splitter.SetLeftPanelVisible(false);
+    EXPECT_EQ(two.Bounds(), (Rect{10, 20, 6000 - 40, 4000 - 60}));
+}
+
+TEST_F(Splitter, TheBarIsShownOnlyBetweenTwoPanes) {
+    Create(1, 2000);
+    splitter.SetRightPanelVisible(false);
+    EXPECT_TRUE(container.Visible());
+    splitter.SetLeftPanelVisible(true);
+    EXPECT_FALSE(bar.Visible());
+    splitter.SetRightPanelVisible(true);
+    EXPECT_TRUE(bar.Visible());
+    splitter.SetLeftPanelVisible(false);
+    splitter.SetRightPanelVisible(true);
+    EXPECT_FALSE(bar.Visible());
+    EXPECT_TRUE(container.Visible());
+    splitter.SetLeftPanelVisible(true);
+    EXPECT_TRUE(bar.Visible());
+}
+
+TEST_F(Splitter, EitherPaneBringsTheContainerBack) {
+    Create(1, 2000);
+    splitter.SetLeftPanelVisible(false);
+    splitter.SetRightPanelVisible(false);
+    splitter.SetRightPanelVisible(true);
+    EXPECT_TRUE(container.Visible());
+    splitter.SetRightPanelVisible(false);
+    splitter.SetLeftPanelVisible(true);
+    EXPECT_TRUE(container.Visible());
+}
+
 TEST_F(Splitter, HidingOnePaneHidesTheBarAndFillsWithTheOther) {
     Create(1, 2000);
     splitter.SetRightPanelVisible(false);
@@ -328,11 +225,12 @@ TEST_F(Splitter, VisibleHidesTheContainerOnly) {
     EXPECT_TRUE(one.Visible());
 }
 
-TEST_F(Splitter, AnotherCreateShowsEverythingAgain) {
+TEST_F(Splitter, AnotherCreateShowsEverythingInTheContainerAgain) {
     Create(1, 2000);
     splitter.SetLeftPanelVisible(false);
     splitter.SetRightPanelVisible(false);
     Create(2, 2000);
+    EXPECT_FALSE(container.Visible()) << "which its owner shows";
     EXPECT_TRUE(splitter.LeftPanelVisible());
     EXPECT_TRUE(splitter.RightPanelVisible());
     EXPECT_TRUE(one.Visible());
@@ -386,6 +284,14 @@ TEST_F(Splitter, MovePlacesTheContainer) {
     EXPECT_EQ(container.Top(), 300);
 }
 
+TEST_F(Splitter, AContainerThatCannotBeMovedIsNoError) {
+    Create(1, 2000);
+    container.SystemChangedBounds({0, 0, -1, 4000});
+    EXPECT_NO_THROW(splitter.Move(150, 300));
+    EXPECT_EQ(container.Left(), 0);
+    EXPECT_EQ(container.Top(), 0);
+}
+
 TEST_F(Splitter, CreateReportsFailuresToItsCaller) {
     EXPECT_THROW(splitter.CreateSplitter(container, container, one, two, 1, 0, 45, 0, 0, 0, 0),
                  InvalidPropertyValue);
@@ -394,4 +300,4 @@ TEST_F(Splitter, CreateReportsFailuresToItsCaller) {
 }
 
 }  // namespace
-}  // namespace ordalyn
+}  // namespace ordalyn::test
