@@ -25,6 +25,8 @@ class Presser {
     Presser(const Presser&) = delete;
     Presser& operator=(const Presser&) = delete;
     bool SawDialog() const { return sawDialog_; }
+    // The window that the dialog lay above and kept from input.
+    HWND Owner() const { return owner_; }
 
   private:
     static BOOL CALLBACK IsOurDialog(HWND window, LPARAM found) {
@@ -45,13 +47,19 @@ class Presser {
             EnumWindows(IsOurDialog, reinterpret_cast<LPARAM>(&dialog));
             if (dialog != nullptr) {
                 sawDialog_ = true;
-                PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+                const HWND owner = GetWindow(dialog, GW_OWNER);
+                if (owner != nullptr && !IsWindowEnabled(owner))
+                    owner_ = owner;
+                // What refuses that button must not keep the test waiting for ever.
+                const int pressed = poll < kPolls / 5 ? button : IDCANCEL;
+                PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(pressed), 0);
             }
             Sleep(kPollMilliseconds);
         }
     }
     std::atomic<bool> done_{false};
     std::atomic<bool> sawDialog_{false};
+    std::atomic<HWND> owner_{nullptr};
     std::thread thread_;
 };
 
@@ -73,8 +81,37 @@ std::string InstalledFont() {
     return win32::FromWide(name);
 }
 
+class OwnerWindow {
+  public:
+    OwnerWindow() = default;
+    ~OwnerWindow() { DestroyWindow(window_); }
+    OwnerWindow(const OwnerWindow&) = delete;
+    OwnerWindow& operator=(const OwnerWindow&) = delete;
+    HWND Window() const { return window_; }
+    platform::WindowHandle Handle() const {
+        return reinterpret_cast<platform::WindowHandle>(window_);
+    }
+
+  private:
+    HWND window_ = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                   300, 200, nullptr, nullptr, nullptr, nullptr);
+};
+
 class DialogsOnWindows : public testing::Test {
   protected:
+    static platform::Dialogs::FontRequest FontRequest() {
+        platform::Dialogs::FontRequest request;
+        request.name = InstalledFont();
+        request.size = 10;
+        request.weight = 700;
+        request.italic = true;
+        request.underline = true;
+        request.characterSet = 0;
+        request.flags = 74049;
+        request.minimum = 8;
+        request.maximum = 72;
+        return request;
+    }
     platform::Dialogs& Dialogs() { return system_->Services().dialogs; }
     Subject& System() { return *system_; }
     platform::Dialogs::OpenRequest OpenRequest() {
@@ -129,16 +166,7 @@ TEST_F(DialogsOnWindows, AColourDialogAnswersItsInitialColourWhenConfirmed) {
 }
 
 TEST_F(DialogsOnWindows, AFontDialogAnswersWhatItWasGivenWhenConfirmed) {
-    platform::Dialogs::FontRequest request;
-    request.name = InstalledFont();
-    request.size = 10;
-    request.weight = 700;
-    request.italic = true;
-    request.underline = true;
-    request.characterSet = 0;
-    request.flags = 74049;
-    request.minimum = 8;
-    request.maximum = 72;
+    const platform::Dialogs::FontRequest request = FontRequest();
     {
         const Presser confirm(IDOK);
         const auto answer = Dialogs().ChooseFont(request);
@@ -152,6 +180,53 @@ TEST_F(DialogsOnWindows, AFontDialogAnswersWhatItWasGivenWhenConfirmed) {
     }
     const Presser cancel(IDCANCEL);
     EXPECT_FALSE(Dialogs().ChooseFont(request).has_value());
+}
+
+TEST_F(DialogsOnWindows, AFontDialogAnswersStrikethroughAndCharacterSet) {
+    platform::Dialogs::FontRequest request = FontRequest();
+    request.strikethrough = true;
+    request.characterSet = RUSSIAN_CHARSET;
+    const Presser confirm(IDOK);
+    const auto answer = Dialogs().ChooseFont(request);
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_TRUE(answer->strikethrough);
+    EXPECT_EQ(answer->characterSet, RUSSIAN_CHARSET);
+}
+
+TEST_F(DialogsOnWindows, TheAnswerHasRoomForALongPath) {
+    constexpr std::size_t kLongest = 250;
+    const std::string extension = ".ini";
+    const std::string folder = System().Path("");
+    ASSERT_LT(folder.size(), kLongest - extension.size());
+    const std::string name =
+        std::string(kLongest - extension.size() - folder.size(), 'x') + extension;
+    System().SetBytes(name, "");
+    auto request = OpenRequest();
+    request.fileName = name;
+    const Presser confirm(IDOK);
+    EXPECT_EQ(Dialogs().OpenFile(request), folder + name);
+}
+
+TEST_F(DialogsOnWindows, EachLiesAboveItsOwner) {
+    const OwnerWindow owner;
+    {
+        const Presser cancel(IDCANCEL);
+        auto request = OpenRequest();
+        request.owner = owner.Handle();
+        Dialogs().OpenFile(request);
+        EXPECT_EQ(cancel.Owner(), owner.Window());
+    }
+    {
+        const Presser cancel(IDCANCEL);
+        std::uint32_t custom[16] = {};
+        Dialogs().ChooseColor({.owner = owner.Handle(), .initial = 0, .flags = 385}, custom);
+        EXPECT_EQ(cancel.Owner(), owner.Window());
+    }
+    const Presser cancel(IDCANCEL);
+    platform::Dialogs::FontRequest request = FontRequest();
+    request.owner = owner.Handle();
+    Dialogs().ChooseFont(request);
+    EXPECT_EQ(cancel.Owner(), owner.Window());
 }
 
 TEST_F(DialogsOnWindows, TheShellOpensADocumentWithItsProgram) {

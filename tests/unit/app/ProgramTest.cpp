@@ -198,7 +198,8 @@ TEST_F(ProgramStart, EndingTheProgramBehindTheFirstDialogMakesNoSettings) {
     };
     Start();
     EXPECT_EQ(tools.messages.size(), 1U);  // that the settings were not found
-    EXPECT_EQ(system.dialogs.openRequests.size(), 1U);
+    ASSERT_EQ(system.dialogs.openRequests.size(), 1U);
+    EXPECT_EQ(system.dialogs.openRequests[0].owner, Main().Handle());
     EXPECT_FALSE(system.files.Get("C:\\Windows\\wincmd.ini").has_value());
     EXPECT_EQ(Stored("UserDefinedWincmd", "Common"), "(absent)");
 }

@@ -77,6 +77,11 @@ TEST_F(LogFileReadingTest, TheOpenDialogStartsInTheCurrentLogsFolder) {
     EXPECT_THAT(remembered, ElementsAre("C:\\other\\y.log"));
 }
 
+TEST_F(LogFileReadingTest, TheMainWindowOwnsTheOpenDialog) {
+    reading.ReadLogFile(true, "", true);
+    EXPECT_EQ(system.dialogs.openRequests.at(0).owner, form.Handle());
+}
+
 TEST_F(LogFileReadingTest, CancellingTheOpenDialogLeavesTheViewUntouched) {
     Load({kLine});
     ForgetTitles();

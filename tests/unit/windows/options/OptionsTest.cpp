@@ -290,6 +290,33 @@ TEST_F(Options, TheTwoColoursStartFromTheirOwnSystemColours) {
     EXPECT_THAT(initial, ElementsAre(0x030201, 0x060504));
 }
 
+TEST_F(Options, TheFontDialogStartsFromTheFontOfTheSettings) {
+    settings.FontName = "Tahoma";
+    settings.FontScript = 204;
+    settings.FontSize = 11;
+    settings.FontStyle = cCommonDialog::kItalic | cCommonDialog::kStrikethrough;
+    Open();
+    Button("cmdChangeFont").UserClicked();
+    const platform::Dialogs::FontRequest& request = system.dialogs.fontRequests.at(0);
+    EXPECT_EQ(request.name, "Tahoma");
+    EXPECT_EQ(request.characterSet, 204);
+    EXPECT_EQ(request.size, 11);
+    EXPECT_EQ(request.weight, 400);
+    EXPECT_TRUE(request.italic);
+    EXPECT_TRUE(request.strikethrough);
+    EXPECT_FALSE(request.underline);
+}
+
+TEST_F(Options, OwnsTheDialogsThatItOpens) {
+    Open();
+    Button("cmdBrowseForLangFile").UserClicked();
+    ColorLabel(0).UserClicked();
+    Button("cmdChangeFont").UserClicked();
+    EXPECT_EQ(system.dialogs.openRequests.at(0).owner, options->Handle());
+    EXPECT_EQ(system.dialogs.colorRequests.at(0).owner, options->Handle());
+    EXPECT_EQ(system.dialogs.fontRequests.at(0).owner, options->Handle());
+}
+
 TEST_F(Options, AFontSurvivesCancel) {
     system.dialogs.onChooseFont = [](const auto& request) {
         EXPECT_EQ(request.name, "MS Sans Serif");
@@ -298,6 +325,7 @@ TEST_F(Options, AFontSurvivesCancel) {
         answer.tenthsOfPoints = 120;
         answer.characterSet = 204;
         answer.weight = 700;
+        answer.strikethrough = true;
         return std::optional(answer);
     };
     Open();
@@ -308,7 +336,7 @@ TEST_F(Options, AFontSurvivesCancel) {
     EXPECT_EQ(settings.FontName, "Tahoma");
     EXPECT_EQ(settings.FontSize, 12);
     EXPECT_EQ(settings.FontScript, 204);
-    EXPECT_EQ(settings.FontStyle, 1);
+    EXPECT_EQ(settings.FontStyle, cCommonDialog::kBold | cCommonDialog::kStrikethrough);
     EXPECT_THAT(steps, IsEmpty());  // the main window shows it at the next apply
     EXPECT_EQ(Stored("FontName"), "(absent)");
     Open();
