@@ -63,9 +63,27 @@ TEST_F(RestorePosition, APlacementThatCanBeTakenIsKept) {
     }
 }
 
+// So much of the title bar must be on a screen, and no less.
+TEST_F(RestorePosition, ATitleBarCanBeTakenByASmallPartOfIt) {
+    struct Place {
+        const char* stored;
+        bool kept;
+    };
+    constexpr Place kPlaces[] = {{"19050,0,3000,4000", true},   {"19051,0,3000,4000", false},
+                                 {"-2850,0,3000,4000", true},   {"-2851,0,3000,4000", false},
+                                 {"100,-150,3000,4000", true},  {"100,-151,3000,4000", false},
+                                 {"100,14850,3000,4000", true}, {"100,14851,3000,4000", false}};
+    for (const Place& place : kPlaces) {
+        Put("Ordalyn", "MainPosition", place.stored);
+        RestoreWindowPosition(settings, form, true);
+        EXPECT_EQ(form.Width() == 3000, place.kept) << place.stored;
+    }
+}
+
 TEST_F(RestorePosition, WithoutASizeTheDefaultCounts) {
     for (const char* nonsense : {"", "100", "100,200,3000", "100,200,0,4000", "10,20,-3000,4000",
                                  "10,20,3000,-1", "1e300,0,3000,4000", "a,b,c,d"}) {
+        form.Move({1, 2, 3000, 4000});
         Put("Ordalyn", "MainPosition", nonsense);
         RestoreWindowPosition(settings, form, true);
         EXPECT_EQ(form.Bounds(), (Rect{0, 0, 12030, 8520})) << nonsense;
@@ -86,6 +104,13 @@ TEST_F(RestorePosition, TheDefaultLiesInsideTheWorkArea) {
     RestoreWindowPosition(settings, filters, false);
     EXPECT_EQ(form.Bounds(), (Rect{600, 450, 9000, 7000}));
     EXPECT_EQ(filters.Bounds(), (Rect{690, 6655, 8910, 795}));
+}
+
+TEST_F(RestorePosition, TheDefaultIsNotSmallerThanTheSystemsLeast) {
+    toolkit.workArea = {0, 0, 1000, 500};
+    Put("Ordalyn", "MainPosition", "");
+    RestoreWindowPosition(settings, form, true);
+    EXPECT_EQ(form.Bounds(), (Rect{0, 0, 1800, 600}));
 }
 
 struct Parts {

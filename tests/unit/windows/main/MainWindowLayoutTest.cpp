@@ -173,6 +173,16 @@ TEST_F(Layout, ASinglePanelLiesDirectlyOnTheWindow) {
     EXPECT_FALSE(mnuViewTwoPanels.Checked());
 }
 
+TEST_F(Layout, ASinglePanelTakesTheWidthOfAWindowThatIsTooLow) {
+    SinglePanel();
+    layout.ArrangeFirstTime();
+    const toolkit::Twips before = source.Height();
+    tools.ResizeByUser(form, {0, 0, 6000, 100});
+    layout.WindowResized();
+    EXPECT_EQ(source.Height(), before);
+    EXPECT_EQ(source.Width(), form.ClientSize().width - 30);
+}
+
 TEST_F(Layout, HidingTheStatusBarEnlargesThePanelsAtOnce) {
     layout.ArrangeFirstTime();
     const toolkit::Twips before = container.Height();
