@@ -1,3 +1,4 @@
+#include "base/Errors.h"
 #include "contract/toolkit/ToolkitContract.h"
 
 namespace ordalyn::contract {
@@ -194,6 +195,55 @@ TEST_P(ListViews, ReplacingWithFewerRowsForgetsASelectionThatIsGone) {
     Settle();
     EXPECT_EQ(User().RowCount(list), 0);
     EXPECT_THAT(clicks, testing::IsEmpty());
+}
+
+TEST_P(ListViews, TellWhereARowIsOnTheScreen) {
+    Fill(5);
+    Settle();
+    const double pixel = 1.1 * Kit().TwipsPerPixelX();
+    const Rect form = User().BoundsOf(Form());
+    const Rect first = list.RowOnScreen(0);
+    const Rect third = list.RowOnScreen(2);
+    EXPECT_NEAR(third.top, first.top + 2 * first.height, 2 * pixel);
+    EXPECT_NEAR(third.left, first.left, pixel);
+    EXPECT_NEAR(first.width, 1200 + 2000.5 + 900, 3 * pixel);
+    // Inside the list, below its column headers.
+    EXPECT_GE(first.left, form.left + list.Left());
+    EXPECT_GT(first.top, form.top + list.Top() + first.height / 2);
+    EXPECT_LE(third.top + third.height, form.top + form.height);
+    Form().Move({form.left + 1500, form.top + 900, form.width, form.height});
+    Settle();
+    EXPECT_NEAR(list.RowOnScreen(2).left, third.left + 1500, pixel);
+    EXPECT_NEAR(list.RowOnScreen(2).top, third.top + 900, pixel);
+}
+
+TEST_P(ListViews, TellOfARowWhatCanBeSeenOfIt) {
+    Fill(500);
+    list.SetColumnWidth(1, 9000);
+    Settle();
+    EXPECT_GT(list.RowOnScreen(0).width, 3000);
+    EXPECT_LE(list.RowOnScreen(0).width, list.Width());
+    EXPECT_EQ(list.RowOnScreen(400).height, 0);
+    list.EnsureVisible(400);
+    Settle();
+    EXPECT_GT(list.RowOnScreen(400).height, 0);
+    EXPECT_EQ(list.RowOnScreen(0).height, 0);
+}
+
+TEST_P(ListViews, RightToLeftARowIsWhereItWas) {
+    Fill(5);
+    Settle();
+    const Rect row = list.RowOnScreen(1);
+    Form().SetRightToLeft(true);
+    list.SetRightToLeft(true);
+    Settle();
+    EXPECT_EQ(list.RowOnScreen(1), row);
+}
+
+TEST_P(ListViews, NoRowIsNowhere) {
+    Fill(5);
+    EXPECT_THROW(static_cast<void>(list.RowOnScreen(list.SelectedRow())), SubscriptOutOfRange);
+    EXPECT_THROW(static_cast<void>(list.RowOnScreen(5)), SubscriptOutOfRange);
 }
 
 TEST_P(ListViews, AMillionRowsAreFilledReplacedAndClearedAtOnce) {

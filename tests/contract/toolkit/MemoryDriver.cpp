@@ -130,6 +130,11 @@ class MemoryDriver : public ToolkitDriver {
         };
         kit_.AsTheMessageLoop([&] { form.PopUpMenu(menu); });
     }
+    Rect PopUpBelow(Form& form, MenuItem& menu, const Rect& place) override {
+        kit_.onPopUp = nullptr;
+        kit_.AsTheMessageLoop([&] { form.PopUpMenuBelow(menu, place); });
+        return kit_.poppedUpAt;
+    }
     void Close(Form& form) override {
         if (form.Style().closeBox)
             Do(form, [&] { form.UserClosed(); });

@@ -9,6 +9,7 @@ using testing::ElementsAre;
 class Menus : public ToolkitContract {
   protected:
     void SetUp() override { Show(); }
+    double Near() { return 2 * Kit().TwipsPerPixelX(); }
     MenuItem& Item(const char* name) { return Form().Menu(name); }
     std::vector<MenuSeen> FileMenu() { return User().MenusOf(Form()).at(0).items; }
     std::vector<std::string> Captions(const std::vector<MenuSeen>& items) {
@@ -157,6 +158,30 @@ TEST_P(Menus, APopUpCanBeDismissed) {
     Counter pressed(Get<CommandButton>("cmdOk").Click);
     User().Press(Get<CommandButton>("cmdOk"));
     EXPECT_EQ(pressed.Take(), 1);
+}
+
+TEST_P(Menus, PopUpBelowAPartOfTheScreen) {
+    const Rect row{3000, 2250, 3000, 255};
+    const Rect menu = User().PopUpBelow(Form(), Item("mnuContext"), row);
+    EXPECT_NEAR(menu.left, row.left, Near());
+    EXPECT_NEAR(menu.top, row.top + row.height, Near());
+    EXPECT_GT(menu.width, 0);
+}
+
+TEST_P(Menus, RightToLeftPopUpBelowTheRightEnd) {
+    Form().SetRightToLeft(true);
+    const Rect row{3000, 2250, 3000, 255};
+    const Rect menu = User().PopUpBelow(Form(), Item("mnuContext"), row);
+    EXPECT_NEAR(menu.left + menu.width, row.left + row.width, Near());
+    EXPECT_NEAR(menu.top, row.top + row.height, Near());
+}
+
+TEST_P(Menus, PopUpOnTheScreenAlsoAtItsEnd) {
+    const Rect screen = Kit().WorkArea();
+    const Rect row{3000, screen.top + screen.height - 300, 3000, 255};
+    const Rect menu = User().PopUpBelow(Form(), Item("mnuContext"), row);
+    EXPECT_LE(menu.top + menu.height, screen.top + screen.height + Near());
+    EXPECT_NEAR(menu.left, row.left, Near());
 }
 
 TEST_P(Menus, AFormWithoutVisibleMenusHasNoBar) {

@@ -75,6 +75,9 @@ class ToolkitDriver {
     virtual void ChooseMenu(toolkit::Form& form, const std::vector<int>& path) = 0;
     // Pops the menu up and chooses the item at the position, or dismisses the menu for -1.
     virtual void PopUpAndChoose(toolkit::Form& form, toolkit::MenuItem& menu, int position) = 0;
+    // Pops the menu up below that part of the screen and dismisses it; returns where it was seen.
+    virtual toolkit::Rect PopUpBelow(toolkit::Form& form, toolkit::MenuItem& menu,
+                                     const toolkit::Rect& place) = 0;
     virtual void Close(toolkit::Form& form) = 0;
     virtual void ResizeTo(toolkit::Form& form, Pixels size) = 0;
     virtual void MoveTo(toolkit::Form& form, Pixels place) = 0;

@@ -273,6 +273,17 @@ class Win32Driver : public Win32Sight {
         Later([&] { form.PopUpMenu(menu); });
         Settle();
     }
+    Rect PopUpBelow(Form& form, MenuItem& menu, const Rect& place) override {
+        watch_.ExpectMenu(0);
+        Later([&] { form.PopUpMenuBelow(menu, place); });
+        Settle();
+        const RECT& seen = watch_.LastMenu();
+        const double x = Kit().TwipsPerPixelX();
+        const double y = Kit().TwipsPerPixelY();
+        return {static_cast<Twips>(seen.left * x), static_cast<Twips>(seen.top * y),
+                static_cast<Twips>((seen.right - seen.left) * x),
+                static_cast<Twips>((seen.bottom - seen.top) * y)};
+    }
     void Close(Form& form) override {
         if (!CanReach(HandleOf(form)))
             return;

@@ -18,14 +18,26 @@ Answer AnswerOf(int button) {
     return button == IDNO ? Answer::No : Answer::Ok;
 }
 
-BOOL CALLBACK FindBox(HWND window, LPARAM found) {
+struct WindowSearch {
+    std::wstring_view wanted;
+    HWND found = nullptr;
+};
+
+BOOL CALLBACK IsWanted(HWND window, LPARAM parameter) {
+    WindowSearch& asked = *reinterpret_cast<WindowSearch*>(parameter);
     wchar_t name[16] = {};
     GetClassNameW(window, name, static_cast<int>(std::size(name)));
-    if (std::wstring_view(name) != L"#32770" || !IsWindowVisible(window) ||
-        !IsWindowEnabled(window))
+    if (name != asked.wanted || !IsWindowVisible(window) || !IsWindowEnabled(window))
         return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
+    asked.found = window;
     return FALSE;
+}
+
+// A window of this thread that can be used.
+HWND WindowOfClass(std::wstring_view wanted) {
+    WindowSearch search{wanted};
+    EnumThreadWindows(GetCurrentThreadId(), IsWanted, reinterpret_cast<LPARAM>(&search));
+    return search.found;
 }
 
 }  // namespace
@@ -48,8 +60,7 @@ void CALLBACK Win32Watch::Look(HWND, UINT, UINT_PTR, DWORD) {
 }
 
 void Win32Watch::LookAround() {
-    HWND box = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), FindBox, reinterpret_cast<LPARAM>(&box));
+    const HWND box = WindowOfClass(L"#32770");
     if (box != nullptr && box != answered_)
         AnswerBox(box);
     GUITHREADINFO info = {};
@@ -78,6 +89,7 @@ void Win32Watch::AnswerBox(HWND box) {
 
 void Win32Watch::UseOpenMenu(HWND owner) {
     const int steps = std::exchange(stepsInMenu_, -1);
+    GetWindowRect(WindowOfClass(L"#32768"), &lastMenu_);
     for (int i = 0; i < steps; ++i)
         PostMessageW(owner, WM_KEYDOWN, VK_DOWN, 1);
     PostMessageW(owner, WM_KEYDOWN, steps > 0 ? VK_RETURN : VK_ESCAPE, 1);

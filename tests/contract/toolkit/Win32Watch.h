@@ -18,6 +18,8 @@ class Win32Watch {
     }
     // In the next menu that opens, Down is pressed this often and then Enter; with 0, Escape.
     void ExpectMenu(int steps) { stepsInMenu_ = steps; }
+    // Where that menu stood on the screen.
+    const RECT& LastMenu() const { return lastMenu_; }
 
   private:
     static void CALLBACK Look(HWND window, UINT message, UINT_PTR timer, DWORD time);
@@ -30,6 +32,7 @@ class Win32Watch {
     UINT_PTR timer_ = 0;
     HWND answered_ = nullptr;
     int stepsInMenu_ = -1;  // -1: no menu is expected
+    RECT lastMenu_ = {};
     std::function<toolkit::Answer(const BoxSeen&)> answer_;
 };
 

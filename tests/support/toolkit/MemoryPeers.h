@@ -1,6 +1,7 @@
 // The peers of the toolkit in memory: each keeps what it shows in a Shown.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,8 @@ namespace ordalyn::test {
 // The heights that combo boxes and the status bar decide on, at the default font size.
 inline constexpr toolkit::Twips kComboHeight = 315;
 inline constexpr toolkit::Twips kStatusHeight = 330;
+// Of a list's rows and its column headers.
+inline constexpr toolkit::Twips kRowHeight = 255;
 
 // Gives access to what a peer shows, whatever its kind.
 class HasShown {
@@ -82,6 +85,21 @@ class Peer : public Interface, public HasShown {
     void Refresh() override { ++shown.refreshes; }
 
   protected:
+    // Where the control is, from the screen's top left corner.
+    toolkit::Rect OnScreen() const {
+        const auto& form = dynamic_cast<const toolkit::Form&>(FormOf(control_));
+        const toolkit::Size inside = form.ClientSize();
+        const toolkit::Twips side = (form.Width() - inside.width) / 2;
+        toolkit::Rect place = shown.bounds;
+        place.left += form.Left() + side;
+        place.top += form.Top() + form.Height() - side - inside.height;
+        for (const toolkit::Control* at = control_.Container(); at != &form; at = at->Container()) {
+            place.left += at->Left();
+            place.top += at->Top();
+        }
+        return place;
+    }
+
     MemoryToolkit& toolkit_;
     toolkit::Control& control_;
 };
@@ -215,8 +233,16 @@ class MemoryListView : public Peer<toolkit::ListViewPeer> {
     void EnsureVisible(int row) override { shown.visibleRow = row; }
     // The row that was brought into view last is the list's first, below its column headers.
     toolkit::Rect RowOnScreen(int row) override {
-        const auto below = static_cast<toolkit::Twips>(255 * (row - shown.visibleRow + 1));
-        return {shown.bounds.left, shown.bounds.top + below, shown.bounds.width, 255};
+        const int first = std::max(shown.visibleRow, 0);
+        const auto below = kRowHeight * static_cast<toolkit::Twips>(row - first + 1);
+        const toolkit::Twips seen = std::min(shown.bounds.height - below, kRowHeight);
+        if (row < first || seen <= 0)
+            return {};
+        toolkit::Twips width = 0;
+        for (const auto& column : shown.columns)
+            width += column.width;
+        const toolkit::Rect list = OnScreen();
+        return {list.left, list.top + below, std::min(width, list.width), seen};
     }
     void SetGridLines(bool gridLines) override { shown.gridLines = gridLines; }
     void FlattenColumnHeaders() override { shown.flatHeaders = true; }

@@ -16,6 +16,7 @@ namespace {
 constexpr Twips kFrameSide = 60;
 constexpr Twips kCaption = 345;
 constexpr Twips kMenuBar = 300;
+constexpr Twips kMenuWidth = 1500;
 
 class MemoryForm : public Peer<FormPeer> {
   public:
@@ -93,8 +94,10 @@ class MemoryForm : public Peer<FormPeer> {
     void PopUp(MenuItem& item, const Rect* below) override {
         toolkit_.poppedUpMenus.push_back(item.Name());
         toolkit_.poppedUpBelow.reset();
-        if (below != nullptr)
+        if (below != nullptr) {
             toolkit_.poppedUpBelow = *below;
+            toolkit_.poppedUpAt = PlaceOfMenu(item, *below);
+        }
         if (toolkit_.onPopUp)
             toolkit_.onPopUp(item);
     }
@@ -103,6 +106,16 @@ class MemoryForm : public Peer<FormPeer> {
 
   private:
     Twips Above() const { return kCaption + (menus.empty() ? 0 : kMenuBar); }
+    // Below the place, from its beginning on; above it where the screen ends below.
+    Rect PlaceOfMenu(const MenuItem& item, const Rect& place) const {
+        Rect menu{place.left, place.top + place.height, kMenuWidth,
+                  kMenuBar * static_cast<Twips>(item.Items().size())};
+        if (form_.RightToLeft())
+            menu.left = place.left + place.width - menu.width;
+        if (menu.top + menu.height > toolkit_.workArea.top + toolkit_.workArea.height)
+            menu.top = place.top - menu.height;
+        return menu;
+    }
     void Appear() {
         if (std::exchange(shown.visible, true))
             return;

@@ -111,6 +111,7 @@ class MemoryToolkit : public toolkit::Toolkit {
     std::vector<std::string> poppedUpMenus;
     // Where the last one opened; nothing when that was at the mouse pointer.
     std::optional<toolkit::Rect> poppedUpBelow;
+    toolkit::Rect poppedUpAt;  // the menu itself, then
     std::function<void(toolkit::MenuItem&)> onPopUp;
     // Called when a tool bar's menu is opened by a key; returns the entry that is chosen, or -1.
     std::function<int(const toolkit::ToolBar&, int number)> onToolMenu;
