@@ -154,6 +154,18 @@ TEST_F(MainWindow, TheKeysOfACopyCanBeLetGoInAnyOrder) {
     // What was held once does not count for the next press.
     system.clipboard.text = "before";
     EXPECT_EQ(press({}, {}), "before");
+    press(kCtrl, {});
+    system.clipboard.text = "before";
+    Main().UserKeyUp('C', {});  // pressed in another window
+    EXPECT_EQ(Clipboard(), "before");
+}
+
+TEST_F(MainWindow, WhatIsHeldWhenTheKeyOfACopyIsLetGoCountsToo) {
+    StartOnAllDates();
+    Main().UserKeyUp('C', kCtrl);
+    EXPECT_EQ(Clipboard(), "Copy C:\\a.txt ");
+    Main().UserKeyUp('C', kCtrlAlt);
+    EXPECT_EQ(Clipboard(), "D:\\a.txt");
 }
 
 TEST_F(MainWindow, AClipboardHeldByAnotherProgramIsNoError) {
