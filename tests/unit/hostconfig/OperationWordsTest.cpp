@@ -290,6 +290,38 @@ TEST_F(Keywords, OfAUtf8FileAreReadAsSuchWithAndWithoutAMark) {
     EXPECT_THAT(Load(), ElementsAre("Создание ярлыка"));
 }
 
+// The mark says it, also where bytes are broken.
+TEST_F(Keywords, OfAFileWithAMarkAreReadByItWhateverCodePageItNames) {
+    Put("LoggingID", "1802");
+    UseLanguageFile(
+        "\xEF\xBB\xBF"
+        "codepage=1251\r\n1802=\"Kopi\xFF\"\r\n");
+    EXPECT_THAT(Load(), ElementsAre("Kopi\xEF\xBF\xBD"));
+    std::string little = "\xFF\xFE";
+    std::string big = "\xFE\xFF";
+    for (const char c : std::string("codepage=1251\r\n1802=\"Kopie\"\r\n")) {
+        little.append({c, '\0'});
+        big.append({'\0', c});
+    }
+    UseLanguageFile(little);
+    EXPECT_THAT(Load(), ElementsAre("Kopie"));
+    UseLanguageFile(big);
+    EXPECT_THAT(Load(), ElementsAre("Kopie"));
+}
+
+TEST_F(Keywords, TheFirstLineThatNamesACodePageCountsWhereverItStands) {
+    const std::string word = "1802=\"\xCA\xEE\xEF\xE8\xFF\"\r\n";
+    Put("LoggingID", "1802");
+    for (const std::string& file :
+         {"codepage=1251\r\ncodepage=1252\r\n" + word, "Russian\ncodepage=1251\n" + word,
+          "Russian\rcodepage=1251\r\n" + word,
+          "\xD0\xF3\xF1\xF1\xEA\xE8\xE9 \xFF\xFF\r\ncodepage=1251\r\n" + word,
+          word + std::string(100'000, ';') + "\r\ncodepage=1251"}) {
+        UseLanguageFile(file);
+        EXPECT_THAT(Load(), ElementsAre("Копия")) << file.substr(0, 40);
+    }
+}
+
 TEST_F(Keywords, TellOperationsFromOutcomesByTheirId) {
     EXPECT_TRUE(OperationWords::IsOperation("k1802"));
     EXPECT_TRUE(OperationWords::IsOperation("k1899"));
