@@ -30,6 +30,46 @@ class MainWindow : public ProgramWindow {
     std::string Clipboard() const { return system.clipboard.text.value_or("(empty)"); }
 };
 
+// What the window shows when every flag of the settings has this value.
+class MainWindowFlags : public MainWindow {
+  protected:
+    std::vector<std::string> Shown(const std::string& value) {
+        std::string lines;
+        for (const char* flag : {"GridLines", "FixedBorders", "FlatUserInterface", "LongDate",
+                                 "TwoPanels", "VerticalPanels", "StatusBarVisible"})
+            lines += flag + ("=" + value + "\r\n");
+        SetSettings(lines);
+        Start();
+        const auto yes = [](bool shown) { return std::string(shown ? "yes" : "no"); };
+        std::vector<std::string> seen = MemoryToolkit::Of(Date()).items;
+        seen.push_back("date " + Status().PanelText(2));
+        Date().UserSelected(0);
+        Source().UserSelected(1);
+        Target().SetFocus();
+        tools.Press(Main(), key::ContextMenu);
+        seen.insert(
+            seen.end(),
+            {"row's date " + Status().PanelText(2),
+             "targets " + std::to_string(Target().RowCount()),
+             "target " + std::to_string(Target().SelectedRow()),
+             "menu at target " + yes(tools.poppedUpBelow == Target().RowOnScreen(1)),
+             "columns " + std::to_string(Source().ColumnCount()),
+             "grid " + yes(Source().GridLines()),
+             "border " +
+                 yes(MemoryToolkit::Of(Source()).border == toolkit::BorderStyle::FixedSingle),
+             "flat " + yes(MemoryToolkit::Of(Source()).appearance == toolkit::Appearance::Flat),
+             "bevel " + yes(MemoryToolkit::Of(Status()).panels[0].bevel == toolkit::Bevel::Inset),
+             "side by side " + yes(Target().Left() > 0), "bar " + yes(Status().Visible())});
+        return seen;
+    }
+};
+
+TEST_F(MainWindowFlags, EveryValueButZeroIsOn) {
+    const std::vector<std::string> on = Shown("1");
+    EXPECT_EQ(Shown("2"), on);
+    EXPECT_EQ(Shown("-1"), on);
+}
+
 TEST_F(MainWindow, ARowOfTheSourcePanelSelectsItsTarget) {
     StartOnAllDates();
     Source().UserSelected(2);

@@ -307,6 +307,21 @@ TEST_F(Options, TheFontDialogStartsFromTheFontOfTheSettings) {
     EXPECT_FALSE(request.underline);
 }
 
+TEST_F(Options, EveryValueButZeroIsAMark) {
+    settings.GridLines = 2;
+    settings.FixedBorders = 2;
+    settings.FlatUserInterface = -1;
+    settings.LongDate = 2;
+    settings.UseDefaultLanguage = 2;
+    Open();
+    for (const char* box :
+         {"chkGridLines", "chkFixedBorders", "chkFlatUserInterface", "chkLongDate"})
+        EXPECT_TRUE(Box(box).Checked()) << box;
+    EXPECT_TRUE(DefaultLanguage().Checked());
+    Button("cmdApply").UserClicked();
+    EXPECT_THAT(steps, ElementsAre("apply"));  // the date format is the same as before
+}
+
 TEST_F(Options, OwnsTheDialogsThatItOpens) {
     Open();
     Button("cmdBrowseForLangFile").UserClicked();
