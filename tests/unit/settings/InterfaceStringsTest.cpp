@@ -18,6 +18,7 @@ TEST_F(InterfaceStringsTest, WithTheDefaultLanguageTheFileIsNotLookedAt) {
     EXPECT_FALSE(strings.RightToLeftLanguage());
     settings.UseDefaultLanguage = -1;
     EXPECT_EQ(strings.GetInterfaceString(4000), "Time");
+    EXPECT_FALSE(strings.RightToLeftLanguage());
 }
 
 TEST_F(InterfaceStringsTest, ATranslatedTextCountsAndTheRestIsEnglish) {

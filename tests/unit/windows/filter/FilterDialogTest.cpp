@@ -172,7 +172,7 @@ TEST_F(FilterDialog, ItsBoxesLookAsTheOptionsSay) {
     settings.FontSize = 11;
     settings.FontStyle = kFontBold;
     settings.FontScript = 204;
-    settings.FlatUserInterface = 1;
+    settings.FlatUserInterface = 2;  // as good as 1
     settings.ForegroundColor = 0x112233;
     settings.BackgroundColor = 0x445566;
     commands.LoadFilterInterface();

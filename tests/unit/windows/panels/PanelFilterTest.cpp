@@ -30,6 +30,15 @@ TEST_F(Filtering, KeepsRowsWhoseSourceHoldsTheTextInAnyCase) {
     EXPECT_THAT(Rows(), ElementsAre(1, 2, 4));  // in the path, too
 }
 
+TEST_F(Filtering, KeepsTheTargetsOfTheSameRowsWhateverFlagShowsThem) {
+    for (const std::int32_t flag : {1, 2, -1}) {
+        settings.TwoPanels = flag;
+        ShowDay(0);
+        Filter("copy");
+        EXPECT_EQ(TargetListView.RowCount(), 3) << flag;
+    }
+}
+
 TEST_F(Filtering, DoesNotContainKeepsTheOthers) {
     ShowDay(0);
     Filter("COPY", false, true);
