@@ -87,6 +87,7 @@ constexpr std::string_view kTable[] = {
     "4050=Cannot find Total Commander log file.",
     "4051=Lines passed over that are not lines of a log:",
     "4052=The first one is line:",
+    "4053=There is not enough memory for this log:",
 };
 // clang-format on
 

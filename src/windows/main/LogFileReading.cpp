@@ -2,6 +2,8 @@
 
 #include <chrono>
 #include <exception>
+#include <new>
+#include <stdexcept>
 #include <thread>
 
 #include "base/Attempt.h"
@@ -18,11 +20,19 @@ namespace {
 constexpr std::chrono::milliseconds kMoment{100};
 constexpr std::chrono::milliseconds kBetweenTries{5};
 
+// Nothing is wrong with the file then.
+bool IsTooLarge(const std::exception& failure) {
+    return dynamic_cast<const std::bad_alloc*>(&failure) != nullptr ||
+           dynamic_cast<const std::length_error*>(&failure) != nullptr ||
+           dynamic_cast<const Overflow*>(&failure) != nullptr;
+}
+
 class ReadAnewFailed : public Error {
   public:
-    explicit ReadAnewFailed(std::int32_t line)
-        : Error("A log that has changed cannot be read"), lineNumber(line) {}
+    ReadAnewFailed(std::int32_t line, bool large)
+        : Error("A log that has changed cannot be read"), lineNumber(line), tooLarge(large) {}
     std::int32_t lineNumber;
+    bool tooLarge;
 };
 
 // Reads, and tries again for a moment as long as the file cannot be opened or read.
@@ -86,11 +96,12 @@ bool LogFileReading::ReadLogFile(bool showDialog, std::string fileName, bool add
         if (addToRecentFiles)
             FileOpened.Raise(fileName);
         fresh.FreeExtraItems();
-    } catch (const std::exception&) {
-        // Whatever it was, running out of memory included, the message says where in which file.
+    } catch (const std::exception& failure) {
+        // So that there is memory for the message.
+        fresh.Clear();
         progress_.HideProgress();
         title_.SetTitle(titleBefore);
-        ShowReadError(fileName, reader.LineNumber());
+        ShowReadError(fileName, reader.LineNumber(), IsTooLarge(failure));
         return false;
     }
     mark_ = reader.Mark();
@@ -110,9 +121,9 @@ void LogFileReading::AddLogFile(const std::string& fileName, Set& set) {
         Prepare(reader, fileName, false);
         if (!stopped_)
             ReadEntries(reader);
-    } catch (const std::exception&) {
+    } catch (const std::exception& failure) {
         progress_.HideProgress();
-        ShowReadError(fileName, reader.LineNumber());
+        ShowReadError(fileName, reader.LineNumber(), IsTooLarge(failure));
     }
 }
 
@@ -175,9 +186,9 @@ void LogFileReading::Refresh() {
     try {
         ReadWhatIsNew(appended, passedOver);
     } catch (const ReadAnewFailed& failed) {
-        ShowReadError(mark_.path, failed.lineNumber);
-    } catch (const std::exception&) {
-        ShowReadError(mark_.path, appended.LineNumber());
+        ShowReadError(mark_.path, failed.lineNumber, failed.tooLarge);
+    } catch (const std::exception& failure) {
+        ShowReadError(mark_.path, appended.LineNumber(), IsTooLarge(failure));
     }
     ReportPassedOver(passedOver);
 }
@@ -212,8 +223,8 @@ void LogFileReading::ReadAnew(PassedOverLines& passedOver) {
             left = {};
             reader.ReadGrowingFile(mark_.path);
         });
-    } catch (const std::exception&) {
-        throw ReadAnewFailed(reader.LineNumber());
+    } catch (const std::exception& failure) {
+        throw ReadAnewFailed(reader.LineNumber(), IsTooLarge(failure));
     }
     if (fresh.EntrySources().ListCount() < 0)
         return;
@@ -226,11 +237,13 @@ void LogFileReading::ReadAnew(PassedOverLines& passedOver) {
 }
 
 // The message is modal: what events can change may have changed when it returns.
-void LogFileReading::ShowReadError(const std::string& fileName, std::int32_t lineNumber) {
-    shared_.toolkit.ShowMessage(&mainWindow_,
-                                shared_.Text(text_id::kErrorInFile) + "\r\n" + fileName + "\r\n" +
-                                    shared_.Text(text_id::kLine) + " " + std::to_string(lineNumber),
-                                mAppCommon::kProgramTitle);
+void LogFileReading::ShowReadError(const std::string& fileName, std::int32_t lineNumber,
+                                   bool tooLarge) {
+    const std::string message =
+        tooLarge ? shared_.Text(text_id::kNotEnoughMemory) + "\r\n" + fileName
+                 : shared_.Text(text_id::kErrorInFile) + "\r\n" + fileName + "\r\n" +
+                       shared_.Text(text_id::kLine) + " " + std::to_string(lineNumber);
+    shared_.toolkit.ShowMessage(&mainWindow_, message, mAppCommon::kProgramTitle);
 }
 
 PassedOverLines* LogFileReading::NotedIn(PassedOverLines& passedOver) const {

@@ -74,7 +74,7 @@ class LogFileReading {
     void ReadWhatIsNew(AppendedLines& appended, PassedOverLines& passedOver);
     void ReadAnew(PassedOverLines& passedOver);
     void Show(EntryLists& entries, bool selectLastDate);
-    void ShowReadError(const std::string& fileName, std::int32_t lineNumber);
+    void ShowReadError(const std::string& fileName, std::int32_t lineNumber, bool tooLarge);
     void ReportPassedOver(const PassedOverLines& passedOver);
     // Where lines that no log has are noted; nowhere when they are to end the read.
     PassedOverLines* NotedIn(PassedOverLines& passedOver) const;

@@ -46,7 +46,7 @@ TEST(DefaultStrings, TheTableIsOrderedAndHasEachIdOnce) {
         EXPECT_GT(id, before);
         before = id;
     }
-    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 79U);
+    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 80U);
 }
 
 // Translators and settings files know the texts by these numbers.
@@ -134,6 +134,7 @@ constexpr Expected kExpected[] = {
     {4050, "Cannot find Total Commander log file."},
     {4051, "Lines passed over that are not lines of a log:"},
     {4052, "The first one is line:"},
+    {4053, "There is not enough memory for this log:"},
 };
 
 TEST(DefaultStrings, TextsAreAsWritten) {

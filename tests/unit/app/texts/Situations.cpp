@@ -189,6 +189,18 @@ std::string LinesPassedOver(Speaker& speaker) {
     return other.LastMessage();
 }
 
+std::string LogThatDoesNotFit(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.Start();
+    other.system.files.onOpen = [](const std::string& path) {
+        if (path == kDamaged)
+            throw std::bad_alloc();
+    };
+    other.SetLog(kDamaged, {"01.03.2024 10:15:30: Delete C:\\b.txt"});
+    other.Main().FilesDropped.Raise({kDamaged});
+    return other.LastMessage();
+}
+
 std::string MissingRecentFile(Speaker& speaker) {
     speaker.Choose("mnuFileRecentFiles");
     return speaker.LastMessage();
@@ -240,6 +252,7 @@ const std::vector<Situation>& Situations() {
          "Lines that are none of a log have been passed over",
          {kDamaged, "2", "3"},
          LinesPassedOver},
+        {Kind::Message, "A log does not fit into memory", {kDamaged}, LogThatDoesNotFit},
         {Kind::Message, "Before a list is cleared or a read is left", {}, ClearRecentFiles},
         {Kind::Message, "A recent file is gone", {kGone}, MissingRecentFile},
         {Kind::Message, "Nothing is found", {"\"" + std::string(kSought) + "\""}, NothingFound},

@@ -532,5 +532,66 @@ TEST_F(LogFileReadingTest, AReadThatFailsInTheMiddleAndIsTriedAgainBringsEachLin
     EXPECT_THAT(tools.messages[0].text, testing::HasSubstr("of a log: 2\r\n"));
 }
 
+class LogThatDoesNotFit : public LogFileReadingTest {
+  protected:
+    LogThatDoesNotFit() {
+        Load({kLine});
+        ForgetTitles();
+        system.files.Set(kBig, kLine);
+    }
+    // Opening the file behind those that are to be opened before it runs out of memory.
+    void RunOut(int before = 0) {
+        system.files.onOpen = [this, before, opened = 0](const std::string&) mutable {
+            if (opened++ == before)
+                failure();
+        };
+    }
+    void ExpectTheMessage(const std::string& path) {
+        ASSERT_EQ(tools.messages.size(), 1U);
+        EXPECT_EQ(tools.messages[0].text, "There is not enough memory for this log:\r\n" + path);
+        tools.messages.clear();
+        EXPECT_FALSE(progress.visible);
+        EXPECT_EQ(reading.CurrentLogFile(), kLog);
+        EXPECT_EQ(SourceListView.RowCount(), 1);
+        EXPECT_EQ(SourceListView.Text(0, 1), "Copy C:\\a.txt ");
+    }
+    static constexpr const char* kBig = "C:\\logs\\big.log";
+    std::function<void()> failure = [] { throw std::bad_alloc(); };
+};
+
+TEST_F(LogThatDoesNotFit, IsRefusedAndTheOneThatIsShownStays) {
+    RunOut(1);
+    reading.ReadLogFile(false, kBig, true);
+    ExpectTheMessage(kBig);
+    EXPECT_THAT(Titles(), testing::SizeIs(2)) << "the one of before again";
+    EXPECT_THAT(remembered, IsEmpty());
+}
+
+TEST_F(LogThatDoesNotFit, IsOneThatIsBeyondOtherBoundsAsWell) {
+    failure = [] { throw std::length_error("as many as there can be"); };
+    RunOut();
+    reading.ReadLogFile(false, kBig, true);
+    ExpectTheMessage(kBig);
+    failure = [] { throw Overflow(); };
+    RunOut();
+    reading.ReadLogFile(false, kBig, true);
+    ExpectTheMessage(kBig);
+}
+
+TEST_F(LogThatDoesNotFit, IsNamedAmongSeveralFilesAndByRefresh) {
+    LogFileReading::Set set;
+    RunOut();
+    reading.AddLogFile(kBig, set);
+    ExpectTheMessage(kBig);
+    RunOut();
+    reading.Refresh();
+    ExpectTheMessage(kLog);
+    // The file at the path is another one, which is read anew.
+    Write(kLog, {"02.03.2024 10:00:00: Delete x"});
+    RunOut(1);
+    reading.Refresh();
+    ExpectTheMessage(kLog);
+}
+
 }  // namespace
 }  // namespace ordalyn
