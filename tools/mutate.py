@@ -35,11 +35,12 @@ from check_includes import read_table  # noqa: E402
 
 PROJECT = pathlib.Path(__file__).resolve().parents[1]
 WORKSHOP = PROJECT / "build" / "mutation"
-TREE, BUILD = WORKSHOP / "tree", WORKSHOP / "build"
+TREE, BUILD, UNCHANGED = (WORKSHOP / name for name in ("tree", "build", "unchanged"))
 
 # Room by room a shared library: a change compiles one file and links one library.
 CONFIGURE = ["cmake", "-S", str(TREE), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None",
              "-DBUILD_SHARED_LIBS=ON", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",
+             f"-DPython3_EXECUTABLE={sys.executable}",
              "-DCMAKE_CXX_FLAGS=-O0 -w -D_GLIBCXX_ASSERTIONS"]
 MOST_MEMORY = 2 << 30
 MOST_OUTPUT = 64 << 20
@@ -91,7 +92,7 @@ class Workshop:
         self.libraries_of: dict[str, set[str]] = {}
         self.paths: dict[str, pathlib.Path] = {}
         self.seconds_of: dict[str, float] = {}
-        self.changed: pathlib.Path | None = None
+        self.built: dict[str, tuple[int, int]] = {}
 
     def prepare(self) -> None:
         copy_tree()
@@ -110,6 +111,7 @@ class Workshop:
             if outcome.test:
                 sys.exit(f"{program} does not pass as it is: {outcome.test} {outcome.how}")
             self.seconds_of[program] = outcome.seconds
+        self.keep_build()
         print(f"All {len(self.paths)} test programs pass as they are "
               f"({sum(self.seconds_of.values()):.0f} s).", flush=True)
 
@@ -144,30 +146,50 @@ class Workshop:
         used = end.children_user + end.children_system - begin.children_user - begin.children_system
         return outcome_of(code, text, used, late)
 
-    def restore(self) -> None:
-        if self.changed:
-            self.changed.write_bytes((PROJECT / self.changed.relative_to(TREE)).read_bytes())
-            self.changed = None
+    def keep_build(self) -> None:
+        """A second copy of what was built, so that taking a change back compiles nothing."""
+        shutil.rmtree(UNCHANGED, ignore_errors=True)
+        shutil.copytree(BUILD, UNCHANGED, symlinks=True)
+        self.built = stamps(BUILD)
+
+    def restore_build(self) -> None:
+        for name, stamp in stamps(BUILD).items():
+            if name not in self.built:
+                (BUILD / name).unlink()
+            elif self.built[name] != stamp:
+                shutil.copy2(UNCHANGED / name, BUILD / name)
+        for name in self.built.keys() - stamps(BUILD).keys():
+            shutil.copy2(UNCHANGED / name, BUILD / name)
 
     def try_out(self, change: mutations.Change) -> dict[str, object]:
         """What is to be known about a change, as the file of results has it."""
         begin = time.monotonic()
         file = TREE / change.file
-        if file != self.changed:
-            self.restore()
-        self.changed = file
-        source = (PROJECT / change.file).read_text(encoding="utf-8")
+        source, stamp = file.read_text(encoding="utf-8"), file.stat()
         file.write_text(change.applied_to(source), encoding="utf-8")
-        said: dict[str, object] = {"result": SURVIVED}
-        for program in order_of_programs(room_of(change.file), self.libraries_of):
+        try:
+            said = self.judge(room_of(change.file))
+        finally:
+            # With its time, too: for the build it then was never changed.
+            file.write_text(source, encoding="utf-8")
+            os.utime(file, ns=(stamp.st_atime_ns, stamp.st_mtime_ns))
+            self.restore_build()
+        return {**dataclasses.asdict(change), **said, "seconds": round(time.monotonic() - begin, 1)}
+
+    def judge(self, room: str) -> dict[str, object]:
+        for program in order_of_programs(room, self.libraries_of):
             if not self.build(program):
-                said = {"result": UNBUILDABLE}
-                break
+                return {"result": UNBUILDABLE}
             outcome = self.run(program, max(LEAST_SECONDS, 10 * self.seconds_of[program]))
             if outcome.test:
-                said = {"result": NOTICED, "by": program, "test": outcome.test, "how": outcome.how}
-                break
-        return {**dataclasses.asdict(change), **said, "seconds": round(time.monotonic() - begin, 1)}
+                return {"result": NOTICED, "by": program, "test": outcome.test, "how": outcome.how}
+        return {"result": SURVIVED}
+
+
+def stamps(folder: pathlib.Path) -> dict[str, tuple[int, int]]:
+    """When each file below a folder was written, and its size."""
+    return {path.relative_to(folder).as_posix(): (path.lstat().st_mtime_ns, path.lstat().st_size)
+            for path in folder.rglob("*") if not path.is_dir()}
 
 
 def copy_tree() -> None:
@@ -191,23 +213,15 @@ def room_of(file: str) -> str:
     return pathlib.PurePosixPath(file).parent.relative_to("src").as_posix()
 
 
-def changes_of_rooms() -> dict[str, list[mutations.Change]]:
-    found: dict[str, list[mutations.Change]] = {}
-    for room in read_table(PROJECT / "src" / "rooms.txt"):
-        if not room.startswith("win32/"):
-            found[room] = [change for file in sorted((PROJECT / "src" / room).iterdir())
-                           if file.suffix in (".h", ".cpp")
-                           for change in mutations.changes_in(file.relative_to(PROJECT).as_posix(),
-                                                              file.read_text(encoding="utf-8"))]
-    return found
+def sources_of_rooms(root: pathlib.Path) -> dict[str, dict[str, str]]:
+    """room -> file -> its text, for the rooms that need no Windows."""
+    return {room: {file.relative_to(root).as_posix(): file.read_text(encoding="utf-8")
+                   for file in sorted((root / "src" / room).iterdir()) if file.suffix in (".h", ".cpp")}
+            for room in read_table(root / "src" / "rooms.txt") if not room.startswith("win32/")}
 
 
-def lines_of_rooms(rooms: list[str]) -> dict[str, int]:
-    return {room: sum(mutations.lines_of_code(file.read_text(encoding="utf-8"))
-                      for file in (PROJECT / "src" / room).iterdir()
-                      if file.suffix in (".h", ".cpp")
-                      and file.relative_to(PROJECT).as_posix() not in mutations.TABLE_FILES)
-            for room in rooms}
+def all_changes(sources: dict[str, str]) -> list[mutations.Change]:
+    return [change for file, source in sources.items() for change in mutations.changes_in(file, source)]
 
 
 def same_change(record: dict[str, object], candidates: list[mutations.Change]) -> mutations.Change | None:
@@ -245,38 +259,40 @@ def read_results(path: pathlib.Path) -> list[dict[str, object]]:
     return [json.loads(line) for line in path.read_text(encoding="utf-8").splitlines() if line.endswith("}")]
 
 
-def drawn(count: int, seed: int, done: Results) -> Iterator[mutations.Change]:
+def drawn(rooms: dict[str, dict[str, str]], count: int, seed: int, done: Results) -> Iterator[mutations.Change]:
     """The changes to try: from each room as many as is its share of the code. One that turns out not to
     build is replaced by the next that was drawn for its room."""
-    rooms = {room: mutations.in_drawn_order(changes, f"{seed} {room}")
-             for room, changes in changes_of_rooms().items()}
-    quota = mutations.shares(lines_of_rooms(list(rooms)), count)
-    for room, changes in rooms.items():
-        waiting = collections.deque(changes)
-        missing = quota[room]
-        while missing and waiting:
-            batch = [waiting.popleft() for _ in range(min(missing, len(waiting)))]
-            # File by file: what is put back is compiled once.
-            yield from sorted(batch, key=lambda change: (change.file, change.start))
-            missing = sum((done.of(change) or {}).get("result") == UNBUILDABLE for change in batch)
+    missing = mutations.shares({room: sum(mutations.lines_of_code(source) for file, source in sources.items()
+                                          if file not in mutations.TABLE_FILES)
+                                for room, sources in rooms.items()}, count)
+    waiting = {room: collections.deque(mutations.in_drawn_order(all_changes(sources), f"{seed} {room}"))
+               for room, sources in rooms.items()}
+    while any(missing[room] and waiting[room] for room in rooms):
+        batch = [waiting[room].popleft() for room in rooms for _ in range(min(missing[room], len(waiting[room])))]
+        # Headers last: many files are compiled anew for each of them.
+        yield from sorted(batch, key=lambda change: change.file.endswith(".h"))
+        missing = dict.fromkeys(rooms, 0)
+        for change in batch:
+            missing[room_of(change.file)] += (done.of(change) or {}).get("result") == UNBUILDABLE
 
 
-def chosen(options: argparse.Namespace, survivors: list[dict[str, object]],
+def chosen(options: argparse.Namespace, root: pathlib.Path, survivors: list[dict[str, object]],
            results: Results) -> Iterator[mutations.Change]:
+    rooms = sources_of_rooms(root)
     if options.only:
         file, _, line = options.only.partition(":")
-        changes = mutations.changes_in(file, (PROJECT / file).read_text(encoding="utf-8"))
+        changes = all_changes({file: (root / file).read_text(encoding="utf-8")})
         yield from [change for change in changes if not line or change.line == int(line)]
-    elif options.survivors:
-        candidates = [change for changes in changes_of_rooms().values() for change in changes]
+    elif survivors:
+        candidates = [change for sources in rooms.values() for change in all_changes(sources)]
         for record in survivors:
             change = same_change(record, candidates)
             if change:
                 yield change
             else:
                 print(f"gone:         {record['file']}:{record['line']}: {record['text']}", flush=True)
-    else:
-        yield from drawn(options.count, options.seed, results)
+    elif not options.survivors:
+        yield from drawn(rooms, options.count, options.seed, results)
 
 
 def told(record: dict[str, object]) -> str:
@@ -300,6 +316,8 @@ def main() -> None:
     options = parser.parse_args()
 
     os.nice(NICE)
+    # What is ended puts the copy in order first.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended"))
     WORKSHOP.mkdir(parents=True, exist_ok=True)
     again = options.only or options.survivors
     path = options.results or WORKSHOP / ("again.jsonl" if again else f"results-{options.seed}.jsonl")
@@ -307,21 +325,21 @@ def main() -> None:
     survivors = [record for record in read_results(options.survivors) if record["result"] == SURVIVED] if (
         options.survivors) else []
     if options.list:
-        for change in chosen(options, survivors, Results(path, True)):
+        for change in chosen(options, PROJECT, survivors, Results(path, True)):
             print(change.told())
         return
     results = Results(path, go_on=not (again or options.fresh))
     workshop = Workshop()
     workshop.prepare()
     records = []
-    for change in chosen(options, survivors, results):
+    # From the copy: the tree itself may be worked on meanwhile.
+    for change in chosen(options, TREE, survivors, results):
         record = results.of(change)
         if record is None:
             record = workshop.try_out(change)
             results.add(record)
         print(told(record), flush=True)
         records.append(record)
-    workshop.restore()
     built = [record for record in records if record["result"] != UNBUILDABLE]
     left = [record for record in built if record["result"] == SURVIVED]
     print(f"\n{len(built) - len(left)} of {len(built)} changes were noticed.", *map(told, left), sep="\n")

@@ -162,14 +162,12 @@ def test_a_change_is_found_again_where_its_line_went():
     assert mutate.same_change(vars(before[1]), mutations.changes_in("src/a/A.cpp", "int a;")) is None
 
 
-def test_what_does_not_build_is_replaced(tmp_path, monkeypatch):
-    source = "int F() {\n" + "    a = b + c;\n" * 30 + "}\n"
-    rooms = {"low": mutations.changes_in("src/low/A.cpp", source), "mid": mutations.changes_in("src/mid/A.cpp", source)}
-    monkeypatch.setattr(mutate, "changes_of_rooms", lambda: rooms)
-    monkeypatch.setattr(mutate, "lines_of_rooms", lambda names: {"low": 30, "mid": 10})
+def test_what_does_not_build_is_replaced(tmp_path):
+    rooms = {room: {f"src/{room}/A.cpp": "int F() {\n" + "    a = b + c;\n" * lines + "}\n"}
+             for room, lines in (("low", 28), ("mid", 8))}
     results = mutate.Results(tmp_path / "results", True)
     built = []
-    for number, change in enumerate(mutate.drawn(8, 1, results)):
+    for number, change in enumerate(mutate.drawn(rooms, 8, 1, results)):
         fails = number % 3 == 0
         results.add({**vars(change), "result": mutate.UNBUILDABLE if fails else mutate.NOTICED})
         built += [] if fails else [mutate.room_of(change.file)]
