@@ -68,6 +68,7 @@ TEST(TextNumbers, WhatIsTooSmallForEveryNumberIsNought) {
 
 TEST(TextNumbers, TheExponentAloneDoesNotDecideAboutTheSize) {
     EXPECT_THROW(ToLong("1" + std::string(400, '0')), Overflow);
+    EXPECT_THROW(ToLong(std::string(400, '9')), Overflow);
     EXPECT_THROW(ToLong("1" + std::string(400, '0') + "e-1"), Overflow);
     EXPECT_EQ(ToLong("0." + std::string(400, '0') + "1e1"), 0);
 }

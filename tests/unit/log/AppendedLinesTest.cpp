@@ -214,6 +214,15 @@ TEST_F(AppendedLinesTest, ACommentThatHadNoEndStaysOne) {
     EXPECT_EQ(Refresh("d t: a\n;comment\n"), Found::Lines);
     EXPECT_THAT(Dates(), ElementsAre("d", ""));
     EXPECT_THAT(Sources(), ElementsAre("t: a", "; comment"));
+    ReadFile(";com");
+    EXPECT_EQ(Refresh(";comment\n"), Found::Lines);
+    EXPECT_THAT(Sources(), ElementsAre("; comment"));
+}
+
+TEST_F(AppendedLinesTest, AShorterFileIsAnotherAlsoWhenALineOfItIsMalformed) {
+    ReadFile("d t: a\nd t: something long");
+    EXPECT_EQ(Refresh("d t: a\nmalformed\n"), Found::AnotherFile);
+    EXPECT_THAT(Sources(), ElementsAre("t: a", "t: something long"));
 }
 
 class TolerantAppendedLinesTest : public AppendedLinesTest {

@@ -48,6 +48,7 @@ TEST_F(RecentFiles, ANumberOutsideTheListThrows) {
     EXPECT_THROW(recent.RemoveFile(0), SubscriptOutOfRange);
     EXPECT_THROW(recent.RemoveFile(10), SubscriptOutOfRange);
     EXPECT_THROW(recent.PutAsFirstItem(0), SubscriptOutOfRange);
+    EXPECT_THROW(recent.PutAsFirstItem(10), SubscriptOutOfRange);
     EXPECT_THROW(recent.Occupied(0), SubscriptOutOfRange);
     EXPECT_THROW(recent.Occupied(10), SubscriptOutOfRange);
     EXPECT_THROW(recent.Setup(0), InvalidPropertyValue);
@@ -115,6 +116,15 @@ TEST_F(RecentFiles, AnEntryCanBePutFirst) {
     EXPECT_EQ(List(), "b d c a");
     recent.PutAsFirstItem(1);
     EXPECT_EQ(List(), "b d c a");
+}
+
+TEST_F(RecentFiles, AFileThatIsStoredTwiceIsPutFirstAsOne) {
+    Put("Ordalyn", "RecentFiles1", "a");
+    Put("Ordalyn", "RecentFiles2", "b");
+    Put("Ordalyn", "RecentFiles3", "A");
+    Read();
+    recent.PutAsFirstItem(3);
+    EXPECT_EQ(List(), "A b");
 }
 
 TEST_F(RecentFiles, AllFilesCanBeRemoved) {
