@@ -73,6 +73,11 @@ TEST_F(Keywords, WithoutALanguageFileAreTheEnglishOnesInTheDefaultOrder) {
                                     "k1805", "k1811", "k1804", "", "k1808", "k1809", "k1810"));
 }
 
+TEST_F(Keywords, TheMarkerOfAnAbsentEntryNamesNoLanguageFile) {
+    system.files.Set("C:\\tc\\Language\\" + common.NoValueMarker(), "1802=\"Kopie\"\r\n");
+    EXPECT_THAT(Load(), EnglishWords());
+}
+
 TEST_F(Keywords, TheDefaultOrderIsWrittenToTheSettingsFileAtOnce) {
     EXPECT_EQ(Stored("LoggingID"), "(absent)");
     Load();

@@ -182,11 +182,15 @@ TEST_F(Registry, OfANumberTheFirstThreeCharactersAreRead) {
     EXPECT_EQ(Read(), "429");
     Store(MemoryRegistry::kNumber, Bytes({0, 0, 0, 1}));
     EXPECT_EQ(Read(), "167");
+    Store(MemoryRegistry::kNumber, "");
+    EXPECT_EQ(Read(), "");
 }
 
 TEST_F(Registry, OtherTypesAreReadLikeStrings) {
     Store(2, "%TEMP%\\x" + Bytes({0}));
     EXPECT_EQ(Read(), "%TEMP%\\x");
+    Store(2, "%TEMP%\\\xD0\x96" + Bytes({0}));
+    EXPECT_EQ(Read(), "%TEMP%\\\xD0\x96");
     Store(7, Bytes({'a', 0, 'b', 0, 0}));
     EXPECT_EQ(Read(), Bytes({'a', 0, 'b', 0}));
     // Bytes that the system does not call text are in its code page.

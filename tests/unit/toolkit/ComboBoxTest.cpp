@@ -170,6 +170,8 @@ TEST_F(ComboBoxTest, TheTextOfAListSelectsTheFirstItemEqualToItIgnoringCase) {
     list.SetText("beta");
     EXPECT_EQ(list.ListIndex(), 1);
     EXPECT_EQ(listClick.Take(), 1);
+    list.SetText("ALPHA");
+    EXPECT_EQ(list.ListIndex(), 0);
 }
 
 TEST_F(ComboBoxTest, ATextThatNoItemOfAListHasThrows) {

@@ -26,6 +26,15 @@ TEST(ToolBarPictures, AreDrawnInTheGivenColoursAtAnySize) {
     }
 }
 
+TEST(ToolBarPictures, SlopesStandWhereTheDrawingHasThem) {
+    // The funnel narrows from 14 units to 4; in the sixth row it begins within the third pixel.
+    const Picture picture = DrawToolBarPicture(kApplyFilterImage, 16, kColors);
+    for (const int outside : {0, 1, 14, 15})
+        EXPECT_EQ(AlphaAt(picture, outside, 5), 0U) << outside;
+    for (int inside = 3; inside <= 12; ++inside)
+        EXPECT_EQ(AlphaAt(picture, inside, 5), 255U) << inside;
+}
+
 TEST(ToolBarPictures, ColourPartsNeverExceedTheAlphaPart) {
     const Picture picture = DrawToolBarPicture(kRemoveFilterImage, 20, {0xFFFFFF, 0xFFFFFF});
     for (const std::uint32_t pixel : picture.pixels) {

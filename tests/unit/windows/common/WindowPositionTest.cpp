@@ -45,7 +45,7 @@ TEST_F(RestorePosition, EachFormHasItsOwnEntries) {
 TEST_F(RestorePosition, APlacementWhoseTitleBarIsOnNoScreenIsNotUsed) {
     for (const char* lost : {"-90000,90000,3000,4000", "99999,99999,1,1", "19200,0,3000,4000",
                              "0,15000,3000,4000", "-2900,0,3000,4000", "100,-300,3000,4000",
-                             "100,-4000,3000,6000", "100,14900,3000,4000"}) {
+                             "100,-4000,3000,6000", "100,14900,3000,4000", "19051,0,3000,4000"}) {
         Put("Ordalyn", "MainPosition", lost);
         RestoreWindowPosition(settings, form, true);
         EXPECT_EQ(form.Bounds(), (Rect{0, 0, 12030, 8520})) << lost;
@@ -54,8 +54,9 @@ TEST_F(RestorePosition, APlacementWhoseTitleBarIsOnNoScreenIsNotUsed) {
 
 TEST_F(RestorePosition, APlacementThatCanBeTakenIsKept) {
     toolkit.otherWorkAreas = {{-15000, -300, 15000, 9000}};
-    for (const Rect& kept : {Rect{-2000, 0, 3000, 4000}, Rect{18000, 14000, 3000, 4000},
-                             Rect{100, -100, 3000, 4000}, Rect{-14000, -300, 3000, 4000}}) {
+    for (const Rect& kept :
+         {Rect{-2000, 0, 3000, 4000}, Rect{18000, 14000, 3000, 4000}, Rect{100, -100, 3000, 4000},
+          Rect{-14000, -300, 3000, 4000}, Rect{19050, 0, 3000, 4000}}) {
         Put("Ordalyn", "MainPosition",
             PlacementText({kept.left, kept.top, kept.width, kept.height}));
         RestoreWindowPosition(settings, form, true);
