@@ -49,8 +49,7 @@ void ComboBox::SetItem(int index, std::string_view text) {
     peer_->SetItem(index, text);
     if (index != listIndex_)
         return;
-    if (editable_)
-        text_ = text;
+    text_ = text;
     peer_->SetListIndex(index);
 }
 
@@ -75,8 +74,7 @@ void ComboBox::SetListIndex(int index) {
     if (index < -1 || index >= ListCount())
         throw InvalidPropertyValue("list index of " + Name());
     listIndex_ = index;
-    if (editable_)
-        text_ = index >= 0 ? items_[static_cast<std::size_t>(index)] : std::string();
+    text_ = index >= 0 ? items_[static_cast<std::size_t>(index)] : std::string();
     peer_->SetListIndex(index);
     Click.Raise();
 }
@@ -117,7 +115,7 @@ bool ComboBox::NeedsKey(int key) const {
 
 void ComboBox::UserSelected(int index) {
     listIndex_ = index;
-    if (editable_ && index >= 0)
+    if (index >= 0)
         text_ = List(index);
     Click.Raise();
 }

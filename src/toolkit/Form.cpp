@@ -199,15 +199,12 @@ void Form::Show(Form* owner) {
 
 void Form::ShowModal(Form* owner) {
     SetVisibleOnly(true);
-    modal_ = true;
     peer_->RunModal(owner == nullptr ? nullptr : &owner->formPeer());
-    modal_ = false;
 }
 
 void Form::Hide() {
     SetVisibleOnly(false);
-    if (modal_)
-        peer_->EndModal();
+    peer_->EndModal();
     peer_->SetVisible(false);
 }
 

@@ -108,7 +108,6 @@ class Form : public Control {
     Control* cancelButton_ = nullptr;
     std::shared_ptr<const int> lifetime_ = std::make_shared<const int>(0);
     bool activatedByClickOnControl_ = false;
-    bool modal_ = false;
     bool unloaded_ = false;
 };
 

@@ -150,7 +150,7 @@ class FormPeer : public ControlPeer, public MenuPeer {
     virtual void Show(FormPeer* owner) = 0;
     // Shows the form, disables all other forms and handles messages until EndModal.
     virtual void RunModal(FormPeer* owner) = 0;
-    virtual void EndModal() = 0;
+    virtual void EndModal() = 0;  // nothing for a form that is not modal
     virtual void SetWindowState(WindowState state) = 0;
     virtual WindowState CurrentWindowState() = 0;
     virtual std::uintptr_t Handle() = 0;

@@ -9,8 +9,6 @@
 
 namespace ordalyn {
 
-namespace {}  // namespace
-
 void InputHistory::LoadHistory(toolkit::ComboBox& cbo, std::string_view strKey, int intMax) {
     for (const std::string& text : history_.Read(strKey, intMax))
         cbo.AddItem(text);
