@@ -15,6 +15,8 @@ TEST_F(Splitter, StartsEmptyAndInert) {
     splitter.Resize(1000, 1000);
     splitter.Move(5, 5);
     EXPECT_EQ(container.Bounds(), (Rect{0, 0, 6000, 4000}));
+    splitter.SetSplitPosition(500);
+    EXPECT_EQ(splitter.SplitPosition(), 500);
 }
 
 TEST_F(Splitter, KeepsWhatItIsToldBeforeItHasControls) {
@@ -116,6 +118,8 @@ TEST_F(Splitter, ControlsThatComeBackAreObservedOnce) {
     bar.MouseDown.Raise(1, {}, 0, 0);
     Drag(1, 100, 0);  // 2000 + 100 - 45 + 15, once
     EXPECT_EQ(bar.Left(), 2070);
+    otherBar.MouseUp.Raise(1, {}, 0, 0);
+    EXPECT_EQ(splitter.SplitPosition(), 2000) << "the bar that is observed is still held";
 }
 
 TEST_F(Splitter, ResizeSetsTheContainerAndLaysOut) {

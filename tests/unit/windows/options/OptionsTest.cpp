@@ -167,6 +167,21 @@ TEST_F(Options, PagesAndFramesHaveEqualMarginsOnEveryScreen) {
     }
 }
 
+TEST_F(Options, TheButtonsStandSideBySideAtTheRight) {
+    Open();
+    toolkit::Twips right = options->ClientSize().width;
+    for (const char* name : {"cmdApply", "cmdCancel", "cmdOK"}) {
+        EXPECT_EQ(right - (Button(name).Left() + Button(name).Width()), 120) << name;
+        right = Button(name).Left();
+    }
+}
+
+TEST_F(Options, TheColoursStandInFrames) {
+    Open();
+    for (const int label : {0, 1})
+        EXPECT_EQ(ColorLabel(label).Border(), toolkit::BorderStyle::FixedSingle);
+}
+
 TEST_F(Options, WhatLiesOnAPageHasTheColourOfTheTabs) {
     Open();
     EXPECT_EQ(Page(1).BackColor(), toolkit::kTabInterior);

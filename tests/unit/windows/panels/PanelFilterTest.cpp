@@ -155,6 +155,14 @@ TEST_F(Filtering, TheSelectionMovesUpWithItsEntryInBothPanels) {
     EXPECT_EQ(MemoryToolkit::Of(TargetListView).selectedRow, 2);
 }
 
+TEST_F(Filtering, TheFirstRowStaysSelectedWhenItStays) {
+    ShowDay(0);
+    filter.FilterText = "program";
+    panels.ApplyFilter(false);
+    EXPECT_EQ(SourceListView.SelectedRow(), 0);
+    EXPECT_EQ(TargetListView.SelectedRow(), 0);
+}
+
 TEST_F(Filtering, NothingIsSelectedWhenTheSelectedRowGoes) {
     ShowDay(0);
     panels.SelectEntryRow(3);  // entry 3

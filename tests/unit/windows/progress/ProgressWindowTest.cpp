@@ -59,6 +59,15 @@ TEST_F(Progress, TheTallFormNamesTheFileAndCanBeCancelled) {
     EXPECT_TRUE(window.Visible());  // nothing else happens
 }
 
+TEST_F(Progress, AWindowOfAnotherSizeIsLaidOutAnew) {
+    progress.PrepareTall("x.1.log");
+    progress.ShowProgress("Reading", 2);
+    frmProgress& window = *progress.Window();
+    window.Move({0, 0, 4000, 1200});
+    EXPECT_LE(window.cmdCancel.Top() + window.cmdCancel.Height(), window.ClientSize().height);
+    EXPECT_LE(window.ProgressBar1.Left() + window.ProgressBar1.Width(), window.ClientSize().width);
+}
+
 TEST_F(Progress, CarriesTheIdsOfItsTexts) {
     progress.PrepareTall("a");
     EXPECT_THAT(test::DesignIdFaults(*progress.Window()), testing::IsEmpty());
