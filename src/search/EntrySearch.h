@@ -35,8 +35,6 @@ class EntrySearch {
     void SetText(std::string_view text, std::int32_t historyItem);
     void SetColumn(std::int32_t columnNo);
     void SetWholeWord(bool wholeWord);
-    // The text has got another place in the list of earlier texts.
-    void SetHistoryItem(std::int32_t item) { options_.historyItem = item; }
     void SetSelectedDateOnly(bool only) { options_.selectedDateOnly = only; }
 
     // Whether there is a text to search for.

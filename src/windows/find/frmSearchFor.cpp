@@ -142,7 +142,6 @@ void frmSearchFor::WireControls() {
     cmdFindNext.Click.Subscribe([this] {
         FindNextString(around_.search, around_.strings, *this);
         around_.history.AddToHistory(cboFindWhat, entry::FindTexts.key, entry::FindTexts.numbers);
-        around_.search.SetHistoryItem(cboFindWhat.ListIndex());
     });
     cmdClearList.Click.Subscribe([this] { ClearList(); });
     Get<toolkit::CommandButton>("cmdCancel").Click.Subscribe([this] { Hide(); });
