@@ -147,6 +147,11 @@ TEST_F(CommonDialog, ACancelledOpenRemembersNoFolder) {
     EXPECT_EQ(Opened(0).initialFolder, "D:\\Logs\\");
 }
 
+TEST_F(CommonDialog, BeforeAnyChoiceTheColourIsBlackAndNothingIsConfirmed) {
+    EXPECT_EQ(dialog.Color, 0);
+    EXPECT_FALSE(dialog.Confirmed);
+}
+
 TEST_F(CommonDialog, CancellingLeavesEveryResult) {
     dialog.FileName = "C:\\a.log";
     dialog.Color = 123;
