@@ -269,8 +269,10 @@ def drawn(rooms: dict[str, dict[str, str]], count: int, seed: int, done: Results
                for room, sources in rooms.items()}
     while any(missing[room] and waiting[room] for room in rooms):
         batch = [waiting[room].popleft() for room in rooms for _ in range(min(missing[room], len(waiting[room])))]
-        # Headers last: many files are compiled anew for each of them.
-        yield from sorted(batch, key=lambda change: change.file.endswith(".h"))
+        # Headers last, and of these the lowest rooms' last: the most files are compiled anew for them.
+        place = {room: at for at, room in enumerate(rooms)}
+        yield from sorted(batch, key=lambda change: (1, -place[room_of(change.file)])
+                          if change.file.endswith(".h") else (0, place[room_of(change.file)]))
         missing = dict.fromkeys(rooms, 0)
         for change in batch:
             missing[room_of(change.file)] += (done.of(change) or {}).get("result") == UNBUILDABLE
