@@ -4,6 +4,7 @@
 
 #include "base/Attempt.h"
 #include "base/Text.h"
+#include "hostconfig/SettingsPlace.h"
 
 namespace ordalyn {
 
@@ -35,7 +36,7 @@ mAppCommon::mAppCommon(const platform::Services& services)
     : environment_(services.environment),
       files_(services.files),
       programFolder_(AddBackslash(FolderPart(environment_.ProgramPath()))),
-      settingsFile_(programFolder_ + "Ordalyn.ini"),
+      settingsFile_(PlaceOfSettings(services, programFolder_)),
       noValueMarker_(MakeMarker(environment_.Now())),
       commanderFolder_(noValueMarker_) {}
 

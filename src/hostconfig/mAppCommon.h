@@ -19,7 +19,8 @@ class mAppCommon {
     // Bits of UnExpandPaths.
     static constexpr std::int32_t kUnExpandProgramFolder = 1, kUnExpandCommanderFolder = 2;
 
-    // Takes the program folder and the time for the marker from the environment, once.
+    // Takes the program folder and the time for the marker from the environment, once, and decides
+    // where the settings are kept for this run (SettingsPlace.h).
     explicit mAppCommon(const platform::Services& services);
 
     // The folder of the program's executable, with a trailing backslash.

@@ -76,6 +76,13 @@ class Files {
     // Writes the whole file so that a crash leaves either the old or the new bytes. Throws
     // FileError.
     virtual void Replace(std::string_view path, std::string_view bytes) = 0;
+    // Whether this user can write the file, or make it where there is none: neither it nor its
+    // folder is protected. One that another program only holds for the moment can be written.
+    // Nothing is left behind, and a file that is there is not touched.
+    virtual bool CanWrite(std::string_view path) = 0;
+    // Nothing to do when there is such a folder. The one that it is to lie in has to be there.
+    // Throws FileError.
+    virtual void MakeFolder(std::string_view path) = 0;
 };
 
 // All bytes of a file; nothing when it cannot be read.

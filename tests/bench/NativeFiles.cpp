@@ -52,4 +52,12 @@ void NativeFiles::Replace(std::string_view path, std::string_view) {
     throw FileError(std::string(path), 5);
 }
 
+bool NativeFiles::CanWrite(std::string_view) {
+    return false;
+}
+
+void NativeFiles::MakeFolder(std::string_view path) {
+    throw FileError(std::string(path), 5);
+}
+
 }  // namespace ordalyn::bench

@@ -12,6 +12,8 @@ class NativeFiles : public platform::Files {
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
     void Replace(std::string_view path, std::string_view bytes) override;
+    bool CanWrite(std::string_view path) override;
+    void MakeFolder(std::string_view path) override;
 };
 
 }  // namespace ordalyn::bench

@@ -1,13 +1,8 @@
 """Another program has the log open and shares it with nobody."""
 
-import contextlib
-import subprocess
-
 import pytest
 
-from harness.folder import tools_folder
-from harness.waiting import wait_until
-from harness.wine import windows_path
+from harness.second import held
 
 pytestmark = pytest.mark.usefixtures("pointer_inside")
 
@@ -16,25 +11,6 @@ READ_ERROR = "There is an error in file\n{}\nLine: 0"
 
 def line(word, date="01.03.2024"):
     return rf"{date} 10:15:30: Delete C:\{word}.txt"
-
-
-@contextlib.contextmanager
-def held(folder, wine, file):
-    """A second process holds the file while this lasts."""
-    mark = folder.path / "held"
-    process = subprocess.Popen(
-        ["wine", str(tools_folder() / "ordalyn_e2e_hold.exe"), windows_path(file),
-         windows_path(mark)],
-        env=wine.environment(), stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-        stderr=subprocess.DEVNULL)
-    try:
-        wait_until(lambda: mark.exists() or process.poll() is not None, "the second process", 30)
-        assert process.poll() is None, f"the file cannot be held: {process.returncode}"
-        yield
-    finally:
-        mark.unlink(missing_ok=True)
-        process.wait(30)
-    assert process.returncode == 0
 
 
 def confirm_error(app, path):

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Attempt.h"
 #include "base/Errors.h"
 #include "base/Text.h"
 #include "platform/Wildcard.h"
@@ -112,6 +113,15 @@ DWORD AttributesOfReplaceable(const std::wstring& target, const std::string& pat
     return kept == 0 ? FILE_ATTRIBUTE_NORMAL : kept;
 }
 
+// Whether this user has such rights to a file or folder, even if somebody who does not share holds
+// it now. Nothing of it changes by being opened.
+bool HasRights(const std::wstring& path, DWORD rights, DWORD flags) {
+    const FileHandle opened(
+        CreateFileW(path.c_str(), rights, kFullSharing, nullptr, OPEN_EXISTING, flags, nullptr));
+    const DWORD error = GetLastError();
+    return opened || error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
+}
+
 }  // namespace
 
 std::unique_ptr<ReadableFile> Win32Files::OpenForReading(std::string_view path) {
@@ -162,6 +172,37 @@ void Win32Files::Replace(std::string_view path, std::string_view bytes) {
     Replacement replacement(target, name, AttributesOfReplaceable(target, name));
     replacement.Write(bytes);
     replacement.TakePlace();
+}
+
+bool Win32Files::CanWrite(std::string_view path) {
+    const std::wstring target = ToFullPath(path);
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
+    // A folder cannot be opened so. Nor can a file with the read-only attribute, but Wine lets its
+    // administrator do that.
+    if (isThere &&
+        ((attributes & FILE_ATTRIBUTE_READONLY) != 0 || !HasRights(target, GENERIC_WRITE, 0)))
+        return false;
+    const std::wstring folder = target.substr(0, target.rfind(L'\\') + 1);
+    if (!HasRights(folder, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS))
+        return false;
+    // A right does not mean that it works: the volume may be write-protected, or a guard against
+    // blackmail may step in. A file that is there has been opened for writing in spite of them;
+    // where there is none, only making one shows it.
+    return isThere || Attempt([&] {
+               const Replacement trial(target, std::string(path),
+                                       FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE);
+           });
+}
+
+void Win32Files::MakeFolder(std::string_view path) {
+    const std::wstring folder = ToPath(path);
+    if (CreateDirectoryW(folder.c_str(), nullptr))
+        return;
+    const DWORD error = GetLastError();
+    const DWORD attributes = GetFileAttributesW(folder.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+        throw FileError(std::string(path), error);
 }
 
 }  // namespace ordalyn::win32

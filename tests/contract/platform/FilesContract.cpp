@@ -244,6 +244,57 @@ TEST_P(FilesContract, ReplaceCannotWriteIntoAMissingFolderOrOverAFolder) {
     EXPECT_THAT(Files().List(System().Folder(), "*"), IsEmpty());
 }
 
+TEST_P(FilesContract, AFileCanBeWrittenUnlessItIsProtected) {
+    System().SetBytes("a.ini", "text");
+    EXPECT_TRUE(Files().CanWrite(System().Path("A.INI")));
+    System().WriteProtect("a.ini", true);
+    EXPECT_FALSE(Files().CanWrite(System().Path("a.ini")));
+    System().WriteProtect("a.ini", false);
+    EXPECT_TRUE(Files().CanWrite(System().Path("a.ini")));
+}
+
+TEST_P(FilesContract, AFileThatAnotherHoldsCanStillBeWritten) {
+    System().SetBytes("a.ini", "text");
+    const std::shared_ptr<void> lock = System().Lock("a.ini");
+    EXPECT_TRUE(Files().CanWrite(System().Path("a.ini")));
+}
+
+TEST_P(FilesContract, AFileThatIsNotThereCanBeWrittenWhereItCanBeMade) {
+    System().AddFolder("folder");
+    EXPECT_TRUE(Files().CanWrite(System().Path("new.ini")));
+    EXPECT_TRUE(Files().CanWrite(System().Path("folder\\new.ini")));
+    EXPECT_FALSE(Files().CanWrite(System().Path("none\\new.ini")));
+    EXPECT_FALSE(Files().CanWrite(System().Path("a|b")));
+    EXPECT_FALSE(Files().CanWrite(System().Path("folder")));
+    EXPECT_FALSE(Files().CanWrite(""));
+}
+
+TEST_P(FilesContract, AskingWhetherAFileCanBeWrittenChangesNothing) {
+    System().SetBytes("a.ini", "text");
+    System().MakeOld("a.ini");
+    EXPECT_TRUE(Files().CanWrite(System().Path("a.ini")));
+    EXPECT_TRUE(Files().CanWrite(System().Path("b.ini")));
+    EXPECT_TRUE(System().IsOld("a.ini"));
+    EXPECT_EQ(System().Bytes("a.ini"), "text");
+    EXPECT_THAT(Files().List(System().Folder(), "*"), ElementsAre("a.ini"));
+}
+
+TEST_P(FilesContract, AFolderIsMadeOnce) {
+    Files().MakeFolder(System().Path("folder"));
+    EXPECT_TRUE(Files().Exists(System().Path("folder\\*")));
+    System().SetBytes("folder\\a.ini", "text");
+    Files().MakeFolder(System().Path("FOLDER"));
+    EXPECT_EQ(System().Bytes("folder\\a.ini"), "text");
+}
+
+TEST_P(FilesContract, AFolderCannotBeMadeInNoneOrInThePlaceOfAFile) {
+    System().SetBytes("file", "text");
+    EXPECT_THROW(Files().MakeFolder(System().Path("none\\folder")), FileError);
+    EXPECT_THROW(Files().MakeFolder(System().Path("file")), FileError);
+    EXPECT_THROW(Files().MakeFolder(""), FileError);
+    EXPECT_EQ(System().Bytes("file"), "text");
+}
+
 TEST_P(FilesContract, PathsLongerThanTheOrdinaryLimitWork) {
     std::string folder;
     for (int depth = 0; depth < 6; ++depth) {

@@ -33,6 +33,9 @@ class MemorySubject : public Subject {
     void WriteProtect(std::string_view name, bool isProtected) override {
         system_.files.FailWriting(Path(name), isProtected);
     }
+    // There are no dates in memory.
+    void MakeOld(std::string_view name) override { EXPECT_TRUE(Bytes(name).has_value()); }
+    bool IsOld(std::string_view name) override { return Bytes(name).has_value(); }
     std::shared_ptr<void> Lock(std::string_view name) override {
         system_.files.Lock(Path(name));
         return {nullptr, [this, path = Path(name)](void*) { system_.files.Lock(path, false); }};

@@ -33,6 +33,9 @@ class Subject {
     virtual void AddFolder(std::string_view name) = 0;
     virtual void Hide(std::string_view name) = 0;
     virtual void WriteProtect(std::string_view name, bool isProtected) = 0;
+    // Gives the file a date of long ago; whether it still has it.
+    virtual void MakeOld(std::string_view name) = 0;
+    virtual bool IsOld(std::string_view name) = 0;
     // Opens the file without sharing until the answer is destroyed.
     virtual std::shared_ptr<void> Lock(std::string_view name) = 0;
     // The folder becomes the current one until the answer is destroyed.

@@ -13,6 +13,8 @@ using win32::FromWide;
 using win32::ToPath;
 using win32::ToWide;
 
+// In the year 2001.
+constexpr FILETIME kLongAgo{0, 0x01C10000};
 constexpr const wchar_t* kRegistryKey = L"Software\\OrdalynContract";
 
 // Removes a folder with all that is in it.
@@ -98,6 +100,17 @@ class WindowsSubject : public Subject {
         EXPECT_TRUE(SetFileAttributesW(ToPath(Path(name)).c_str(), isProtected
                                                                        ? FILE_ATTRIBUTE_READONLY
                                                                        : FILE_ATTRIBUTE_NORMAL));
+    }
+    void MakeOld(std::string_view name) override {
+        const HANDLE file = CreateFileW(ToPath(Path(name)).c_str(), FILE_WRITE_ATTRIBUTES, 0,
+                                        nullptr, OPEN_EXISTING, 0, nullptr);
+        EXPECT_TRUE(SetFileTime(file, nullptr, nullptr, &kLongAgo)) << GetLastError();
+        CloseHandle(file);
+    }
+    bool IsOld(std::string_view name) override {
+        WIN32_FILE_ATTRIBUTE_DATA data{};
+        EXPECT_TRUE(GetFileAttributesExW(ToPath(Path(name)).c_str(), GetFileExInfoStandard, &data));
+        return CompareFileTime(&data.ftLastWriteTime, &kLongAgo) == 0;
     }
     std::shared_ptr<void> Lock(std::string_view name) override {
         const HANDLE file = CreateFileW(ToPath(Path(name)).c_str(), GENERIC_READ | GENERIC_WRITE, 0,

@@ -100,6 +100,10 @@ bool MemoryFiles::IsFolder(std::string_view path) const {
     return folders_.count(Key(FullPath(path))) > 0;
 }
 
+bool MemoryFiles::IsProtected(std::string_view fullFolder) const {
+    return protectedFolders_.count(Key(fullFolder)) > 0;
+}
+
 std::unique_ptr<platform::ReadableFile> MemoryFiles::OpenForReading(std::string_view path) {
     if (path.empty())
         throw FileError("", kPathNotFound);
@@ -175,9 +179,29 @@ void MemoryFiles::Replace(std::string_view path, std::string_view bytes) {
     const File* file = Find(path);
     if (file != nullptr && file->locked)
         throw FileError(std::string(path), kSharingViolation);
-    if (file != nullptr && file->readOnly)
+    if ((file != nullptr && file->readOnly) || IsProtected(SplitPath(fullPath).folder))
         throw FileError(std::string(path), kAccessDenied);
     Set(path, bytes);
+}
+
+bool MemoryFiles::CanWrite(std::string_view path) {
+    const std::string fullPath = FullPath(path);
+    const auto [folder, name] = SplitPath(fullPath);
+    const bool isName = !path.empty() && name.find_first_of("*?|<>\":") == std::string::npos;
+    const File* file = Find(path);
+    return isName && IsFolder(folder) && !IsProtected(folder) && !IsFolder(path) &&
+           (file == nullptr || !file->readOnly);
+}
+
+void MemoryFiles::MakeFolder(std::string_view path) {
+    if (!path.empty() && IsFolder(path))
+        return;
+    const std::string parent = SplitPath(FullPath(path)).folder;
+    if (path.empty() || !IsFolder(parent))
+        throw FileError(std::string(path), kPathNotFound);
+    if (IsProtected(parent) || Find(path) != nullptr)
+        throw FileError(std::string(path), kAccessDenied);
+    AddFolder(path);
 }
 
 void MemoryFiles::Set(std::string_view path, std::string_view bytes) {
@@ -246,6 +270,14 @@ void MemoryFiles::FailWriting(std::string_view path, bool fails) {
     if (Find(path) == nullptr)
         Set(path, "");
     Find(path)->readOnly = fails;
+}
+
+void MemoryFiles::ProtectFolder(std::string_view path, bool isProtected) {
+    const std::string key = Key(FullPath(path));
+    if (isProtected)
+        protectedFolders_.insert(key);
+    else
+        protectedFolders_.erase(key);
 }
 
 }  // namespace ordalyn::test

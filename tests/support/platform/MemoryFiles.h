@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,8 @@ class MemoryFiles : public platform::Files {
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
     void Replace(std::string_view path, std::string_view bytes) override;
+    bool CanWrite(std::string_view path) override;
+    void MakeFolder(std::string_view path) override;
 
     // What other programs do. Missing folders on the way to a new file are made.
     void Set(std::string_view path, std::string_view bytes);
@@ -42,6 +45,8 @@ class MemoryFiles : public platform::Files {
     void FailReadingAfter(std::string_view path, std::size_t count);
     // Replace and the profile calls' writes fail.
     void FailWriting(std::string_view path, bool fails = true);
+    // The user has no right to make anything in that folder, nor to replace a file there.
+    void ProtectFolder(std::string_view path, bool isProtected = true);
     // Called with the full path just before a file is opened, so that a test can change it between
     // two openings.
     std::function<void(const std::string& path)> onOpen;
@@ -65,10 +70,12 @@ class MemoryFiles : public platform::Files {
     File* Find(std::string_view path);
     const File* Find(std::string_view path) const;
     bool IsFolder(std::string_view path) const;
+    bool IsProtected(std::string_view fullFolder) const;
     bool ExistsMatching(std::string_view folder, std::string_view pattern) const;
 
     std::map<std::string, File> files_;           // by folded full path
     std::map<std::string, std::string> folders_;  // folded full path -> as first written
+    std::set<std::string> protectedFolders_;      // folded full paths
     std::string currentFolder_ = "C:\\Work";
 };
 

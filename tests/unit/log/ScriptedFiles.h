@@ -71,6 +71,8 @@ class ScriptedFiles : public platform::Files {
     void Replace(std::string_view path, std::string_view bytes) override {
         Put(std::string(path), std::string(bytes));
     }
+    bool CanWrite(std::string_view) override { return true; }
+    void MakeFolder(std::string_view path) override { AddFolder(std::string(path)); }
 
   private:
     class File : public platform::ReadableFile {

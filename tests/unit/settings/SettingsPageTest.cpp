@@ -73,8 +73,13 @@ std::string Page() {
     std::ostringstream page;
     page
         << "# The settings file\n\n"
-           "`Ordalyn.ini` in the program's folder holds the settings. It is an INI file; a file or "
-           "an entry\nthat does not exist gives the defaults below. Flags are 0 (off) or 1 (on), "
+           "`Ordalyn.ini` in the program's folder holds the settings. Where that folder or the "
+           "file "
+           "cannot be\nwritten it is `%APPDATA%\\Ordalyn\\Ordalyn.ini`, which begins as a copy of "
+           "the "
+           "former; where neither can be\nwritten, the former is read and nothing is kept "
+           "(`src/hostconfig/SettingsPlace.cpp`). It is an INI file; a file\nor an entry that does "
+           "not exist gives the defaults below. Flags are 0 (off) or 1 (on), "
            "colours are 32-bit\nnumbers `0x00BBGGRR` in decimal or, when negative, the system "
            "colour of that index. An empty entry\nof a number counts as 0; one that is no number "
            "keeps the settings from being loaded any further.\nPaths may begin with "
