@@ -1,6 +1,6 @@
 #include "win32/controls/Desktop.h"
 
-#include "win32/common/Handles.h"
+#include "win32/common/SystemLibraries.h"
 
 namespace ordalyn::win32 {
 
@@ -12,12 +12,9 @@ namespace {
 // nobody sees it.
 FrameMargins MeasureMargins(HINSTANCE program, bool resizable) {
     constexpr DWORD kExtendedFrameBounds = 9;
-    using GetAttribute = HRESULT(WINAPI*)(HWND, DWORD, void*, DWORD);
-    const Library library(LoadLibraryW(L"dwmapi.dll"));
-    if (!library)
-        return {};
-    const auto getAttribute =
-        reinterpret_cast<GetAttribute>(GetProcAddress(library.Get(), "DwmGetWindowAttribute"));
+    using GetAttribute = HRESULT WINAPI(HWND, DWORD, void*, DWORD);
+    const Library library = LoadSystemLibrary(L"dwmapi.dll");
+    auto* const getAttribute = FunctionOf<GetAttribute>(library, "DwmGetWindowAttribute");
     FrameMargins margins;
     if (getAttribute != nullptr) {
         const DWORD frame = resizable ? DWORD{WS_THICKFRAME} : 0;

@@ -1,14 +1,32 @@
 #include "win32/drawing/Colors.h"
 
-// after windows.h
-#include <uxtheme.h>
+#include "win32/common/SystemLibraries.h"
 
 namespace ordalyn::win32 {
 
 namespace {
 
+// The system's themes. No Windows protects the name of this library, so that it is not among those
+// that the program is linked with.
+struct Themes {
+    using Question = BOOL WINAPI();
+    using Properties = DWORD WINAPI();
+    const Library library = LoadSystemLibrary(L"uxtheme.dll");
+    Question* const isActive = FunctionOf<Question>(library, "IsThemeActive");
+    Question* const isAppThemed = FunctionOf<Question>(library, "IsAppThemed");
+    Properties* const properties = FunctionOf<Properties>(library, "GetThemeAppProperties");
+
+    bool AllowControls() const {
+        constexpr DWORD kAllowControls = 2;
+        if (isActive == nullptr || isAppThemed == nullptr || properties == nullptr)
+            return false;
+        return isActive() != 0 && isAppThemed() != 0 && (properties() & kAllowControls) != 0;
+    }
+};
+
 bool ControlsAreThemed() {
-    return IsThemeActive() && IsAppThemed() && (GetThemeAppProperties() & STAP_ALLOW_CONTROLS) != 0;
+    static const Themes themes;
+    return themes.AllowControls();
 }
 
 }  // namespace

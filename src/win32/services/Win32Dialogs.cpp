@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
+#include <cstring>
 
 #include "win32/common/Scale.h"
+#include "win32/common/SystemLibraries.h"
 #include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
@@ -96,20 +97,20 @@ std::optional<Dialogs::FontAnswer> Win32Dialogs::ChooseFont(const FontRequest& r
 }
 
 int Win32Dialogs::LibraryMajorVersion() {
-    constexpr const wchar_t* kLibrary = L"comdlg32.dll";
-    DWORD ignored = 0;
-    const DWORD size = GetFileVersionInfoSizeW(kLibrary, &ignored);
-    if (size == 0)
+    // Read from the library that is loaded, not from a file that has its name.
+    const Library library = LoadSystemLibrary(L"comdlg32.dll");
+    if (!library)
         return 0;
-    std::vector<BYTE> resource(size);
-    if (!GetFileVersionInfoW(kLibrary, 0, size, resource.data()))
+    const HRSRC found = FindResourceW(library.Get(), MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
+    const HGLOBAL resource = found == nullptr ? nullptr : LoadResource(library.Get(), found);
+    const void* const data = resource == nullptr ? nullptr : LockResource(resource);
+    // The fixed part stands behind three lengths and the name, at the next multiple of four bytes.
+    constexpr std::size_t kFixedPart = 40;
+    VS_FIXEDFILEINFO fixed = {};
+    if (data == nullptr || SizeofResource(library.Get(), found) < kFixedPart + sizeof fixed)
         return 0;
-    void* data = nullptr;
-    UINT length = 0;
-    if (!VerQueryValueW(resource.data(), L"\\", &data, &length) ||
-        length < sizeof(VS_FIXEDFILEINFO))
-        return 0;
-    return HIWORD(static_cast<const VS_FIXEDFILEINFO*>(data)->dwFileVersionMS);
+    std::memcpy(&fixed, static_cast<const BYTE*>(data) + kFixedPart, sizeof fixed);
+    return fixed.dwSignature == VS_FFI_SIGNATURE ? HIWORD(fixed.dwFileVersionMS) : 0;
 }
 
 }  // namespace ordalyn::win32
