@@ -14,23 +14,6 @@ fail() {
     exit 1
 }
 
-# Everything that a Windows of the last twenty years brings along; nothing else may be needed.
-readonly SYSTEM_LIBRARIES='advapi32 comctl32 comdlg32 gdi32 kernel32 msvcrt ole32 oleaut32 shell32
-    shlwapi user32 uxtheme version'
-
-check_program() {
-    local program=$1 objdump=$2 architecture=$3 library
-    for library in $("$objdump" -p "$program" | sed -n 's/.*DLL Name: //p' |
-        tr '[:upper:]' '[:lower:]'); do
-        grep -qw -- "${library%.dll}" <<<"$SYSTEM_LIBRARIES" ||
-            fail "$program needs $library, which is no part of Windows"
-    done
-    grep -aq "processorArchitecture=\"$architecture\"" "$program" ||
-        fail "$program has no manifest for \"$architecture\""
-    grep -aqP 'V\x00S\x00_\x00V\x00E\x00R\x00S\x00I\x00O\x00N\x00' "$program" ||
-        fail "$program has no version resource"
-}
-
 # Compiles the help sources, when the tree has them: help/NAME.hhp becomes NAME.chm.
 build_help() {
     local target=$1 project name
@@ -53,7 +36,8 @@ build_folder() {
     # Settings that a user of the folder has made stay.
     mkdir -p "$target"
     "$tools-strip" -o "$target/Ordalyn.exe" "$program"
-    check_program "$target/Ordalyn.exe" "$tools-objdump" "$architecture"
+    /usr/bin/python3 -B tools/check_program.py "$target/Ordalyn.exe" "$architecture" ||
+        fail "$target/Ordalyn.exe is not fit to be given to anybody"
     rm -rf "$target/Languages"
     if compgen -G 'languages/*.lng' >/dev/null; then
         mkdir "$target/Languages"

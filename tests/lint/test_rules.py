@@ -144,3 +144,48 @@ def test_shell_scripts_are_clean():
     done = subprocess.run(["shellcheck", "-x", *scripts], stdout=subprocess.PIPE, cwd=PROJECT,
                           check=False)
     assert done.stdout.decode() == ""
+
+
+# What starts programs or loads libraries, and which files may.
+STARTING = re.compile(r"\b(?:Shell_?Execute\w*|CreateProcess\w*|WinExec|_?w?system|_?w?popen|"
+                      r"_?w?(?:spawn|exec)[lv]p?e?|fork)\s*\(")
+LOADING = re.compile(r"\b(?:LoadLibrary\w*|LoadPackagedLibrary|LoadModule|LdrLoadDll|CoCreateInstance\w*|"
+                     r"CoGetClassObject|CLSIDFromProgID|dlopen)\s*\(|GetModuleHandle\w*\((?!nullptr\))")
+# Calls that take a text with places for values in it.
+FORMATTING = re.compile(r"\b\w*(?:printf|scanf)\w*\s*\(|\bFormatMessage[AW]?\s*\(|"
+                        r"\bstd::v?format\w*\s*\(")
+
+
+def calls(pattern, folder="src"):
+    """file -> how many calls of it match."""
+    found = {name(file): len(pattern.findall(without_comments(text(file)))) for file in code(folder)}
+    return {file: count for file, count in found.items() if count}
+
+
+def test_one_place_starts_other_programs():
+    assert calls(STARTING) == {"src/win32/services/Win32Shell.cpp": 1}
+
+
+def test_one_place_loads_libraries():
+    # A look at the system's first library, which is in every process, and the load by a whole path.
+    assert calls(LOADING) == {"src/win32/common/SystemLibraries.cpp": 2}
+
+
+def test_no_text_is_a_format():
+    assert calls(FORMATTING) == {}
+
+
+@pytest.mark.parametrize("pattern, call", [
+    (STARTING, "::ShellExecuteExW(&info)"), (STARTING, "CreateProcessW(a"), (STARTING, "system (a)"),
+    (STARTING, "_wspawnl(a"), (LOADING, "LoadLibraryExW(a"), (LOADING, 'GetModuleHandleW(L"a")'),
+    (LOADING, "CoCreateInstance(a"), (FORMATTING, "std::snprintf(a"), (FORMATTING, "wsprintfW(a"),
+    (FORMATTING, "swprintf(a"), (FORMATTING, "printf(a"), (FORMATTING, "std::vformat(a"),
+    (FORMATTING, "FormatMessageW(a")])
+def test_such_calls_are_noticed(pattern, call):
+    assert pattern.search(call)
+
+
+def test_the_first_thing_a_process_does_is_to_mind_where_libraries_come_from():
+    entry = without_comments(text(PROJECT / "src/win32/entry/WinMain.cpp"))
+    body = entry[entry.index("{", entry.index("wWinMain")) + 1:]
+    assert body.split(";")[0].strip() == "ordalyn::win32::FindLibrariesInSystemFolderOnly()"
