@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/ShellTarget.h"
+
 namespace ordalyn::platform {
 
 // The system's calls for INI files, in one of two forms. The 8-bit form takes and gives bytes in
@@ -129,7 +131,7 @@ class Shell {
     virtual ~Shell() = default;
     // Opens a document or address with the program that the user has chosen for it. Failures are
     // not reported.
-    virtual void Open(WindowHandle owner, std::string_view target) = 0;
+    virtual void Open(WindowHandle owner, const ShellTarget& target) = 0;
 };
 
 class Clipboard {

@@ -26,10 +26,10 @@ class ComScope {
 
 }  // namespace
 
-void Win32Shell::Open(platform::WindowHandle owner, std::string_view target) {
+void Win32Shell::Open(platform::WindowHandle owner, const platform::ShellTarget& target) {
     const ComScope com;
-    ShellExecuteW(reinterpret_cast<HWND>(owner), L"open", ToWide(target).c_str(), nullptr, nullptr,
-                  SW_SHOWNORMAL);
+    ShellExecuteW(reinterpret_cast<HWND>(owner), L"open", ToWide(target.Text()).c_str(), nullptr,
+                  nullptr, SW_SHOWNORMAL);
 }
 
 }  // namespace ordalyn::win32

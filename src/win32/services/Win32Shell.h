@@ -7,7 +7,7 @@ namespace ordalyn::win32 {
 
 class Win32Shell : public platform::Shell {
   public:
-    void Open(platform::WindowHandle owner, std::string_view target) override;
+    void Open(platform::WindowHandle owner, const platform::ShellTarget& target) override;
 };
 
 }  // namespace ordalyn::win32

@@ -6,13 +6,14 @@
 
 namespace ordalyn {
 
-namespace {}  // namespace
-
 std::string HelpFile(const HelpSurroundings& around) {
     std::string common = around.programFolder + "Readme.chm";
     if (around.useDefaultLanguage)
         return common;
     const std::string name = GetFileBaseName(GetFileName(around.languageFile));
+    // A name that would lead out of the folder is none of a file in it.
+    if (name.find_first_of("/:") != std::string::npos)
+        return common;
     const std::string own = around.programFolder + "Readme " + name + ".chm";
     return around.files.Exists(own) ? own : common;
 }
@@ -24,7 +25,7 @@ void ShowHelp(const HelpSurroundings& around, toolkit::Form& ownerForm) {
                                    mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
         return;
     }
-    around.shell.Open(ownerForm.Handle(), path);
+    around.shell.Open(ownerForm.Handle(), platform::ShellTarget::HelpFile(path));
 }
 
 }  // namespace ordalyn

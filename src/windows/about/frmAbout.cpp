@@ -132,7 +132,9 @@ frmAbout::frmAbout(toolkit::Toolkit& toolkit, platform::Shell& shell, const Text
     underlined.underline = true;
     lblURL.SetFont(underlined);
     lblURL.SetMousePointer(toolkit::Pointer::Hand);
-    lblURL.Click.Subscribe([this, &shell] { shell.Open(Handle(), publisher::kHomePage); });
+    lblURL.Click.Subscribe([this, &shell] {
+        shell.Open(Handle(), platform::ShellTarget::Page(publisher::kHomePage));
+    });
     cmdOK.Click.Subscribe([this] { Unload(); });
 }
 

@@ -63,6 +63,30 @@ class Presser {
     std::thread thread_;
 };
 
+// The default value of a key below HKEY_CLASSES_ROOT.
+std::wstring Class(const wchar_t* key) {
+    wchar_t value[MAX_PATH] = {};
+    LONG size = sizeof value;
+    return RegQueryValueW(HKEY_CLASSES_ROOT, key, value, &size) == ERROR_SUCCESS ? value : L"";
+}
+
+void SetClass(const wchar_t* key, const std::wstring& value) {
+    ASSERT_EQ(RegSetValueW(HKEY_CLASSES_ROOT, key, REG_SZ, value.c_str(), 0), ERROR_SUCCESS);
+}
+
+class ClassOfHelpFiles {
+  public:
+    explicit ClassOfHelpFiles(const wchar_t* now) : before_(Class(L".chm")) {
+        SetClass(L".chm", now);
+    }
+    ~ClassOfHelpFiles() { SetClass(L".chm", before_); }
+    ClassOfHelpFiles(const ClassOfHelpFiles&) = delete;
+    ClassOfHelpFiles& operator=(const ClassOfHelpFiles&) = delete;
+
+  private:
+    std::wstring before_;
+};
+
 int CALLBACK TakeTrueType(const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM found) {
     if (!(type & TRUETYPE_FONTTYPE) || font->lfFaceName[0] == L'@')
         return 1;
@@ -230,8 +254,13 @@ TEST_F(DialogsOnWindows, EachLiesAboveItsOwner) {
 }
 
 TEST_F(DialogsOnWindows, TheShellOpensADocumentWithItsProgram) {
-    System().SetBytes("open.bat", "@echo opened> \"%~dp0opened.txt\"\r\n");
-    System().Services().shell.Open(0, System().Path("open.bat"));
+    // Help files have a program of the test's own for a moment.
+    const ClassOfHelpFiles ours(L"ordalyn.test");
+    const std::string command = "cmd.exe /c echo opened> \"" + System().Path("opened.txt") + "\"";
+    SetClass(L"ordalyn.test\\shell\\open\\command", win32::ToWide(command));
+    System().SetBytes("Read & me.chm", "");
+    System().Services().shell.Open(0,
+                                   platform::ShellTarget::HelpFile(System().Path("Read & me.chm")));
     for (int poll = 0; poll < kPolls && System().Bytes("opened.txt").value_or("").empty(); ++poll)
         Sleep(kPollMilliseconds);
     EXPECT_THAT(System().Bytes("opened.txt").value_or(""), testing::StartsWith("opened"));
@@ -239,7 +268,8 @@ TEST_F(DialogsOnWindows, TheShellOpensADocumentWithItsProgram) {
 
 TEST_F(DialogsOnWindows, WhatTheShellCannotOpenIsNoError) {
     const Presser confirm(IDOK);
-    EXPECT_NO_THROW(System().Services().shell.Open(0, System().Path("none.exe")));
+    EXPECT_NO_THROW(System().Services().shell.Open(
+        0, platform::ShellTarget::HelpFile(System().Path("none.chm"))));
     EXPECT_FALSE(confirm.SawDialog());
 }
 

@@ -132,8 +132,8 @@ std::optional<std::string> MemoryLocale::LongDate(std::string_view text) {
            ", " + std::to_string(date->year);
 }
 
-void MemoryShell::Open(platform::WindowHandle owner, std::string_view target) {
-    opened.emplace_back(owner, target);
+void MemoryShell::Open(platform::WindowHandle owner, const platform::ShellTarget& target) {
+    opened.emplace_back(owner, target.Text());
 }
 
 bool MemoryClipboard::Clear() {

@@ -48,7 +48,7 @@ class MemoryLocale : public platform::Locale {
 class MemoryShell : public platform::Shell {
   public:
     std::vector<std::pair<platform::WindowHandle, std::string>> opened;
-    void Open(platform::WindowHandle owner, std::string_view target) override;
+    void Open(platform::WindowHandle owner, const platform::ShellTarget& target) override;
 };
 
 class MemoryClipboard : public platform::Clipboard {

@@ -72,10 +72,10 @@ TEST(MemoryPlatform, RemovedVariablesAreUndefined) {
 
 TEST(MemoryPlatform, OpenedTargetsAreRecorded) {
     MemoryPlatform system;
-    system.services.shell.Open(7, "Readme.chm");
+    system.services.shell.Open(7, platform::ShellTarget::HelpFile("C:\\Readme.chm"));
     ASSERT_EQ(system.shell.opened.size(), 1U);
     EXPECT_EQ(system.shell.opened[0].first, 7U);
-    EXPECT_EQ(system.shell.opened[0].second, "Readme.chm");
+    EXPECT_EQ(system.shell.opened[0].second, "C:\\Readme.chm");
 }
 
 TEST(MemoryPlatform, DialogsAreCancelledUnlessTheTestAnswers) {

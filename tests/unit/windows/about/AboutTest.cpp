@@ -81,6 +81,16 @@ TEST_F(Help, ALanguageFileWithoutAnExtensionGivesItsWholeName) {
     EXPECT_EQ(HelpFile(help), "C:\\Ordalyn\\Readme Suomi.chm");
 }
 
+TEST_F(Help, ALanguageFileThatLeadsElsewhereGivesTheCommonFile) {
+    system.files.Set("C:\\Ordalyn\\Readme.chm", "x");
+    help.useDefaultLanguage = false;
+    for (const std::string name : {"x/../../evil", "x:evil"}) {
+        system.files.Set("C:\\Ordalyn\\Readme " + name + ".chm", "x");
+        help.languageFile = "C:\\Ordalyn\\Languages\\" + name + ".lng";
+        EXPECT_EQ(HelpFile(help), "C:\\Ordalyn\\Readme.chm") << name;
+    }
+}
+
 TEST_F(Help, SaysThatTheFileIsMissingWithoutNamingIt) {
     ShowHelp(help, owner);
     ASSERT_EQ(tools.messages.size(), 1U);
