@@ -47,7 +47,7 @@ bool Begin(platform::Files& files, std::string_view file, std::string_view besid
 
 std::string PlaceOfSettings(const platform::Services& services, std::string_view programFolder) {
     platform::Files& files = services.files;
-    const std::string besideProgram = std::string(programFolder).append(kFileName);
+    std::string besideProgram = std::string(programFolder).append(kFileName);
     if (files.CanWrite(besideProgram))
         return besideProgram;
     const std::string userFolder = UserFolder(services.environment);
