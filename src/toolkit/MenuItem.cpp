@@ -7,7 +7,7 @@
 namespace ordalyn::toolkit {
 
 MenuItem::MenuItem(Form& form, MenuItem* parent, std::string_view name, std::string_view caption)
-    : form_(form), parent_(parent), name_(name), caption_(caption) {}
+    : form_(form), parent_(parent), name_(name), caption_(caption), separator_(caption == "-") {}
 
 void MenuItem::Update() {
     form_.formPeer().UpdateMenuItem(*this);

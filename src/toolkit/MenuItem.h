@@ -13,7 +13,8 @@ namespace ordalyn::toolkit {
 
 class Form;
 
-// A caption "-" is a separator.
+// An item that is made with the caption "-" is a separator; no text that it is given later makes it
+// one.
 class MenuItem {
   public:
     MenuItem(Form& form, MenuItem* parent, std::string_view name, std::string_view caption);
@@ -39,7 +40,7 @@ class MenuItem {
     void SetKeyHint(std::string_view hint);
     // What stands right of the caption: the hint, or else the text of the shortcut.
     std::string KeyText() const;
-    bool IsSeparator() const { return caption_ == "-"; }
+    bool IsSeparator() const { return separator_; }
 
     MenuItem* Parent() const { return parent_; }
     const std::vector<std::unique_ptr<MenuItem>>& Items() const { return items_; }
@@ -58,6 +59,7 @@ class MenuItem {
     std::string name_;
     std::string tag_;
     std::string caption_;
+    bool separator_;
     bool checked_ = false;
     bool enabled_ = true;
     bool visible_ = true;

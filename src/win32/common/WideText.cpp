@@ -21,6 +21,13 @@ std::wstring WideForDisplay(std::string_view text) {
     return wide;
 }
 
+std::wstring WideForOneLine(std::string_view text) {
+    std::wstring wide = ToWide(text);
+    std::replace_if(
+        wide.begin(), wide.end(), [](wchar_t unit) { return unit < L' '; }, L' ');
+    return wide;
+}
+
 std::string TextOf(HWND window) {
     const int length = GetWindowTextLengthW(window);
     std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');

@@ -13,6 +13,9 @@ std::string FromWide(std::wstring_view text);
 
 // For texts that the system shows: it takes U+0000 for the end, so that it becomes a blank.
 std::wstring WideForDisplay(std::string_view text);
+// For menus and status bars, where a tab and the like are orders: what stands behind one is shown
+// as the keys of a menu item, or in the middle of a panel. Here they are blanks.
+std::wstring WideForOneLine(std::string_view text);
 
 std::string TextOf(HWND window);
 

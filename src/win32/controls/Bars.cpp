@@ -70,7 +70,7 @@ void StatusBarWindow::SetPanelCount(int count) {
 void StatusBarWindow::SetPanel(int index, std::string_view text, Twips width, Bevel bevel) {
     Panel& panel = panels_.at(static_cast<std::size_t>(index));
     const bool moved = panel.width != width;
-    panel = {WideForDisplay(text), width, bevel};
+    panel = {WideForOneLine(text), width, bevel};
     if (moved)
         ShowParts();
     ShowText(static_cast<std::size_t>(index));

@@ -29,7 +29,7 @@ void LastHandler::Report() noexcept {
     ReleaseCapture();
     constexpr UINT kLook = MB_OK | MB_ICONERROR | MB_TASKMODAL;
     try {
-        MessageBoxW(GetActiveWindow(), ToWide(Describe()).c_str(), L"Ordalyn", kLook);
+        MessageBoxW(GetActiveWindow(), WideForDisplay(Describe()).c_str(), L"Ordalyn", kLook);
     } catch (...) {
         // There is no memory for the error's own words.
         MessageBoxW(nullptr, L"Out of memory", L"Ordalyn", kLook);

@@ -147,7 +147,7 @@ void ToolBarWindow::OpenMenu(int index) {
             AppendMenuW(menu.Get(), MF_SEPARATOR, 0, nullptr);
         else
             AppendMenuW(menu.Get(), MF_STRING, static_cast<UINT_PTR>(id),
-                        WideForDisplay(CaptionShowing(entry.text)).c_str());
+                        WideForOneLine(CaptionShowing(entry.text)).c_str());
     }
     RECT button = {};
     Send(TB_GETRECT, static_cast<WPARAM>(index + 1), reinterpret_cast<LPARAM>(&button));

@@ -17,11 +17,11 @@ constexpr int kFirstId = 0x8000;
 constexpr int kLastId = 0xEFFF;  // above are the system's own
 
 std::wstring TextOfItem(const MenuItem& item) {
-    std::string text = item.Caption();
+    std::wstring text = WideForOneLine(item.Caption());
     const std::string keys = item.KeyText();
     if (!keys.empty())
-        text += "\t" + keys;
-    return WideForDisplay(text);
+        text += L"\t" + WideForOneLine(keys);
+    return text;
 }
 
 UINT StateOf(const MenuItem& item) {

@@ -15,7 +15,6 @@ using toolkit::Kind;
 
 // Always in English: the file that would translate it is the one that is missing.
 constexpr std::string_view kMissingLanguageFile = "Cannot find language file!";
-constexpr std::string_view kSeparator = "-";
 
 bool HasReadingOrder(Kind kind) {
     switch (kind) {
@@ -34,7 +33,7 @@ bool HasReadingOrder(Kind kind) {
 
 void FormLanguage::CopyMenuCaptionsToTags(const toolkit::Form& form) {
     for (toolkit::MenuItem* item : form.AllMenuItems()) {
-        if (item->Caption() != kSeparator)
+        if (!item->IsSeparator())
             item->SetTag(item->Caption());
     }
 }
@@ -96,7 +95,7 @@ void FormLanguage::ApplyToControl(toolkit::Control& control, bool rightToLeft) c
 }
 
 void FormLanguage::ApplyToMenuItem(toolkit::MenuItem& item) const {
-    if (item.Caption() != kSeparator)
+    if (!item.IsSeparator())
         item.SetCaption(TextOf(item.Tag()));
 }
 

@@ -43,6 +43,14 @@ TEST_F(MenuItemTest, TheTreeIsThatOfTheDesign) {
     EXPECT_THROW(form.Menu("mnuNone"), SubscriptOutOfRange);
 }
 
+TEST_F(MenuItemTest, ATextMakesNoSeparator) {
+    EXPECT_TRUE(form.Menu("mnuFileLine").IsSeparator());
+    open.SetCaption("-");
+    EXPECT_FALSE(open.IsSeparator());
+    EXPECT_FALSE(file.AddItem("mnuFileMore", "").IsSeparator());
+    EXPECT_TRUE(file.AddItem("mnuFileLine2", "-").IsSeparator());
+}
+
 TEST_F(MenuItemTest, ChoosingRaisesClick) {
     open.Choose();
     EXPECT_EQ(opened.Take(), 1);

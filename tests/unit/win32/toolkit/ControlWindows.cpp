@@ -252,6 +252,20 @@ TEST_F(Controls, StatusPanelsShowTextAndAreClicked) {
     EXPECT_EQ(clicked, 2);
 }
 
+TEST_F(Controls, AStatusPanelShowsAnyTextAsItIs) {
+    auto& bar = form.Get<StatusBar>("StatusBar1");
+    bar.AddPanel(1500);
+    bar.AddPanel(0);
+    const HWND window = Child(form, L"msctls_statusbar32");
+    for (const auto& [given, shown] : {std::pair("%n%s R&D && %i", L"%n%s R&D && %i"),
+                                       std::pair("\t\tat the edge", L"  at the edge")}) {
+        bar.SetPanelText(2, given);
+        wchar_t text[50] = {};
+        SendMessageW(window, SB_GETTEXTW, 1, reinterpret_cast<LPARAM>(text));
+        EXPECT_EQ(std::wstring(text), shown);
+    }
+}
+
 TEST_F(Controls, TabsAreToldWhenTheUserChoosesThem) {
     auto& tabs = form.Get<TabStrip>("tabs");
     tabs.AddTab("1");

@@ -41,6 +41,20 @@ TEST(FormWindow, ItsInsideHasTheDesignedSizeBelowTheMenu) {
     EXPECT_EQ(GetMenuItemCount(GetMenu(HandleOf(form))), 1);
 }
 
+TEST(FormWindow, ATextOfAMenuBringsNoKeysAndNoLineAlong) {
+    Form form(TheToolkit(), kDesign);
+    form.Show();
+    const HMENU file = GetSubMenu(GetMenu(HandleOf(form)), 0);
+    form.Menu("mnuOpen").SetCaption("%n%s\tCtrl+Q\bx");
+    EXPECT_EQ(MenuText(file, 0), L"%n%s Ctrl+Q x\tCtrl+O");
+    form.Menu("mnuRecent").SetCaption("R&&D\tDel");
+    TheToolkit().DoEvents();
+    EXPECT_EQ(MenuText(file, 1), L"R&&D Del");
+    form.Menu("mnuRecent").SetCaption("-");
+    EXPECT_EQ(MenuText(file, 1), L"-");
+    EXPECT_EQ(GetMenuState(file, 1, MF_BYPOSITION) & MF_SEPARATOR, 0U);
+}
+
 TEST(FormWindow, BoundsBetweenPixelsAreKeptAsTheyWereSet) {
     Form form(TheToolkit(), kDesign);
     const Rect odd{301, 302, 7003, 4004};

@@ -72,6 +72,16 @@ TEST_F(CopyMenuCaptionsToTags, EveryItemButSeparatorsKeepsItsId) {
     EXPECT_EQ(form.Menu("mnuBar").Caption(), "-");
 }
 
+TEST_F(ApplyLanguage, AMenuTextThatIsADashStaysATextAndGetsTheNextOne) {
+    UseLanguageFile("[UserLanguage]\r\n4020=-\r\n");
+    language.ApplyLanguage(form);
+    EXPECT_EQ(form.Menu("mnuViewRefresh").Caption(), "-");
+    EXPECT_FALSE(form.Menu("mnuViewRefresh").IsSeparator());
+    UseLanguageFile("[UserLanguage]\r\n4020=%n %s%i\r\n");
+    language.ApplyLanguage(form);
+    EXPECT_EQ(form.Menu("mnuViewRefresh").Caption(), "%n %s%i");
+}
+
 TEST_F(ApplyLanguage, CaptionedControlsGetTheTextOfTheirTag) {
     language.ApplyLanguage(form);
     EXPECT_EQ(form.Caption(), "Options");

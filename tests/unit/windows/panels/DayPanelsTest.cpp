@@ -115,6 +115,12 @@ TEST_F(DayPanelsTest, TheCountStandsWhereverItsMarkDoesInEitherCase) {
     EXPECT_EQ(Status(1), "2 (2) of 2 %d %  ");
 }
 
+TEST_F(DayPanelsTest, NothingElseInTheTextOfTheCountIsAMark) {
+    UseLanguageFile("4010=%n%s%s%1$s %% {} {0} $1 \\1 %i&");
+    Load({"01.03.2024 10:00:00: Copy a -> b"});
+    EXPECT_EQ(Status(1), "%n%s%s%1$s %% {} {0} $1 \\1 1&  ");
+}
+
 TEST_F(DayPanelsTest, PlainDatesInTheListGoWithLongOnesInTheStatusBar) {
     Load(kThreeDays);
     EXPECT_EQ(Dates().back(), "01.03.2024");
