@@ -1,6 +1,7 @@
 """What tools/check_program.py says of small programs, each of which lacks one thing."""
 
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -97,6 +98,14 @@ def test_the_tool_ends_with_an_error_and_names_the_program(tmp_path):
     assert done.returncode == 1
     assert done.stderr.decode() == (
         f"{tmp_path}/trial.exe: its data and its stack can be run as code\n")
+
+
+def test_the_page_names_the_libraries_that_the_program_may_link():
+    page = (PROJECT / "docs/security.md").read_text(encoding="utf-8")
+    linked = page[page.index("**Linked**"):page.index("These load before")]
+    named = set(re.findall(r"\b[a-z]+(?:32)?\b", linked))
+    # shlwapi may be linked, but is not.
+    assert check_program.KNOWN_LIBRARIES - named == {"shlwapi"}
 
 
 def test_every_program_that_is_handed_out_is_checked():
