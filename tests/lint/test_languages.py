@@ -38,8 +38,7 @@ TOGETHER = {
 SHARED_IN_ENGLISH = {("find dialog", "s"): {4003, 4016}}
 
 # These stand in front of a file name, a number or a word.
-COLON_WHERE_ENGLISH_HAS_IT = {254, 255, 1021, 1051, 1065, 1089, 1502, 1503, 1506, 1507, 3016, 4051, 4052,
-                               4053}
+COLON_WHERE_ENGLISH_HAS_IT = {254, 255, 1021, 1051, 1065, 1089, 1502, 1503, 1506, 1507, 3016, 4051, 4052}
 
 
 def built_in():
