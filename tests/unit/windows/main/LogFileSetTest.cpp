@@ -327,6 +327,12 @@ TEST_F(LogFileSetTest, OnlyAllFilesIsNamedInANewLanguage) {
     UseLanguageFile("4006=Alle Dateien");
     files.LanguageChanged();
     EXPECT_THAT(Files(), ElementsAre("Alle Dateien", "x.log", "x_old.log", "xa.log"));
+    // A list that nobody sees is made anew before it is seen.
+    cboFiles.SetVisible(false);
+    UseLanguageFile("4006=Alle");
+    files.LanguageChanged();
+    EXPECT_THAT(Files(), ElementsAre("Alle Dateien", "x.log", "x_old.log", "xa.log"));
+    cboFiles.SetVisible(true);
     system.files.Delete("C:\\logs\\x_old.log");
     system.files.Delete("C:\\logs\\xa.log");
     files.BuildLogFileList();
