@@ -147,6 +147,13 @@ TEST_F(Splitter, GoesOnWhenSomeSizesCannotBe) {
     EXPECT_EQ(two.Height(), 3000);
 }
 
+TEST_F(Splitter, LeavesNothingOfAPaneThatHasNoRoom) {
+    Create(1, 2000);
+    splitter.Resize(3000, 2045);
+    EXPECT_EQ(one.Width(), 2000);
+    EXPECT_EQ(two.Width(), 0);
+}
+
 TEST_F(Splitter, GoesOnWhenTheWidthCannotBe) {
     Create(1, 2000);
     splitter.Resize(3000, -1);
