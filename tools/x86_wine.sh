@@ -5,7 +5,7 @@
 #   tools/x86_wine.sh COMMAND [ARGUMENT ...]    with ORDALYN_BITS=x86, by which the tests know
 #
 # A Debian's 32-bit packages may not match what else is installed on a machine. So this Wine lives
-# in a small Debian of its own, which is made once (some three minutes) and kept in
+# in a small Debian of its own, which is made once (a minute or more) and kept in
 # ORDALYN_X86_ROOT, by default ~/.cache/ordalyn/x86-root; delete it to have it made anew. It sees
 # this project and /tmp where they are, in a mount namespace that goes away with the command.
 # Needs root.

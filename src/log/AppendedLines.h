@@ -20,6 +20,7 @@ class AppendedLines {
     };
 
     // A line that no log has ends a read, unless there is a place to note that it was passed over.
+    // That place then holds what the latest read has passed over.
     AppendedLines(platform::Files& files, platform::CodePages& codePages, EntryLists& entries,
                   PassedOverLines* passedOver = nullptr)
         : files_(files), codePages_(codePages), entries_(entries), passedOver_(passedOver) {}

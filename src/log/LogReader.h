@@ -19,7 +19,8 @@ class LogReader {
     // Takes the progress bar's value. Called some two hundred times in a read, when a bar moves.
     using Progress = std::function<void(std::int32_t value)>;
 
-    // A line that no log has ends a read, unless there is a place to note that it was passed over.
+    // A line that no log has ends a read, unless there is a place to note that it was passed over,
+    // which may hold those of other files already.
     LogReader(platform::Files& files, platform::CodePages& codePages, EntryLists& entries,
               PassedOverLines* passedOver = nullptr)
         : files_(files), codePages_(codePages), entries_(entries), passedOver_(passedOver) {}

@@ -40,8 +40,8 @@ std::int32_t EntrySearch::FindString(std::string_view strString, std::int32_t ln
     std::int32_t end = last;
     if (lngSelectedDate == 1) {
         const std::int32_t day = display_.SelectedDay();
-        // A log without a dated entry leaves the chosen day behind
-        // without its entries: nothing of it can be found.
+        // A log without a dated entry leaves the chosen day behind without its entries: nothing of
+        // it can be found.
         if (day < 0 || day >= days_.DayCount()) {
             searchPosition_ = kNotFound;
             return kNotFound;

@@ -58,7 +58,7 @@ class ComboBox : public Control {
     std::unique_ptr<ComboBoxPeer> peer_;
     std::vector<std::string> items_;
     int listIndex_ = -1;
-    std::string text_;  // of an editable box
+    std::string text_;  // of the edit field; nobody asks for it where there is none
 };
 
 }  // namespace ordalyn::toolkit

@@ -226,10 +226,10 @@ void LogFileReading::ReadAnew(PassedOverLines& passedOver) {
     } catch (const std::exception& failure) {
         throw ReadAnewFailed(reader.LineNumber(), IsTooLarge(failure));
     }
+    passedOver = left;
     if (fresh.EntrySources().ListCount() < 0)
         return;
     fresh.FreeExtraItems();
-    passedOver = left;
     mark_ = reader.Mark();
     title_.SetTitle(mark_.path);
     Show(fresh, true);

@@ -234,13 +234,19 @@ TEST_F(RefreshTest, RefreshReportsWhatItHasPassedOverOnce) {
     EXPECT_THAT(tools.messages[1].text, testing::EndsWith("The first one is line: 1"));
 }
 
-TEST_F(RefreshTest, ARefreshThatReadsNothingAnewReportsNothing) {
+TEST_F(RefreshTest, OfALogThatHasOnlyBeenPassedOverTheRowsBeforeItStay) {
     settings.SkipMalformedLines = 1;
     Load({kCopyOfA, kCopyOfA});
     Write(kLog, {"garbage"});
     reading.Refresh();
     EXPECT_EQ(SourceListView.RowCount(), 2);
-    EXPECT_THAT(tools.messages, IsEmpty()) << "the file may be about to begin";
+    ASSERT_EQ(tools.messages.size(), 1U) << "why they stay";
+    EXPECT_THAT(tools.messages[0].text, testing::HasSubstr("of a log: 1\r\n"));
+    tools.messages.clear();
+    Write(kLog, {});
+    reading.Refresh();
+    EXPECT_EQ(SourceListView.RowCount(), 2);
+    EXPECT_THAT(tools.messages, IsEmpty()) << "an empty file may be about to begin";
 }
 
 TEST_F(RefreshTest, AReadThatFailsInTheMiddleAndIsTriedAgainBringsEachLineOnce) {
