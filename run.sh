@@ -36,6 +36,9 @@ if [ -n "${DISPLAY:-}" ]; then
         cp -n /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
         touch "$WINEPREFIX/ready"
     fi
+    # A program that is started in the moment in which Wine's server ends waits forever: this one
+    # lives a little longer than the last program.
+    wineserver -p60
     arguments=()
     file_manager=$PWD/samples/totalcmd
     if [ -n "$log" ]; then

@@ -5,6 +5,7 @@ import os
 import pathlib
 import shutil
 import subprocess
+import tempfile
 
 from .waiting import wait_until
 
@@ -33,6 +34,8 @@ class Wine:
         if not ready.exists():
             shutil.rmtree(self.folder, ignore_errors=True)
             self.folder.mkdir()
+        self._start_server()
+        if not ready.exists():
             self.run(["wineboot", "-i"], timeout=300)
             self.registry_set(r"HKCU\Software\Wine\Explorer", "Desktop", "ordalyn")
             self.registry_set(r"HKCU\Software\Wine\Explorer\Desktops", "ordalyn",
@@ -48,6 +51,17 @@ class Wine:
         fonts.mkdir(exist_ok=True)
         for font in pathlib.Path("/usr/share/wine/fonts").glob("*.ttf"):
             shutil.copy(font, fonts)
+        # Fonts are looked for when the server starts.
+        self._end_server()
+        self._start_server()
+
+    def _start_server(self):
+        """A program that is started in the moment in which Wine's server ends waits forever. So
+        the server does not end with the last program, but some minutes later."""
+        subprocess.run(["wineserver", "-p600"], env=self.environment(), check=True)
+
+    def _end_server(self):
+        # Ends every program of this prefix, and of no other.
         subprocess.run(["wineserver", "-k"], env=self.environment(), check=False)
         subprocess.run(["wineserver", "-w"], env=self.environment(), check=False)
 
@@ -79,9 +93,13 @@ class Wine:
         return env
 
     def run(self, arguments, timeout=60, **options):
-        return subprocess.run(["wine", *map(str, arguments)], env=self.environment(), check=True,
-                              timeout=timeout, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-                              **options).stdout
+        """What the program has written. Not through a pipe: Wine's own programs, which the first
+        one starts, would keep it open."""
+        with tempfile.TemporaryFile() as output:
+            subprocess.run(["wine", *map(str, arguments)], env=self.environment(), check=True,
+                           timeout=timeout, stdout=output, stderr=subprocess.DEVNULL, **options)
+            output.seek(0)
+            return output.read()
 
     def show_desktop(self, locale=None):
         """Every program of this prefix runs on a desktop window as large as the display, which
@@ -133,10 +151,11 @@ class Wine:
 
     def registry_get(self, key, name):
         """The value's text as `reg query` shows it, or None."""
-        found = subprocess.run(["wine", "reg", "query", key, "/v", name], env=self.environment(),
-                               check=False, timeout=60, stdout=subprocess.PIPE,
-                               stderr=subprocess.DEVNULL)
-        for line in found.stdout.decode("utf-8", "replace").splitlines():
+        try:
+            found = self.run(["reg", "query", key, "/v", name])
+        except subprocess.CalledProcessError:
+            return None
+        for line in found.decode("utf-8", "replace").splitlines():
             parts = line.strip().split(None, 2)
             if parts and parts[0].lower() == name.lower():
                 return parts[2] if len(parts) > 2 else ""
@@ -153,9 +172,7 @@ class Wine:
         return self.folder / "drive_c" / "windows"
 
     def close(self):
-        # Ends every program of this prefix, and of no other.
-        subprocess.run(["wineserver", "-k"], env=self.environment(), check=False)
-        subprocess.run(["wineserver", "-w"], env=self.environment(), check=False)
+        self._end_server()
         if self._desktop:
             self._desktop.wait()
         self._lock.close()
