@@ -24,6 +24,7 @@ tools/setup.sh build run test
 
 passed=0
 failed=0
+failing=()
 readonly COUNTS=build/test-counts
 mkdir -p build
 
@@ -184,13 +185,19 @@ for kind in "$@"; do
     (
         set -e
         "kind_$kind"
-    )
-    status=$?
+    ) 2>&1 | tee "build/test-$kind.log"
+    status=${PIPESTATUS[0]}
     set -e
-    [ $status -eq 0 ] || echo "0 1" >>$COUNTS
+    [ "$status" -eq 0 ] || echo "0 1" >>$COUNTS
     count_file
+    [ "$failed" -eq "$before_failed" ] || failing+=("$kind")
     echo "--- $kind: $((passed - before_passed)) passed, $((failed - before_failed)) failed," \
         "$((SECONDS - start)) s"
+done
+# Whoever looks at the end of a long output sees what to look for.
+for kind in "${failing[@]}"; do
+    echo "=== what failed in $kind (all of it: build/test-$kind.log)"
+    grep -E "FAILED|^ERROR|[Ee]rror:|Timeout|Expired|^E  " "build/test-$kind.log" | head -n 40 || true
 done
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]

@@ -58,7 +58,8 @@ class Wine:
     def _start_server(self):
         """A program that is started in the moment in which Wine's server ends waits forever. So
         the server does not end with the last program, but some minutes later."""
-        subprocess.run(["wineserver", "-p600"], env=self.environment(), check=True)
+        subprocess.run(["wineserver", "-p600"], env=self.environment(), check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def _end_server(self):
         # Ends every program of this prefix, and of no other.
@@ -174,5 +175,7 @@ class Wine:
     def close(self):
         self._end_server()
         if self._desktop:
+            # One that the server did not know yet when it ended waits for it.
+            self._desktop.kill()
             self._desktop.wait()
         self._lock.close()
