@@ -222,9 +222,13 @@ void cSplitter::KeepBarInside(float size) {
 void cSplitter::Resize(float containerHeight, float containerWidth) {
     if (mobjContainerControl == nullptr)
         return;
+    const float before = BarPosition();
     Attempt([&] { KeepBarInside(SideBySide() ? containerWidth : containerHeight); });
     Attempt([&] { mobjContainerControl->SetHeight(containerHeight); });
     Attempt([&] { mobjContainerControl->SetWidth(containerWidth); });
+    // A container that keeps its size says nothing.
+    if (BarPosition() != before)
+        LayOut();
 }
 
 void cSplitter::SwapPanels() {

@@ -181,6 +181,17 @@ TEST_F(Splitter, ABarThatWasPulledBackStaysWhenAnotherPositionIsStored) {
     EXPECT_EQ(bar.Left(), 3910);
 }
 
+TEST_F(Splitter, ABarThatReturnsTakesThePanesAlongAlsoWhenTheSizeIsTheSame) {
+    Create(1, 5000);
+    splitter.SetSplitPosition(1000);
+    splitter.Resize(4000, 4000);
+    EXPECT_EQ(bar.Left(), 3910);
+    splitter.Resize(4000, 4000);
+    EXPECT_EQ(bar.Left(), 1000);
+    EXPECT_EQ(one.Width(), 1000);
+    EXPECT_EQ(two.Left(), 1045);
+}
+
 TEST_F(Splitter, GoesOnWhenABarCannotBePulledBack) {
     Create(1, 5000);
     bar.SystemChangedBounds({5000, 0, -1, 4000});
