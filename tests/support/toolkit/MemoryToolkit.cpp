@@ -22,7 +22,9 @@ class MemoryForm : public Peer<FormPeer> {
   public:
     MemoryForm(MemoryToolkit& toolkit, Form& form) : Peer(toolkit, form), form_(form) {
         shown.visible = false;
+        toolkit.forms.push_back(&form);
     }
+    ~MemoryForm() override { Forget(); }
     Size ClientSize() override {
         return {std::max<Twips>(0, shown.bounds.width - 2 * kFrameSide),
                 std::max<Twips>(0, shown.bounds.height - Above() - kFrameSide)};
@@ -80,8 +82,10 @@ class MemoryForm : public Peer<FormPeer> {
     void Close() override {
         shown.visible = false;
         // A form closes again when it is destroyed.
-        if (!std::exchange(closed_, true))
-            toolkit_.closedForms.push_back(form_.Name());
+        if (std::exchange(closed_, true))
+            return;
+        toolkit_.closedForms.push_back(form_.Name());
+        Forget();
     }
     void RebuildMenus() override {
         toolkit_.menuRebuilds.push_back(form_.Name());
@@ -105,6 +109,10 @@ class MemoryForm : public Peer<FormPeer> {
     std::vector<ShownMenu> menus;
 
   private:
+    void Forget() {
+        std::vector<Form*>& forms = toolkit_.forms;
+        forms.erase(std::remove(forms.begin(), forms.end(), &form_), forms.end());
+    }
     Twips Above() const { return kCaption + (menus.empty() ? 0 : kMenuBar); }
     // Below the place, from its beginning on; above it where the screen ends below.
     Rect PlaceOfMenu(const MenuItem& item, const Rect& place) const {
@@ -280,6 +288,13 @@ void MemoryToolkit::DoEvents() {
 
 void MemoryToolkit::Run() {
     DoLaterWork();
+}
+
+Form& MemoryToolkit::FormNamed(std::string_view name) const {
+    for (Form* form : forms)
+        if (form->Name() == name)
+            return *form;
+    throw std::logic_error("There is no form of that name");
 }
 
 std::unique_ptr<FormPeer> MemoryToolkit::CreateForm(Form& form, const FormStyle&) {

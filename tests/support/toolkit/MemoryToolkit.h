@@ -95,6 +95,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     // What is shown of a control or form of this toolkit.
     static const Shown& Of(const toolkit::Control& control);
     static Shown& Mutable(const toolkit::Control& control);
+    // The form of that name, which must have a window.
+    toolkit::Form& FormNamed(std::string_view name) const;
     // The menu bar, as it was when the form last reported a change.
     static const std::vector<ShownMenu>& MenusOf(const toolkit::Form& form);
 
@@ -123,6 +125,7 @@ class MemoryToolkit : public toolkit::Toolkit {
     toolkit::Form* modalForm = nullptr;
     std::vector<std::string> menuRebuilds;  // names of forms
     std::vector<std::string> closedForms;   // names, in the order in which their windows went
+    std::vector<toolkit::Form*> forms;      // all that have a window
 
     // What a user does. A form that a modal one keeps disabled gets nothing. Errors that no handler
     // catches end in a message box, here as in the work for later.
