@@ -46,6 +46,15 @@ class App:
         """All visible top-level windows, front to back."""
         return [w for w in self.agent.ask("windows") if w["visible"]]
 
+    def watch_windows(self):
+        """From now on `captions_so_far` tells of all top-level windows that come up, also of those
+        that are gone again."""
+        assert self.agent.ask("watchWindows")
+
+    @property
+    def captions_so_far(self):
+        return self.agent.ask("shownWindows")
+
     def find_window(self, title):
         """A visible window whose title matches the regular expression from its start, or None."""
         for window in self.windows():

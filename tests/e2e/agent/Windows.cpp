@@ -1,5 +1,6 @@
 // Commands about windows as such: which there are, how they look, where they are, and the focus.
 #include <algorithm>
+#include <mutex>
 #include <vector>
 
 #include "Common.h"
@@ -45,6 +46,34 @@ std::string CaptionOf(HWND window) {
     wchar_t text[1024] = L"";
     InternalGetWindowText(window, text, 1024);
     return ToUtf8(text);
+}
+
+// What came up since it is looked for, also what is gone again: a window that a program shows for a
+// moment need not be met in it.
+struct {
+    std::mutex guard;
+    Json::Array captions;
+} shownWindows;
+
+// Runs in the thread of the window, before that gets the message.
+LRESULT CALLBACK SeeMessage(int code, WPARAM wParam, LPARAM lParam) {
+    const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+    if (code == HC_ACTION && message.message == WM_WINDOWPOSCHANGED &&
+        (reinterpret_cast<const WINDOWPOS*>(message.lParam)->flags & SWP_SHOWWINDOW) != 0 &&
+        GetAncestor(message.hwnd, GA_ROOT) == message.hwnd) {
+        const std::lock_guard lock(shownWindows.guard);
+        shownWindows.captions.emplace_back(CaptionOf(message.hwnd));
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+Json WatchWindows(const Json&) {
+    return SetWindowsHookExW(WH_CALLWNDPROC, SeeMessage, nullptr, InterfaceThread()) != nullptr;
+}
+
+Json ShownWindows(const Json&) {
+    const std::lock_guard lock(shownWindows.guard);
+    return shownWindows.captions;
 }
 
 Json Describe(HWND window) {
@@ -284,6 +313,8 @@ DWORD InterfaceThread() {
 }
 
 void AddWindowCommands(Commands& commands) {
+    commands["watchWindows"] = WatchWindows;
+    commands["shownWindows"] = ShownWindows;
     commands["windows"] = Windows;
     commands["window"] = [](const Json& request) { return Describe(WindowOf(request)); };
     commands["tree"] = Tree;
