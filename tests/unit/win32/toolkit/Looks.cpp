@@ -1,9 +1,18 @@
 // What a user sees: pixels of the controls, the styles that the system draws by, new system
 // colours.
+#include <map>
+#include <utility>
+
 #include "TestForm.h"
 #include "win32/controls/Window.h"
 // after windows.h
 #include <uxtheme.h>
+
+#ifdef _WIN64
+extern "C" decltype(&GetSysColor) importedGetSysColor __asm__("__imp_GetSysColor");
+#else
+extern "C" decltype(&GetSysColor) importedGetSysColor __asm__("__imp__GetSysColor@4");
+#endif
 
 namespace ordalyn::test {
 namespace {
@@ -269,27 +278,39 @@ TEST_F(Looks, TheInsideOfATabIsTheThemesOrTheDialogs) {
     SetThemeAppProperties(before);
 }
 
-// Other system colours for as long as it lives.
+// What this program is told when it asks for a system colour, for as long as the object lives. The
+// desktop keeps its colours: other programs are on it.
 class SystemColors {
   public:
-    SystemColors(std::initializer_list<int> which, std::initializer_list<COLORREF> colors)
-        : which_(which) {
-        for (const int index : which_)
-            before_.push_back(GetSysColor(index));
-        Set(colors);
+    explicit SystemColors(std::map<int, COLORREF> colors) {
+        told_ = std::move(colors);
+        Answer(Told);
     }
-    ~SystemColors() { Set(before_); }
+    ~SystemColors() { Answer(before_); }
     SystemColors(const SystemColors&) = delete;
     SystemColors& operator=(const SystemColors&) = delete;
 
-  private:
-    // The system tells it to all windows.
-    void Set(const std::vector<COLORREF>& colors) {
-        SetSysColors(static_cast<int>(which_.size()), which_.data(), colors.data());
+    // As the system tells it to the windows on a desktop.
+    static void Announce(const Form& form) {
+        SendMessageW(WindowOf(form), WM_SYSCOLORCHANGE, 0, 0);
         TheToolkit().DoEvents();
     }
-    std::vector<int> which_;
-    std::vector<COLORREF> before_;
+
+  private:
+    static DWORD WINAPI Told(int index) {
+        const auto found = told_.find(index);
+        return found != told_.end() ? found->second : before_(index);
+    }
+    // Where the linker put the address that calls of GetSysColor go to.
+    static void Answer(decltype(&GetSysColor) function) {
+        DWORD protection = 0;
+        VirtualProtect(&importedGetSysColor, sizeof(importedGetSysColor), PAGE_READWRITE,
+                       &protection);
+        importedGetSysColor = function;
+        VirtualProtect(&importedGetSysColor, sizeof(importedGetSysColor), protection, &protection);
+    }
+    static inline std::map<int, COLORREF> told_;
+    static inline const auto before_ = importedGetSysColor;
 };
 
 // The pixel without drawing anything by hand.
@@ -312,11 +333,13 @@ TEST_F(Looks, NewSystemColoursAreShownAtOnce) {
     constexpr COLORREF kPink = 0x00AA66EE;
     constexpr COLORREF kGreen = 0x0033BB44;
     {
-        const SystemColors other({COLOR_WINDOW, COLOR_BTNFACE}, {kPink, kGreen});
+        const SystemColors other({{COLOR_WINDOW, kPink}, {COLOR_BTNFACE, kGreen}});
+        SystemColors::Announce(form);
         EXPECT_EQ(OnScreen(list, 20, 60), kPink);
         EXPECT_EQ(OnScreen(label, 2, 2), kPink);
         EXPECT_EQ(OnScreen(form, 380, 190), kGreen);
     }
+    SystemColors::Announce(form);
     EXPECT_EQ(OnScreen(list, 20, 60), window);
     EXPECT_EQ(OnScreen(label, 2, 2), window);
     EXPECT_EQ(OnScreen(form, 380, 190), face);
