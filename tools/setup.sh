@@ -24,7 +24,7 @@ packages_for() {
             echo wine wine64 xvfb xdotool imagemagick fonts-wine fonts-liberation python3
             ;;
         test)
-            echo python3-pytest python3-pytest-rerunfailures python3-pytest-xdist \
+            echo python3-pytest python3-pytest-xdist \
                 locales shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev debootstrap
             ;;
         *)

@@ -5,6 +5,8 @@ import pytest
 from harness.dialogs import center, open_filter, open_find
 from harness.waiting import wait_until
 
+pytestmark = pytest.mark.all_processors
+
 LOG = [
     r"01.03.2024 10:15:30: Copy C:\a.txt -> D:\a.txt",
     r"01.03.2024 10:15:31: Move C:\Copy of b.txt -> E:\b.txt",

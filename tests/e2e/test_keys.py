@@ -5,6 +5,8 @@ import pytest
 from harness.filedialog import FileDialog
 from harness.waiting import wait_until
 
+pytestmark = pytest.mark.all_processors
+
 LOG = [rf"01.03.2024 10:00:{i:02d}: Copy C:\{i}.txt -> D:\{i}.txt" for i in range(20)]
 SHORTCUTS = {("File", "Open..."): "Ctrl+O", ("File", "Exit"): "Alt+F4",
              ("Search", "Find..."): "Ctrl+F", ("Search", "Find Next"): "F3",

@@ -4,7 +4,7 @@ import re
 
 from .agent import Agent, AgentError, ProgramEnded
 from .controls import Control, ListView, MessageBox, PopUpMenu, Window, center
-from .waiting import wait_until
+from .waiting import Timeout, wait_until
 from .wine import windows_path
 
 VIRTUAL_KEYS = {
@@ -20,8 +20,11 @@ class App:
     def __init__(self, wine, run_folder):
         self.wine = wine
         self._folder = run_folder
-        wait_until(lambda: self._port_file.exists() or "failed" in self._status,
-                   "the program to start", timeout=60)
+        try:
+            wait_until(lambda: self._port_file.exists() or "failed" in self._status,
+                       "the program to start", timeout=60)
+        except Timeout as late:
+            raise Timeout(f"{late}; there is\n{wine.processes()}") from late
         if "failed" in self._status:
             raise RuntimeError(f"the program did not start: {self._status['failed']}")
         self.agent = Agent(int(self._port_file.read_text()))

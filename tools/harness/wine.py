@@ -172,6 +172,20 @@ class Wine:
     def windows_folder(self):
         return self.folder / "drive_c" / "windows"
 
+    def processes(self):
+        """What runs with this prefix and what it waits for, a line for each process."""
+        found = []
+        for folder in pathlib.Path("/proc").glob("[0-9]*"):
+            try:
+                variables = (folder / "environ").read_bytes().split(b"\0")
+                if b"WINEPREFIX=" + os.fsencode(self.folder) in variables:
+                    command = (folder / "cmdline").read_bytes().replace(b"\0", b" ").decode()
+                    waits = (folder / "wchan").read_text()
+                    found.append(f"{folder.name} {waits}: {command}")
+            except (OSError, UnicodeDecodeError):
+                continue
+        return "\n".join(found)
+
     def close(self):
         self._end_server()
         if self._desktop:
