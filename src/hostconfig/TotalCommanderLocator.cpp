@@ -146,8 +146,10 @@ std::string TotalCommanderLocator::MakeFreshIni() {
     std::string path = InFolderOf("windir", "wincmd.ini");
     // One that is there belongs to the file manager.
     if (!common.FileExists(path)) {
-        around_.profile.WriteValue(kConfigurationSection, "firstmnu", "512", path);
-        around_.profile.WriteValue(kConfigurationSection, "PanelsVertical", "0", path);
+        around_.profile.Together([&] {
+            around_.profile.WriteValue(kConfigurationSection, "firstmnu", "512", path);
+            around_.profile.WriteValue(kConfigurationSection, "PanelsVertical", "0", path);
+        });
     }
     // Not everybody may write there.
     if (common.FileExists(path))

@@ -39,6 +39,7 @@ cProfile::cProfile(const platform::Services& services, const mAppCommon& common)
     if (common_.IsNoValue(exempt)) {
         exempt = kDefaultExemptSections;
         WriteRawValue(kCommonSection, kExemptSectionsKey, exempt, common_.SettingsFile(), false);
+        text_.GiveUpWaiting(common_.SettingsFile());
     }
     exemptSections_ = Split(exempt, ';');
 }
@@ -49,6 +50,7 @@ std::optional<std::string> cProfile::ReadValue(std::string_view strSectionName,
                                                std::string_view strFileName,
                                                std::size_t lngMaxBufferSize,
                                                std::optional<unsigned> languageCodePage) {
+    const Look look(*this);
     const std::string file = ResolveRedirectedFile(strSectionName, strKeyName, strFileName);
     return ReadRawValue(strSectionName, strKeyName, strDefaultValue, file, lngMaxBufferSize,
                         languageCodePage);
@@ -59,6 +61,7 @@ void cProfile::WriteValue(std::string_view strSectionName, std::string_view strK
                           bool blnAddQuotation) {
     if (common_.IsNoValue(strValue))
         return;
+    const Look look(*this);
     const std::string file = ResolveRedirectedFile(strSectionName, strKeyName, strFileName);
     text_.WriteEntry(strSectionName, strKeyName,
                      blnAddQuotation ? InQuotes(strValue) : std::string(TrimBlanks(strValue)),
@@ -67,11 +70,13 @@ void cProfile::WriteValue(std::string_view strSectionName, std::string_view strK
 
 void cProfile::DeleteValue(std::string_view strSectionName, std::string_view strKeyName,
                            std::string_view strFileName) {
+    const Look look(*this);
     text_.DeleteEntry(strSectionName, strKeyName,
                       ResolveRedirectedFile(strSectionName, strKeyName, strFileName));
 }
 
 void cProfile::DeleteSection(std::string_view strSectionName, std::string_view strFileName) {
+    const Look look(*this);
     text_.DeleteSection(strSectionName, ResolveRedirectedFile(strSectionName, "", strFileName));
 }
 
@@ -82,12 +87,14 @@ void cProfile::ReadFileSectionsName(std::string_view strFileName, std::size_t ln
 void cProfile::ReadSectionKeysNameAndValue(std::string_view strSectionName,
                                            std::string_view strFileName,
                                            std::size_t lngMaxBufferSize) {
+    const Look look(*this);
     const std::string file = ResolveRedirectedFile(strSectionName, "", strFileName);
     keysAndValues_ = SplitList(text_.ReadSection(strSectionName, file, lngMaxBufferSize));
 }
 
 void cProfile::ReadSectionKeysNameOnly(std::string_view strSectionName,
                                        std::string_view strFileName, std::size_t lngMaxBufferSize) {
+    const Look look(*this);
     const std::string file = ResolveRedirectedFile(strSectionName, "", strFileName);
     keyNames_ = SplitList(text_.ReadKeyNames(strSectionName, file, lngMaxBufferSize));
 }

@@ -5,8 +5,12 @@
 //  - "AlternateUserIni" of [Configuration] moves all other sections but the exempt ones.
 // One level only: a target's own redirections do not count, and it need not exist.
 //
-// All names compare ignoring case. Nothing is cached: each operation looks for the redirections
-// afresh. Nothing here reports an error; what cannot be read is absent.
+// All names compare ignoring case. Each operation looks for the redirections afresh. A file is
+// opened once and then only when it is another one by its size and times, which every operation
+// asks for once, or once for many operations during a look (platform/ProfileFiles.h).
+//
+// Nothing here reports an error: what cannot be read is absent; what cannot be written is read as
+// if it had been, and Keep tries again.
 #pragma once
 
 #include <cstddef>
@@ -45,7 +49,8 @@ class cProfile {
         "FileSystemPlugins;ListerPlugins;ContentPlugins";
 
     // Reads the list of exempt sections from the program's settings file, once, and writes the
-    // default list there when the entry is absent. An empty entry exempts nothing.
+    // default list there when the entry is absent; when that fails nothing is lost that would have
+    // to be kept. An empty entry exempts nothing.
     cProfile(const platform::Services& services, const mAppCommon& common);
 
     // No value when the text read is empty: for an empty entry as for an absent one with an empty
@@ -66,6 +71,34 @@ class cProfile {
     void DeleteValue(std::string_view strSectionName, std::string_view strKeyName,
                      std::string_view strFileName);
     void DeleteSection(std::string_view strSectionName, std::string_view strFileName);
+
+    // While it lives, files that have been looked at are not looked at again: for many values that
+    // belong together. A modal window has no place in it.
+    class Look {
+      public:
+        explicit Look(cProfile& profile) : text_(profile.text_) { text_.BeginLook(); }
+        ~Look() { text_.EndLook(); }
+        Look(const Look&) = delete;
+        Look& operator=(const Look&) = delete;
+
+      private:
+        platform::ProfileText& text_;
+    };
+    // Does work whose changes go into each file together, at the end: all of them or none.
+    template <typename Work>
+    void Together(Work&& work) {
+        text_.BeginChanges();
+        try {
+            work();
+        } catch (...) {
+            text_.EndChanges();
+            throw;
+        }
+        text_.EndChanges();
+    }
+    // Whether the file holds all that was written to it. What it lacks is written now if it can be.
+    // Without redirection.
+    bool Keep(std::string_view strFileName) { return text_.WriteWaiting(strFileName); }
 
     // Each fills one list, which stays until the next call of the same operation. Section names are
     // those of the file itself: no redirection.

@@ -63,9 +63,26 @@ class ReadableFile {
     virtual std::size_t Read(char* buffer, std::size_t capacity) = 0;
 };
 
+// What tells a file from one that has been changed or has taken its place. Two are equal when size
+// and times are.
+struct FileStamp {
+    std::uint64_t size;
+    std::int64_t written, created;  // in the system's units
+    // Whether a change from now on would be seen in `written`, however coarse the file system's
+    // clock is: the file has not been written just now.
+    bool settled;
+
+    friend bool operator==(const FileStamp& a, const FileStamp& b) {
+        return a.size == b.size && a.written == b.written && a.created == b.created;
+    }
+};
+
 class Files {
   public:
     virtual ~Files() = default;
+    // Nothing when there is neither a file nor a folder of that name. The file is not opened, so
+    // that one that others hold has a stamp too.
+    virtual std::optional<FileStamp> Stamp(std::string_view path) = 0;
     // Others may go on reading, writing, renaming and deleting the file. Throws FileError (missing,
     // locked, a folder, ...).
     virtual std::unique_ptr<ReadableFile> OpenForReading(std::string_view path) = 0;

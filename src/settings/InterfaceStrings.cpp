@@ -1,7 +1,6 @@
 #include "settings/InterfaceStrings.h"
 
 #include "base/Text.h"
-#include "hostconfig/cProfile.h"
 #include "hostconfig/mAppCommon.h"
 #include "platform/Platform.h"
 #include "settings/mAppSpecific.h"

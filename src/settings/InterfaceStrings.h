@@ -1,19 +1,19 @@
 // InterfaceStrings: the text to show for a string id, from the user's language file or from the
 // built-in table. Everything that the program shows by id is asked for here.
 //
-// A language file is an INI file whose section "UserLanguage" maps ids to texts. Nothing is cached:
-// a file that is changed while the program runs counts from the next lookup on.
+// A language file is an INI file whose section "UserLanguage" maps ids to texts. One that is
+// changed while the program runs counts from the next lookup on, or the next look (cProfile.h).
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "hostconfig/cProfile.h"
 #include "settings/cDefaultStrings.h"
 
 namespace ordalyn {
 
-class cProfile;
 class mAppCommon;
 class mAppSpecific;
 
@@ -30,6 +30,9 @@ class InterfaceStrings {
     // empty one or "/e" for the id; empty when that table lacks it too. A text of the language file
     // is given as it was read, blanks at its ends included.
     std::string GetInterfaceString(std::int32_t lngID) const;
+
+    // While it lives, a look: for many texts that belong together.
+    cProfile::Look Look() const { return cProfile::Look(profile_); }
 
     // Whether a language file is switched on but does not exist.
     bool LanguageFileMissing() const;

@@ -16,6 +16,7 @@ std::string EntryName(std::string_view key, int number) {
 }  // namespace
 
 std::vector<std::string> TextHistory::Read(std::string_view strKey, int intMax) const {
+    const cProfile::Look look(profile_);
     std::vector<std::string> items;
     for (int number = 1; number <= intMax; ++number) {
         std::string text =
@@ -31,14 +32,19 @@ std::vector<std::string> TextHistory::Read(std::string_view strKey, int intMax) 
 
 void TextHistory::Write(std::string_view strKey, const std::vector<std::string>& items) {
     // With quotes, which keep the blanks at the ends.
-    for (std::size_t item = 0; item < items.size(); ++item)
-        profile_.WriteValue(kOrdalynSection, EntryName(strKey, static_cast<int>(item) + 1),
-                            items[item], common_.SettingsFile(), true);
+    profile_.Together([&] {
+        for (std::size_t item = 0; item < items.size(); ++item)
+            profile_.WriteValue(kOrdalynSection, EntryName(strKey, static_cast<int>(item) + 1),
+                                items[item], common_.SettingsFile(), true);
+    });
 }
 
 void TextHistory::Delete(std::string_view strKey, int intMax) {
-    for (int number = 1; number <= intMax; ++number)
-        profile_.DeleteValue(kOrdalynSection, EntryName(strKey, number), common_.SettingsFile());
+    profile_.Together([&] {
+        for (int number = 1; number <= intMax; ++number)
+            profile_.DeleteValue(kOrdalynSection, EntryName(strKey, number),
+                                 common_.SettingsFile());
+    });
 }
 
 }  // namespace ordalyn

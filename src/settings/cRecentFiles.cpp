@@ -36,6 +36,7 @@ void cRecentFiles::Setup(std::int32_t lngMaxFiles) {
 
 void cRecentFiles::ReadList(std::string_view strFileName, std::string_view strSection,
                             std::string_view KeyPrefix) {
+    const cProfile::Look look(profile_);
     for (std::int32_t i = 1; i <= maximum_; ++i)
         Entry(i) = common_.ExpandPath(profile_
                                           .ReadValue(strSection, Key(KeyPrefix, i),
@@ -47,11 +48,13 @@ void cRecentFiles::ReadList(std::string_view strFileName, std::string_view strSe
 
 void cRecentFiles::SaveList(std::string_view strFileName, std::string_view strSection,
                             std::string_view strKeyPrefix) {
-    for (std::int32_t i = 1; i <= maximum_; ++i) {
-        const std::string key = Key(strKeyPrefix, i);
-        profile_.DeleteValue(strSection, key, strFileName);
-        profile_.WriteValue(strSection, key, common_.UnExpandPath(Entry(i)), strFileName);
-    }
+    profile_.Together([&] {
+        for (std::int32_t i = 1; i <= maximum_; ++i) {
+            const std::string key = Key(strKeyPrefix, i);
+            profile_.DeleteValue(strSection, key, strFileName);
+            profile_.WriteValue(strSection, key, common_.UnExpandPath(Entry(i)), strFileName);
+        }
+    });
 }
 
 void cRecentFiles::AddFile(std::string_view strFileName) {

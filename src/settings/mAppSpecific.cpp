@@ -43,6 +43,7 @@ void mAppSpecific::Load(const Setting& setting) {
 }
 
 void mAppSpecific::LoadSettings() {
+    const cProfile::Look look(profile_);
     for (const Setting& setting : AllSettings())
         Load(setting);
 }
@@ -54,10 +55,12 @@ void mAppSpecific::Save(const Setting& setting) {
 }
 
 void mAppSpecific::SaveAllOf(SettingWriter writer) {
-    for (const Setting& setting : AllSettings()) {
-        if (setting.writer == writer)
-            Save(setting);
-    }
+    profile_.Together([&] {
+        for (const Setting& setting : AllSettings()) {
+            if (setting.writer == writer)
+                Save(setting);
+        }
+    });
 }
 
 void mAppSpecific::GiveUpLanguageFile() {

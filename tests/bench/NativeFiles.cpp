@@ -52,6 +52,10 @@ void NativeFiles::Replace(std::string_view path, std::string_view) {
     throw FileError(std::string(path), 5);
 }
 
+std::optional<platform::FileStamp> NativeFiles::Stamp(std::string_view) {
+    return std::nullopt;
+}
+
 bool NativeFiles::CanWrite(std::string_view) {
     return false;
 }

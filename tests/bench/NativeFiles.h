@@ -8,6 +8,7 @@ namespace ordalyn::bench {
 
 class NativeFiles : public platform::Files {
   public:
+    std::optional<platform::FileStamp> Stamp(std::string_view path) override;
     std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;

@@ -7,6 +7,7 @@ namespace ordalyn::win32 {
 
 class Win32Files : public platform::Files {
   public:
+    std::optional<platform::FileStamp> Stamp(std::string_view path) override;
     std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;

@@ -53,6 +53,7 @@ void FormLanguage::CheckLanguageFile(toolkit::Toolkit& toolkit, toolkit::Form* o
 }
 
 void FormLanguage::ShowTexts(toolkit::Form& form) const {
+    const auto look = strings_.Look();
     bool rightToLeft = false;
     Attempt([&] { rightToLeft = strings_.RightToLeftLanguage(); });
     Attempt([&] { form.SetRightToLeft(rightToLeft); });

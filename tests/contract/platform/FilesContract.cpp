@@ -279,6 +279,35 @@ TEST_P(FilesContract, AskingWhetherAFileCanBeWrittenChangesNothing) {
     EXPECT_THAT(Files().List(System().Folder(), "*"), ElementsAre("a.ini"));
 }
 
+TEST_P(FilesContract, AStampTellsAFileFromOneThatHasBeenChanged) {
+    System().SetBytes("a.ini", "text");
+    System().MakeOld("a.ini");
+    const auto stamp = Files().Stamp(System().Path("a.ini"));
+    ASSERT_TRUE(stamp);
+    EXPECT_EQ(stamp->size, 4U);
+    EXPECT_TRUE(stamp->settled);
+    EXPECT_EQ(Files().Stamp(System().Path("A.INI")), stamp);
+    Open("a.ini");
+    EXPECT_EQ(Files().Stamp(System().Path("a.ini")), stamp);
+    System().SetBytes("a.ini", "Text");
+    EXPECT_NE(Files().Stamp(System().Path("a.ini")), stamp);
+}
+
+TEST_P(FilesContract, AFileThatAnotherHoldsHasAStamp) {
+    System().SetBytes("a.ini", "text");
+    const auto stamp = Files().Stamp(System().Path("a.ini"));
+    const std::shared_ptr<void> lock = System().Lock("a.ini");
+    EXPECT_EQ(Files().Stamp(System().Path("a.ini")), stamp);
+}
+
+TEST_P(FilesContract, AFolderHasAStampAndWhatIsNotThereHasNone) {
+    System().AddFolder("folder");
+    EXPECT_TRUE(Files().Stamp(System().Path("folder")));
+    EXPECT_FALSE(Files().Stamp(System().Path("none.ini")));
+    EXPECT_FALSE(Files().Stamp(System().Path("none\\none.ini")));
+    EXPECT_FALSE(Files().Stamp(""));
+}
+
 TEST_P(FilesContract, AFolderIsMadeOnce) {
     Files().MakeFolder(System().Path("folder"));
     EXPECT_TRUE(Files().Exists(System().Path("folder\\*")));

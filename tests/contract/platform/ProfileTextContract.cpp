@@ -1,6 +1,9 @@
 // INI files as text, through whichever calls their beginning asks for.
 #include "platform/ProfileText.h"
 
+#include <iterator>
+#include <random>
+
 #include "contract/platform/IniFiles.h"
 #include "contract/platform/Subject.h"
 
@@ -11,6 +14,10 @@ namespace {
 const std::string kMark(kUtf8Mark);
 // Hebrew, which none of the code pages under test holds.
 const std::string kForeign = "D:\\\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D";
+
+bool HasEmptyElement(const std::string& list) {
+    return list.starts_with('\0') || list.find(std::string(2, '\0')) != std::string::npos;
+}
 
 class ProfileTextContract : public PlatformContract {
   protected:
@@ -128,6 +135,39 @@ TEST_P(ProfileTextContract, AFileWithAUtf8MarkRightBeforeTheFirstSectionIsUtf8) 
     EXPECT_EQ(Text().ReadSectionNames(File(), kSize), std::string("Configuration\0B\0", 16));
     Text().DeleteSection("Configuration", File());
     EXPECT_EQ(Result(), kMark + "[B]\r\n");
+}
+
+// What is read here is what the calls would read, whatever the file says.
+TEST_P(ProfileTextContract, ReadsWhatTheCallsRead) {
+    constexpr std::string_view kParts[] = {
+        "[A]",         "[a]",    "[ B ]", "[",          "]",       "A",  "B",    "k",
+        "K",           "=",      "=",     " ",          "\t",      "\"", "'",    ";",
+        ";",           "x",      "yz",    "1",          "\r\n",    "\n", "\r\n", "\r",
+        "\r\n[A]\r\n", "\r\nk=", "\x1A",  "\r\nk = \"", "\r\n;k=", "\v"};
+    std::mt19937 random(1);
+    for (int round = 0; round < 300; ++round) {
+        std::string bytes;
+        for (std::size_t count = random() % 40; count > 0; --count)
+            bytes += kParts[random() % std::size(kParts)];
+        SCOPED_TRACE(bytes);
+        // Another file each time: it would take a while until a change could be told for sure.
+        const std::string name = "test" + std::to_string(round) + ".ini";
+        System().SetBytes(name, bytes);
+        const std::string file = System().Path(name);
+        platform::ProfileCalls& calls = Services().ansiProfile;
+        EXPECT_EQ(Text().ReadSectionNames(file, kSize), calls.ReadSectionNames(file, kSize));
+        for (const char* section : {"A", "b"}) {
+            // An entry without a name ends the calls' list of names.
+            const std::string names = Text().ReadKeyNames(section, file, kSize);
+            if (!HasEmptyElement(names))
+                EXPECT_EQ(names, calls.ReadKeyNames(section, file, kSize));
+            EXPECT_EQ(Text().ReadSection(section, file, kSize),
+                      calls.ReadSection(section, file, kSize));
+            for (const char* key : {"k", "x", "yz"})
+                EXPECT_EQ(Text().ReadEntry(section, key, "absent", file, kSize),
+                          calls.ReadEntry(section, key, "absent", file, kSize));
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(, ProfileTextContract, AllSubjects(), KindName);

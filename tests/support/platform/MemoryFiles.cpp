@@ -104,6 +104,19 @@ bool MemoryFiles::IsProtected(std::string_view fullFolder) const {
     return protectedFolders_.count(Key(fullFolder)) > 0;
 }
 
+std::optional<platform::FileStamp> MemoryFiles::Stamp(std::string_view path) {
+    if (path.empty())
+        return std::nullopt;
+    if (const File* file = Find(path)) {
+        const std::int64_t written = file->content->written;
+        return platform::FileStamp{file->content->bytes.size(), written, 0,
+                                   !clockStopped_ || written < clock_};
+    }
+    if (IsFolder(path))
+        return platform::FileStamp{0, 0, 0, true};
+    return std::nullopt;
+}
+
 std::unique_ptr<platform::ReadableFile> MemoryFiles::OpenForReading(std::string_view path) {
     if (path.empty())
         throw FileError("", kPathNotFound);
@@ -211,13 +224,14 @@ void MemoryFiles::Set(std::string_view path, std::string_view bytes) {
     if (file.path.empty())
         file.path = fullPath;
     // A fresh content: whoever has the file open goes on reading the old one.
-    file.content = std::make_shared<Content>(Content{std::string(bytes), std::nullopt});
+    file.content = std::make_shared<Content>(Content{std::string(bytes), std::nullopt, Now()});
 }
 
 void MemoryFiles::Append(std::string_view path, std::string_view bytes) {
     if (Find(path) == nullptr)
         Set(path, "");
     Find(path)->content->bytes += bytes;
+    Find(path)->content->written = Now();
 }
 
 void MemoryFiles::Delete(std::string_view path) {
@@ -258,6 +272,12 @@ void MemoryFiles::Lock(std::string_view path, bool locked) {
     if (Find(path) == nullptr)
         Set(path, "");
     Find(path)->locked = locked;
+}
+
+void MemoryFiles::StopClock(bool stopped) {
+    // What is there by now was written before.
+    ++clock_;
+    clockStopped_ = stopped;
 }
 
 void MemoryFiles::FailReadingAfter(std::string_view path, std::size_t count) {

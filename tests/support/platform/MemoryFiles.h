@@ -23,6 +23,7 @@ class MemoryFiles : public platform::Files {
                                    kSharingViolation = 32, kReadFault = 30;
 
     MemoryFiles();
+    std::optional<platform::FileStamp> Stamp(std::string_view path) override;
     std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
@@ -47,6 +48,9 @@ class MemoryFiles : public platform::Files {
     void FailWriting(std::string_view path, bool fails = true);
     // The user has no right to make anything in that folder, nor to replace a file there.
     void ProtectFolder(std::string_view path, bool isProtected = true);
+    // The clock that stamps are made by stands still: what changes keeps its times, as within a
+    // moment of a coarse clock.
+    void StopClock(bool stopped = true);
     // Called with the full path just before a file is opened, so that a test can change it between
     // two openings.
     std::function<void(const std::string& path)> onOpen;
@@ -57,6 +61,7 @@ class MemoryFiles : public platform::Files {
     struct Content {
         std::string bytes;
         std::optional<std::size_t> failAfter;
+        std::int64_t written = 0;
     };
     struct File {
         std::string path;  // as first written
@@ -71,11 +76,14 @@ class MemoryFiles : public platform::Files {
     const File* Find(std::string_view path) const;
     bool IsFolder(std::string_view path) const;
     bool IsProtected(std::string_view fullFolder) const;
+    std::int64_t Now() { return clockStopped_ ? clock_ : ++clock_; }
     bool ExistsMatching(std::string_view folder, std::string_view pattern) const;
 
     std::map<std::string, File> files_;           // by folded full path
     std::map<std::string, std::string> folders_;  // folded full path -> as first written
     std::set<std::string> protectedFolders_;      // folded full paths
+    std::int64_t clock_ = 0;                      // one later for each change
+    bool clockStopped_ = false;
     std::string currentFolder_ = "C:\\Work";
 };
 

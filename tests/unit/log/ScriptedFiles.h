@@ -6,6 +6,7 @@
 #include <deque>
 #include <limits>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -32,6 +33,7 @@ class ScriptedFiles : public platform::Files {
     int openNow = 0;
     int opened = 0;
 
+    std::optional<platform::FileStamp> Stamp(std::string_view) override { return std::nullopt; }
     std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override {
         const auto found = files_.find(std::string(path));
         if (found == files_.end())
