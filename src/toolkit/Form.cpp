@@ -245,6 +245,11 @@ void Form::UserClosed() {
     Unload();
 }
 
+void Form::SessionEnded() {
+    sessionEnds_ = true;
+    Unload();
+}
+
 void Form::SystemActivated(bool byClickOnControl) {
     activatedByClickOnControl_ = byClickOnControl;
     Activate.Raise();

@@ -60,6 +60,8 @@ class Form : public Control {
     // Asks QueryUnload, then raises Unload and takes the window away. Returns whether it did.
     bool Unload();
     bool Unloaded() const { return unloaded_; }
+    // Whether the system closes the form because it ends: it does not wait for modal windows.
+    bool SessionEnds() const { return sessionEnds_; }
     std::uintptr_t Handle() const { return peer_->Handle(); }
     // Expires with the form: whoever raises an event looks before touching the form again.
     std::weak_ptr<const void> Lifetime() const { return lifetime_; }
@@ -87,7 +89,8 @@ class Form : public Control {
     bool UserKeyDown(int key, Modifiers modifiers);
     void UserKeyUp(int key, Modifiers modifiers) { KeyUp.Raise(key, modifiers); }
     // For the peer.
-    void UserClosed();  // close box, Alt+F4, end of the session
+    void UserClosed();  // close box, Alt+F4
+    void SessionEnded();
     void SystemActivated(bool byClickOnControl = false);
     void SystemResized(const Rect& outer, WindowState state);
 
@@ -109,6 +112,7 @@ class Form : public Control {
     std::shared_ptr<const int> lifetime_ = std::make_shared<const int>(0);
     bool activatedByClickOnControl_ = false;
     bool unloaded_ = false;
+    bool sessionEnds_ = false;
 };
 
 }  // namespace ordalyn::toolkit

@@ -1,6 +1,9 @@
 """Where the settings are kept: beside the program, or with the user where that cannot be written."""
 
+import contextlib
 import os
+import shutil
+import subprocess
 
 import pytest
 
@@ -34,6 +37,11 @@ class Place:
 @pytest.fixture
 def place(folder):
     return Place(folder)
+
+
+def not_kept(folder):
+    return ("The settings could not be kept in this file:\n" +
+            folder.windows("Ordalyn", "Ordalyn.ini"))
 
 
 def files(folder):
@@ -86,8 +94,9 @@ def test_read_beside_the_program_when_neither_can_be_written(place):
     place.beside_program.chmod(0o444)
     app = place.start()
     assert not app.main.two_panels
-    app.close()
+    assert app.close_with_message() == not_kept(place.folder)
     assert not place.roaming.exists()
+    assert place.beside_program.read_bytes() == SETTINGS
 
 
 def test_nowhere_when_neither_can_be_written(place):
@@ -99,10 +108,60 @@ def test_nowhere_when_neither_can_be_written(place):
         assert app.main.source.row_count == 1
         assert app.main.rect.left == 0
         app.main.place(120, 90, 900, 600)
-        app.close()
+        assert app.close_with_message() == not_kept(place.folder)
     assert files(place.beside_program) == []
     assert files(place.folder.program) == before
     assert not place.roaming.exists()
+
+
+@contextlib.contextmanager
+def volume(place, state):
+    """The program's folder as a volume of its own with settings on it: read-only, or full."""
+    program = place.folder.program
+    saved = place.folder.path / "saved"
+    program.rename(saved)
+    program.mkdir()
+    made = subprocess.run(["mount", "-t", "tmpfs", "-o", "size=32m", "tmpfs", program],
+                          capture_output=True, text=True, check=False)
+    if made.returncode != 0:
+        pytest.skip(f"no right to mount a volume: {made.stderr.strip()}")
+    try:
+        shutil.copytree(saved, program, dirs_exist_ok=True)
+        place.beside_program.write_bytes(SETTINGS)
+        if state == "read-only":
+            subprocess.run(["mount", "-o", "remount,ro", program], check=True)
+        else:
+            with open(program / "fill", "wb", buffering=0) as fill, contextlib.suppress(OSError):
+                while fill.write(bytes(4096)):
+                    pass
+        yield
+    finally:
+        # Also when the program could not be ended.
+        subprocess.run(["umount", "--lazy", program], check=True)
+
+
+@pytest.mark.parametrize("state", ["read-only", "full"])
+def test_on_a_volume_that_cannot_be_written(place, state):
+    place.roaming.rmdir()
+    with volume(place, state):
+        before = files(place.folder.program)
+        app = place.start()
+        assert not app.main.two_panels
+        app.main.choose("View", "Two Panels")
+        app.main.choose("View", "Options...")
+        options = app.window("Options")
+        options.button("Show grid lines").press()
+        options.button("OK").press()
+        # At once, as it can be helped now, and not again at the end.
+        message = app.message()
+        assert message.text == not_kept(place.folder)
+        assert message.icon == "warning"
+        message.press("OK")
+        app.keys("F5")
+        assert app.main.source.row_count == 1
+        app.close()
+        assert place.beside_program.read_bytes() == SETTINGS
+        assert files(place.folder.program) == before
 
 
 def test_beside_the_program_when_another_program_only_holds_the_file(place, wine):
@@ -114,3 +173,13 @@ def test_beside_the_program_when_another_program_only_holds_the_file(place, wine
     assert kept.startswith(b"; mine\r\n")
     assert b"MainPosition=" in kept
     assert files(place.roaming) == []
+
+
+def test_not_kept_when_another_program_holds_the_file_at_the_end(place, wine):
+    app = place.start()
+    app.main.place(120, 90, 900, 600)
+    before, kept = files(place.folder.program), place.beside_program.read_bytes()
+    with held(place.folder, wine, place.beside_program):
+        assert app.close_with_message() == not_kept(place.folder)
+    assert place.beside_program.read_bytes() == kept
+    assert files(place.folder.program) == before

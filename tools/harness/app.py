@@ -224,6 +224,16 @@ class App:
         self.wait_for_end()
         assert self.exit_code == 0, f"the program ended with {self.exit_code}"
 
+    def close_with_message(self):
+        """The same for a program that has something to say at its end; answers the message's text."""
+        self.main.close()
+        message = self.message()
+        text = message.text
+        message.button("OK").ask("press")
+        self.wait_for_end()
+        assert self.exit_code == 0, f"the program ended with {self.exit_code}"
+        return text
+
     def kill(self):
         """The last resort: ends the process whatever it is doing."""
         if self.exit_code is None:

@@ -382,7 +382,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_ENDSESSION:
             if (wParam != FALSE)
-                form_.UserClosed();
+                form_.SessionEnded();
             return 0;
         case WM_DROPFILES:
             TakeDroppedFiles(DroppedFiles(reinterpret_cast<HDROP>(wParam)));

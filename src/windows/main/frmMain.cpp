@@ -259,6 +259,7 @@ void frmMain::ShowOptions() {
     mAppSpecific& settings = *shared_.settings;
     const std::int32_t useDefaultLanguage = settings.UseDefaultLanguage;
     const std::string languageFile = settings.LanguageFile;
+    bool applied = false;
     options_ = std::make_unique<frmOptions>(
         shared_.toolkit,
         frmOptions::Surroundings{
@@ -268,7 +269,8 @@ void frmMain::ShowOptions() {
             .programFolder = shared_.common.ProgramFolder(),
             .isNoValue = [this](const std::string& text) { return shared_.common.IsNoValue(text); },
             .applySettings =
-                [this] {
+                [this, &applied] {
+                    applied = true;
                     ApplySettings();
                     // The font decides how high the boxes above the panels and the status bar are.
                     layout_.WindowResized();
@@ -277,6 +279,8 @@ void frmMain::ShowOptions() {
             .refreshMainWindow = [this] { Refresh(); }});
     options_->ShowModal(this);
     options_.reset();
+    if (applied && !Unloaded())
+        SayWhatCouldNotBeKept();
     if (settings.UseDefaultLanguage == useDefaultLanguage &&
         EqualsIgnoreCase(settings.LanguageFile, languageFile))
         return;
@@ -294,6 +298,14 @@ void frmMain::ApplyNewLanguage() {
 }
 
 void frmMain::Close() {
+    shared_.profile->Together([this] { SaveAndCloseDialogs(); });
+    SayWhatCouldNotBeKept();
+    // Another program may have closed the window while it waited for that.
+    if (!Unloaded())
+        ShutDown.Raise();
+}
+
+void frmMain::SaveAndCloseDialogs() {
     Attempt([this] { columns_.SaveWidths(); });
     Attempt([this] { layout_.SaveSplitterSettings(); });
     Attempt([this] { shared_.settings->SaveSetting(&SettingsValues::StatusBarVisible); });
@@ -309,7 +321,16 @@ void frmMain::Close() {
     progress_.HideProgress();
     find_.UnloadFindDialog();
     find_.UnloadFilterDialog();
-    ShutDown.Raise();
+}
+
+// Once in a run; not when the system ends, which does not wait for an answer.
+void frmMain::SayWhatCouldNotBeKept() {
+    if (saidNotKept_ || SessionEnds() || shared_.profile->Keep(shared_.common.SettingsFile()))
+        return;
+    saidNotKept_ = true;
+    shared_.toolkit.ShowMessage(
+        this, shared_.Text(text_id::kSettingsNotKept) + "\r\n" + shared_.common.SettingsFile(),
+        mAppCommon::kProgramTitle, toolkit::MessageIcon::Exclamation);
 }
 
 }  // namespace ordalyn

@@ -51,6 +51,8 @@ class frmMain : public toolkit::Form {
     void LoadRecentFiles();
     void SaveRecentFiles();
     void Close();
+    void SaveAndCloseDialogs();
+    void SayWhatCouldNotBeKept();
 
     // Events.
     void FirstActivation();
@@ -91,6 +93,7 @@ class frmMain : public toolkit::Form {
     // When C went down: Ctrl and Alt can be let go before it.
     toolkit::Modifiers heldWithC_;
     bool activated_ = false;
+    bool saidNotKept_ = false;
 };
 
 }  // namespace ordalyn

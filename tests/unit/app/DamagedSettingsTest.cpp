@@ -9,6 +9,7 @@ namespace ordalyn {
 namespace {
 
 using testing::IsEmpty;
+using testing::SizeIs;
 
 constexpr std::string_view kSettings = "C:\\Ordalyn\\Ordalyn.ini";
 
@@ -114,6 +115,9 @@ TEST_F(DamagedSettings, AreAFolder) {
         StartAndWork();
         Main().UserClosed();
         program.reset();
+        // That they could not be kept.
+        EXPECT_THAT(tools.messages, SizeIs(1));
+        tools.messages.clear();
     }
     EXPECT_THAT(system.files.List(kSettings, "*"), IsEmpty());
 }

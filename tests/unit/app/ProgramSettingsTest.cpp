@@ -8,6 +8,7 @@ namespace {
 
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::SizeIs;
 using testing::StartsWith;
 
 constexpr std::string_view kProgramFolder = "C:\\Ordalyn";
@@ -70,10 +71,12 @@ TEST_F(ProtectedProgram, WithoutAPlaceToWriteReadsItsSettingsAndIsUsable) {
     EXPECT_FALSE(TwoPanels());
     EXPECT_EQ(Source().RowCount(), 1);
     Choose("mnuViewTwoPanels");
+    EXPECT_THAT(tools.messages, IsEmpty());
     Close();
     EXPECT_EQ(system.files.Get(kBesideProgram), old);
     EXPECT_EQ(system.files.Get(kUserFile), std::nullopt);
-    EXPECT_THAT(tools.messages, IsEmpty());
+    ASSERT_THAT(tools.messages, SizeIs(1));
+    EXPECT_THAT(tools.messages[0].text, HasSubstr(kBesideProgram));
 }
 
 }  // namespace

@@ -69,6 +69,16 @@ TEST_F(FormLifeTest, ClosingByTheUserUnloads) {
     form.UserClosed();
     EXPECT_EQ(query.Take(), 1);
     EXPECT_TRUE(form.Unloaded());
+    EXPECT_FALSE(form.SessionEnds());
+}
+
+TEST_F(FormLifeTest, TheEndOfTheSessionUnloadsAndIsKnownByThen) {
+    bool known = false;
+    form.Unloading.Subscribe([&] { known = form.SessionEnds(); });
+    form.Show();
+    form.SessionEnded();
+    EXPECT_TRUE(known);
+    EXPECT_TRUE(form.Unloaded());
 }
 
 TEST_F(FormLifeTest, UnloadingTwiceHappensOnce) {

@@ -201,6 +201,14 @@ std::string LogThatDoesNotFit(Speaker& speaker) {
     return other.LastMessage();
 }
 
+std::string SettingsNotKept(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.Start();
+    other.system.files.FailWriting("C:\\Ordalyn\\Ordalyn.ini");
+    other.Main().UserClosed();
+    return other.LastMessage();
+}
+
 std::string MissingRecentFile(Speaker& speaker) {
     speaker.Choose("mnuFileRecentFiles");
     return speaker.LastMessage();
@@ -253,6 +261,10 @@ const std::vector<Situation>& Situations() {
          {kDamaged, "2", "3"},
          LinesPassedOver},
         {Kind::Message, "A log does not fit into memory", {kDamaged}, LogThatDoesNotFit},
+        {Kind::Message,
+         "The settings cannot be written",
+         {"C:\\Ordalyn\\Ordalyn.ini"},
+         SettingsNotKept},
         {Kind::Message, "Before a list is cleared or a read is left", {}, ClearRecentFiles},
         {Kind::Message, "A recent file is gone", {kGone}, MissingRecentFile},
         {Kind::Message, "Nothing is found", {"\"" + std::string(kSought) + "\""}, NothingFound},

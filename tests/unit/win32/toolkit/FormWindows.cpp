@@ -177,6 +177,16 @@ TEST(FormWindow, AButtonMayCloseItsOwnForm) {
     EXPECT_EQ(button.Caption(), "nobody sees this");
 }
 
+TEST(FormWindow, TheEndOfTheSessionClosesItUnlessItIsCalledOff) {
+    Form form(TheToolkit(), kDesign);
+    form.Show();
+    SendMessageW(HandleOf(form), WM_ENDSESSION, FALSE, 0);
+    EXPECT_FALSE(form.Unloaded());
+    SendMessageW(HandleOf(form), WM_ENDSESSION, TRUE, 0);
+    EXPECT_TRUE(form.Unloaded());
+    EXPECT_TRUE(form.SessionEnds());
+}
+
 TEST(FormWindow, AFormOutlivesItsOwnersWindow) {
     Form dialog(TheToolkit(), kDialog);
     {
