@@ -104,7 +104,7 @@ inline constexpr TextId kNoCommanderLog{"4050"};
 inline constexpr TextId kLinesPassedOver{"4051"};
 inline constexpr TextId kFirstPassedOver{"4052"};
 inline constexpr TextId kNotEnoughMemory{"4053"};
-inline constexpr TextId kSettingsNotKept{"5100"};
+inline constexpr TextId kSettingsNotKept{"5104"};
 
 // The main window: columns, lists and status bar.
 inline constexpr TextId kTime{"4000"};

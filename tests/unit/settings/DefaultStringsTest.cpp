@@ -135,7 +135,7 @@ constexpr Expected kExpected[] = {
     {4051, "Lines passed over that are not lines of a log:"},
     {4052, "The first one is line:"},
     {4053, "There is not enough memory for this log:"},
-    {5100, "The settings could not be kept in this file:"},
+    {5104, "The settings could not be kept in this file:"},
 };
 
 TEST(DefaultStrings, TextsAreAsWritten) {
