@@ -66,9 +66,17 @@ def run(program, command, **options):
         return Result(program, output + "\n(ended after a time-out)", -1)
 
 
+def native_environment():
+    """What a test leaves allocated is a failure, whatever whoever starts the tests has set."""
+    options = [os.environ.get("ASAN_OPTIONS"), "detect_leaks=1"]
+    return {**os.environ, "ASAN_OPTIONS": ":".join(filter(None, options))}
+
+
 def run_native(programs):
+    environment = native_environment()
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        for result in pool.map(lambda p: run(p, [p, "--gtest_color=no"]), programs):
+        for result in pool.map(lambda p: run(p, [p, "--gtest_color=no"], env=environment),
+                               programs):
             yield result.checked()
 
 
