@@ -115,6 +115,12 @@ inline constexpr TextId kAllFiles{"4006"};
 inline constexpr TextId kOperations{"4010"};
 inline constexpr TextId kFilterStatus{"4032"};
 
+// What parts without a text of their own are called by programs that speak the screen.
+inline constexpr TextId kDateName{"5100"};
+inline constexpr TextId kLogFileName{"5101"};
+inline constexpr TextId kConditionName{"5102"};
+inline constexpr TextId kLanguageFileName{"5103"};
+
 }  // namespace text_id
 
 }  // namespace ordalyn

@@ -88,6 +88,10 @@ constexpr std::string_view kTable[] = {
     "4051=Lines passed over that are not lines of a log:",
     "4052=The first one is line:",
     "4053=There is not enough memory for this log:",
+    "5100=Date",
+    "5101=Log file",
+    "5102=Condition",
+    "5103=Language file",
     "5104=The settings could not be kept in this file:",
 };
 // clang-format on

@@ -34,6 +34,22 @@ std::string CaptionShowing(std::string_view text) {
     return caption;
 }
 
+std::string CaptionWithoutKey(std::string_view caption) {
+    std::string text;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        // Languages without Latin letters have the key in brackets behind the text.
+        if (caption.substr(i).starts_with("(&") && caption.size() > i + 3 &&
+            caption[i + 3] == ')') {
+            i += 3;
+            continue;
+        }
+        if (caption[i] == '&' && i + 1 < caption.size())
+            ++i;
+        text += caption[i];
+    }
+    return text;
+}
+
 Control::Control(Kind kind, std::string_view name, int index)
     : kind_(kind), name_(name), index_(index), tabStop_(IsUsualTabStop(kind)) {}
 
@@ -121,6 +137,11 @@ char32_t Control::AccessKey() const {
         ++i;
     }
     return 0;
+}
+
+void Control::SetAccessibleName(std::string_view name) {
+    accessibleName_ = name;
+    peer().SetAccessibleName(name);
 }
 
 void Control::SetFont(const toolkit::Font& font) {

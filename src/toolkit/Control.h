@@ -30,6 +30,8 @@ enum class Kind {
 
 // The caption that shows a text which is data (a file name): "&" marks nothing in it.
 std::string CaptionShowing(std::string_view text);
+// What a reader of the caption says: without the mark of its access key.
+std::string CaptionWithoutKey(std::string_view caption);
 
 class Control {
   public:
@@ -68,6 +70,13 @@ class Control {
     virtual void SetCaption(std::string_view caption);  // "&" marks the access key
     // The folded character that the caption marks; 0 for none.
     virtual char32_t AccessKey() const;
+    // What programs that speak the screen call a control that has no text of its own and no label
+    // before it.
+    const std::string& AccessibleName() const { return accessibleName_; }
+    void SetAccessibleName(std::string_view name);
+    // The id of that text; empty when the control needs none.
+    const std::string& NameTag() const { return nameTag_; }
+    void SetNameTag(std::string_view tag) { nameTag_ = tag; }
     const toolkit::Font& Font() const { return font_; }
     void SetFont(const toolkit::Font& font);
     Color ForeColor() const { return foreColor_; }
@@ -133,6 +142,8 @@ class Control {
     bool enabled_ = true;
     bool tabStop_;
     std::string caption_;
+    std::string nameTag_;
+    std::string accessibleName_;
     toolkit::Font font_;
     Color foreColor_ = kWindowText;
     Color backColor_ = kButtonFace;

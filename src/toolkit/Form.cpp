@@ -104,6 +104,7 @@ void Form::CreateControls(const FormDesign& design) {
         controls_.push_back(CreateControl(toolkit_, row, ContainerOf(row)));
         Control& control = *controls_.back();
         control.SetTag(row.tag);
+        control.SetNameTag(row.nameTag);
         if (!row.visible)
             control.SetVisible(false);
         if (row.tabStop)

@@ -32,6 +32,8 @@ struct ControlDesign {
     bool isCancel = false;   // command buttons: pressed by Escape
     // Whether Tab stops at it; unset: as is usual for the kind (it does not stop at labels).
     std::optional<bool> tabStop = {};
+    // The id of what it is called where nothing on the screen says it (see SetAccessibleName).
+    const char* nameTag = "";
 };
 
 struct MenuDesign {

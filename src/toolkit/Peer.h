@@ -33,6 +33,7 @@ class ControlPeer {
     virtual void SetPointer(Pointer pointer) = 0;
     virtual void SetToolTip(std::string_view text) = 0;
     virtual void SetTabStop(bool tabStop) = 0;
+    virtual void SetAccessibleName(std::string_view name) = 0;
     virtual void BringToFront() = 0;
     virtual void TakeFocus() = 0;
     // Whether the user can use it now: it and everything around it are visible and enabled.

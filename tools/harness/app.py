@@ -287,10 +287,9 @@ class MainWindow(Window):
     @property
     def splitter(self):
         """The bar between the two panels."""
-        panels = [self.source.handle, self.target.handle]
         container = self.target.info["parent"]
         for control in self.ask("tree"):
-            if control["parent"] == container and control["handle"] not in panels:
+            if control["parent"] == container and control["class"] == "Button":
                 return Control(self.app, control["handle"])
         raise AgentError("there is no splitter")
 

@@ -122,9 +122,9 @@ class OptionsDialog(Dialog):
 
     @property
     def colours(self):
-        """lblColorChange(0) and (1): the only labels without a text."""
-        return sorted((label for label in self.controls("Static", None) if not label.text),
-                      key=lambda label: label.rect.top)
+        """lblColorChange(0) and (1): the only labels that draw themselves (SS_OWNERDRAW)."""
+        return sorted((label for label in self.controls("Static", None)
+                       if label.info["style"] & 0x1F == 0xD), key=lambda label: label.rect.top)
 
 
 __all__ = ["Dialog", "FilterDialog", "FindDialog", "OptionsDialog", "PopUpMenu", "center",

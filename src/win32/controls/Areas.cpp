@@ -14,8 +14,20 @@ LabelWindow::LabelWindow(Desktop& desktop, Label& label, ControlPeer& container)
 }
 
 void LabelWindow::SetReadingOrder(bool rightToLeft, Alignment alignment) {
-    ChangeStyle(GWL_STYLE, SS_TYPEMASK, alignment == Alignment::Right ? SS_RIGHT : SS_LEFT);
+    if (!drawsItself_)
+        ChangeStyle(GWL_STYLE, SS_TYPEMASK, alignment == Alignment::Right ? SS_RIGHT : SS_LEFT);
     ShowReadingOrder(rightToLeft);
+}
+
+// The name is the window's own text, which is not drawn: the label is there for its colour.
+void LabelWindow::SetAccessibleName(std::string_view name) {
+    drawsItself_ = true;
+    ChangeStyle(GWL_STYLE, SS_TYPEMASK, SS_OWNERDRAW);
+    ShowCaption(CaptionShowing(name));
+}
+
+void LabelWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    FillRect(item.hDC, &item.rcItem, BackBrush());
 }
 
 void LabelWindow::SetPlainText(bool plain) {

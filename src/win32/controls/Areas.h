@@ -11,12 +11,16 @@ class LabelWindow : public Peer<toolkit::LabelPeer> {
     LabelWindow(Desktop& desktop, toolkit::Label& label, toolkit::ControlPeer& container);
     void SetReadingOrder(bool rightToLeft, toolkit::Alignment alignment) override;
     void SetPlainText(bool plain) override;
+    // For a label that only shows a colour.
+    void SetAccessibleName(std::string_view name) override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
     void MarkFocus();
+    bool drawsItself_ = false;
 };
 
 // A group box; without a caption and a border it is a bare area of its back colour that feels the

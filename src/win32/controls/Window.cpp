@@ -40,9 +40,6 @@ Window::Window(Desktop& desktop, Control& control, const Look& look, ControlPeer
                     std::to_string(GetLastError()) + ")");
     SetWindowSubclass(handle_, Procedure, kPeerSubclass, reinterpret_cast<DWORD_PTR>(this));
     SetPropW(handle_, kObject, this);
-    // Controls that were made later lie above those made before.
-    if (child)
-        RaiseToTop();
 }
 
 // The control may be half destroyed: it is not notified of the end of its window.
@@ -51,6 +48,8 @@ Window::~Window() {
         return;
     const HWND window = handle_;
     handle_ = nullptr;
+    if (label_ != nullptr)
+        DestroyWindow(label_);
     RemovePropW(window, kObject);
     RemoveWindowSubclass(window, Procedure, kPeerSubclass);
     DestroyWindow(window);
@@ -336,6 +335,8 @@ void Window::MoveInto(ControlPeer& container) {
     if (parent == nullptr || GetAncestor(handle_, GA_PARENT) == parent)
         return;
     SetParent(handle_, parent);
+    if (label_ != nullptr)
+        SetParent(label_, parent);
     PlaceWindow(wanted_);
     RaiseToTop();
 }
@@ -400,6 +401,31 @@ void Window::ShowTabStop(bool tabStop) {
 
 void Window::RaiseToTop() {
     SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    PutLabelBeforeControl();
+}
+
+// The system calls a control that shows no text of its own by the label that stands right before it
+// among the windows of its container. A hidden one serves where none is to be seen.
+void Window::ShowAccessibleName(std::string_view name) {
+    if (handle_ == nullptr || (GetWindowLongW(handle_, GWL_STYLE) & WS_CHILD) == 0)
+        return;
+    const std::wstring text = WideForOneLine(name);
+    if (label_ == nullptr)
+        label_ =
+            CreateWindowExW(0, WC_STATICW, text.c_str(), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0,
+                            GetAncestor(handle_, GA_PARENT), nullptr, desktop_.program, nullptr);
+    else
+        SetWindowTextW(label_, text.c_str());
+    PutLabelBeforeControl();
+}
+
+void Window::PutLabelBeforeControl() {
+    if (label_ == nullptr || handle_ == nullptr)
+        return;
+    const HWND before = GetWindow(handle_, GW_HWNDPREV);
+    if (before != label_)
+        SetWindowPos(label_, before != nullptr ? before : HWND_TOP, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void Window::Focus() {

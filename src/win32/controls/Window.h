@@ -55,6 +55,7 @@ class Window {
     void ShowPointer();
     void ShowToolTip(std::string_view text);
     void ShowTabStop(bool tabStop);
+    void ShowAccessibleName(std::string_view name);
     void RaiseToTop();
     void Focus();
     void RepaintNow();
@@ -96,10 +97,12 @@ class Window {
     LRESULT MouseMoved(UINT message, WPARAM wParam, LPARAM lParam);
     void RaiseRelease(int button, POINT at);
     bool ChoosePointer(LPARAM lParam) const;
+    void PutLabelBeforeControl();
 
     Desktop& desktop_;
     toolkit::Control& control_;
     HWND handle_ = nullptr;
+    HWND label_ = nullptr;  // says what the control is called; see ShowAccessibleName
     std::shared_ptr<const int> lifetime_ = std::make_shared<const int>(0);
     toolkit::Rect wanted_;
     std::shared_ptr<FontHandle> font_;
@@ -137,6 +140,7 @@ class Peer : public Interface, public Window {
     void SetPointer(toolkit::Pointer) override { ShowPointer(); }
     void SetToolTip(std::string_view text) override { ShowToolTip(text); }
     void SetTabStop(bool tabStop) override { ShowTabStop(tabStop); }
+    void SetAccessibleName(std::string_view name) override { ShowAccessibleName(name); }
     void BringToFront() override { RaiseToTop(); }
     void TakeFocus() override { Focus(); }
     bool CanTakeInput() const override { return Window::CanTakeInput(); }

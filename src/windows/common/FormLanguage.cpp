@@ -75,6 +75,11 @@ void FormLanguage::ApplyToControl(toolkit::Control& control, bool rightToLeft) c
                                                  : toolkit::Alignment::Left);
         });
     }
+    if (!control.NameTag().empty()) {
+        Attempt([&] {
+            control.SetAccessibleName(toolkit::CaptionWithoutKey(TextOf(control.NameTag())));
+        });
+    }
     if (kind == Kind::ToolBar) {
         auto& toolBar = static_cast<toolkit::ToolBar&>(control);
         for (int number = 1; number <= toolBar.ButtonCount(); ++number)

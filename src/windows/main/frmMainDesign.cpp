@@ -17,16 +17,21 @@ constexpr toolkit::Twips kEdge = 15;
 // In tab order. The combo boxes decide on their own heights, the status bar on its place, and the
 // layout places the rest.
 constexpr toolkit::ControlDesign kControls[] = {
-    {.kind = Kind::ComboBox, .name = "cboDate", .bounds = {kEdge, kComboTop, kComboWidth, 315}},
+    {.kind = Kind::ComboBox,
+     .name = "cboDate",
+     .bounds = {kEdge, kComboTop, kComboWidth, 315},
+     .nameTag = text_id::kDateName.tag},
     {.kind = Kind::ComboBox,
      .name = "cboFiles",
      .bounds = {kEdge + kComboWidth + 90, kComboTop, kComboWidth, 315},
-     .visible = false},
+     .visible = false,
+     .nameTag = text_id::kLogFileName.tag},
     {.kind = Kind::PictureBox, .name = "picSpliterContainer", .bounds = {kEdge, 405, 11880, 6600}},
     {.kind = Kind::ListView,
      .name = "SourceListView",
      .bounds = {0, 0, 11880, 4000},
-     .container = "picSpliterContainer"},
+     .container = "picSpliterContainer",
+     .nameTag = text_id::kSource.tag},
     {.kind = Kind::Frame,
      .name = "Frame1",
      .bounds = {0, 4000, 11880, 45},
@@ -34,8 +39,12 @@ constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::ListView,
      .name = "TargetListView",
      .bounds = {0, 4045, 11880, 2555},
-     .container = "picSpliterContainer"},
-    {.kind = Kind::StatusBar, .name = "StatusBar1", .bounds = {0, 7000, 11880, 330}},
+     .container = "picSpliterContainer",
+     .nameTag = text_id::kTarget.tag},
+    {.kind = Kind::StatusBar,
+     .name = "StatusBar1",
+     .bounds = {0, 7000, 11880, 330},
+     .nameTag = text_id::kStatusBar.tag},
 };
 
 constexpr Modifiers kControl{.control = true};

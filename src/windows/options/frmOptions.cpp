@@ -33,7 +33,10 @@ constexpr Twips kButtonRow[] = {kTabWidth + 120 - 3 * kButtonWidth - 240,
                                 kTabWidth + 120 - kButtonWidth};
 
 constexpr toolkit::ControlDesign kControls[] = {
-    {.kind = Kind::TabStrip, .name = "tbsOptions", .bounds = {120, 120, kTabWidth, kTabHeight}},
+    {.kind = Kind::TabStrip,
+     .name = "tbsOptions",
+     .bounds = {120, 120, kTabWidth, kTabHeight},
+     .nameTag = text_id::kOptionsTitle.tag},
 
     // Page 1: layout.
     {.kind = Kind::PictureBox,
@@ -82,7 +85,8 @@ constexpr toolkit::ControlDesign kControls[] = {
      .bounds = {1890, 360, 780, 330},
      .container = "Frame7",
      .index = kForeground,
-     .tabStop = true},
+     .tabStop = true,
+     .nameTag = text_id::kForeground.tag},
     {.kind = Kind::Label,
      .name = "Label4",
      .tag = text_id::kBackground.tag,
@@ -93,7 +97,8 @@ constexpr toolkit::ControlDesign kControls[] = {
      .bounds = {1890, 900, 780, 330},
      .container = "Frame7",
      .index = kBackground,
-     .tabStop = true},
+     .tabStop = true,
+     .nameTag = text_id::kBackground.tag},
     {.kind = Kind::Frame,
      .name = "Frame3",
      .tag = text_id::kFontName.tag,
@@ -130,7 +135,8 @@ constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::TextBox,
      .name = "txtLanguageFilePath",
      .bounds = {450, 1140, 4695, 345},
-     .container = "Frame4"},
+     .container = "Frame4",
+     .nameTag = text_id::kLanguageFileName.tag},
     {.kind = Kind::CommandButton,
      .name = "cmdBrowseForLangFile",
      .bounds = {5235, 1140, 465, 345},

@@ -58,6 +58,7 @@ void AddControlCommands(Commands& commands);
 void AddListCommands(Commands& commands);
 void AddInputCommands(Commands& commands);
 void AddClipboardCommands(Commands& commands);
+void AddAccessibleCommands(Commands& commands);
 void AddResourceCommands(Commands& commands);
 
 // Answers requests on a loopback port until the program ends; writes the port's number to the file

@@ -14,6 +14,7 @@ Commands AllCommands() {
     AddListCommands(commands);
     AddInputCommands(commands);
     AddClipboardCommands(commands);
+    AddAccessibleCommands(commands);
     AddResourceCommands(commands);
     commands["ping"] = [](const Json&) -> Json {
         return Json::Object{{"process", GetCurrentProcessId()},

@@ -65,6 +65,7 @@ class Peer : public Interface, public HasShown {
     void SetPointer(toolkit::Pointer pointer) override { shown.pointer = pointer; }
     void SetToolTip(std::string_view text) override { shown.toolTip = text; }
     void SetTabStop(bool tabStop) override { shown.tabStop = tabStop; }
+    void SetAccessibleName(std::string_view name) override { shown.accessibleName = name; }
     void BringToFront() override { ++shown.broughtToFront; }
     void TakeFocus() override {
         if (toolkit_.focus == &control_)

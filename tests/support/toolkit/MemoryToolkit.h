@@ -29,6 +29,7 @@ struct Shown {
     toolkit::Alignment alignment = toolkit::Alignment::Left;
     toolkit::Pointer pointer = toolkit::Pointer::Default;
     std::string toolTip;
+    std::string accessibleName;
     std::optional<bool> tabStop;  // what the control was designed with
     bool plainText = false;
     int refreshes = 0;

@@ -46,7 +46,7 @@ TEST(DefaultStrings, TheTableIsOrderedAndHasEachIdOnce) {
         EXPECT_GT(id, before);
         before = id;
     }
-    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 81U);
+    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 85U);
 }
 
 // Translators and settings files know the texts by these numbers.
@@ -135,6 +135,10 @@ constexpr Expected kExpected[] = {
     {4051, "Lines passed over that are not lines of a log:"},
     {4052, "The first one is line:"},
     {4053, "There is not enough memory for this log:"},
+    {5100, "Date"},
+    {5101, "Log file"},
+    {5102, "Condition"},
+    {5103, "Language file"},
     {5104, "The settings could not be kept in this file:"},
 };
 

@@ -10,6 +10,15 @@ namespace {
 using test::Counter;
 using ControlTest = test::SampleTest;
 
+TEST(Caption, WithoutItsKeyIsWhatAReaderSays) {
+    EXPECT_EQ(CaptionWithoutKey("Status &Bar"), "Status Bar");
+    EXPECT_EQ(CaptionWithoutKey("R&&D"), "R&D");
+    EXPECT_EQ(CaptionWithoutKey("状态栏(&B)"), "状态栏");
+    EXPECT_EQ(CaptionWithoutKey("a (&"), "a (&");
+    EXPECT_EQ(CaptionWithoutKey("&"), "&");
+    EXPECT_EQ(CaptionWithoutKey(""), "");
+}
+
 TEST_F(ControlTest, TabStopsAtTheKindsThatAUserWorksWith) {
     std::vector<Kind> kinds;
     for (const auto& control : form.Controls()) {

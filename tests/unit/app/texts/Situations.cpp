@@ -44,6 +44,7 @@ std::string WindowLines(const toolkit::Form& form) {
     for (const auto& control : form.Controls()) {
         const Shown& shown = MemoryToolkit::Of(*control);
         lines.Add(control->Caption());
+        lines.Add(control->AccessibleName());
         for (const std::string& tab : shown.tabs)
             lines.Add(tab);
         if (control->ControlKind() == toolkit::Kind::ComboBox) {
@@ -128,6 +129,8 @@ std::string Menus(Speaker& speaker) {
 
 std::string MainWindow(Speaker& speaker) {
     Lines lines;
+    lines.Add(speaker.Date().AccessibleName());
+    lines.Add(speaker.Files().AccessibleName());
     lines.Add(speaker.Date().List(0));
     lines.Add(speaker.Files().List(0));
     lines.Add(speaker.Source().ColumnCaption(0));

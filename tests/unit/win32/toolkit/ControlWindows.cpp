@@ -37,6 +37,66 @@ RECT InsideParent(HWND window) {
     return rect;
 }
 
+// The label right before the window among its siblings, as the system's objects for programs that
+// speak the screen look for it.
+std::wstring LabelBefore(HWND window) {
+    const HWND label = GetWindow(window, GW_HWNDPREV);
+    wchar_t name[64] = {};
+    if (label == nullptr || !GetClassNameW(label, name, 64) || _wcsicmp(name, L"Static") != 0)
+        return L"";
+    GetWindowTextW(label, name, 64);
+    return name;
+}
+
+TEST_F(Controls, WindowsLieInTheOrderOfTheDesign) {
+    const HWND box = Child(form, L"Edit");
+    const HWND later = Child(form, L"msctls_statusbar32");
+    std::vector<HWND> behind;
+    for (HWND next = box; next != nullptr; next = GetWindow(next, GW_HWNDNEXT))
+        behind.push_back(next);
+    EXPECT_NE(std::find(behind.begin(), behind.end(), later), behind.end());
+}
+
+TEST_F(Controls, ANameStandsRightBeforeItsControlWhereverThatGoes) {
+    const HWND list = Child(form, L"ComboBox");
+    const HWND box = Child(form, L"ComboBox", 1);
+    EXPECT_EQ(LabelBefore(list), L"");
+    form.Get<ComboBox>("cboList").SetAccessibleName("Größe & Art");
+    form.Get<ComboBox>("cboEdit").SetAccessibleName("Box");
+    EXPECT_EQ(LabelBefore(list), L"Größe & Art");
+    EXPECT_EQ(LabelBefore(box), L"Box");
+    EXPECT_FALSE(IsWindowVisible(GetWindow(list, GW_HWNDPREV)));
+    form.Get<ComboBox>("cboList").SetAccessibleName("Größe");
+    EXPECT_EQ(LabelBefore(list), L"Größe");
+    form.Get<ComboBox>("cboEdit").BringToFront();
+    EXPECT_EQ(LabelBefore(box), L"Box");
+    form.Get<ComboBox>("cboList").SetContainer(form.Get<PictureBox>("pic"));
+    EXPECT_EQ(LabelBefore(list), L"Größe");
+    EXPECT_EQ(LabelBefore(box), L"Box");
+    form.Get<ComboBox>("cboList").SetContainer(form);
+    EXPECT_EQ(LabelBefore(list), L"Größe");
+}
+
+TEST_F(Controls, ALabelThatShowsAColourHasItsNameForAText) {
+    auto& label = form.Get<Label>("lbl");
+    const HWND window = Child(form, L"Static");
+    label.SetBackColor(0x00FF8040);
+    label.SetAccessibleName("R&D");
+    wchar_t text[64] = {};
+    GetWindowTextW(window, text, 64);
+    EXPECT_STREQ(text, L"R&&D");
+    label.SetTextAlignment(Alignment::Right);
+    // The text is not drawn.
+    label.Refresh();
+    RECT inside = {};
+    GetClientRect(window, &inside);
+    const HDC dc = GetDC(window);
+    for (int y = 0; y < inside.bottom; ++y)
+        for (int x = 0; x < inside.right; x += 3)
+            ASSERT_EQ(GetPixel(dc, x, y), COLORREF{0x00FF8040}) << x << ", " << y;
+    ReleaseDC(window, dc);
+}
+
 TEST_F(Controls, NeighboursInTwipsAreNeighboursOnTheScreen) {
     auto& bar = form.Get<Frame>("Bar");
     auto& label = form.Get<Label>("lbl");
@@ -334,6 +394,7 @@ TEST_F(Controls, ALabelOfPlainTextDrawsNoMarks) {
 
 TEST_F(Controls, TheCurrentToolBarButtonIsMarkedWhileTheBarHasTheFocus) {
     auto& bar = form.Get<ToolBar>("Toolbar1");
+    bar.BringToFront();  // the picture box was made before it and covers it
     bar.AddButton("", "apply-filter", true);
     bar.AddButton("", "separator", false);
     bar.AddButton("", "remove-filter", true);

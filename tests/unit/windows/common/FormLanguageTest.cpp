@@ -23,7 +23,7 @@ constexpr toolkit::ControlDesign kControls[] = {
     {.kind = Kind::Frame, .name = "fra", .tag = "255"},
     {.kind = Kind::TextBox, .name = "txt", .tag = "4000"},
     {.kind = Kind::ComboBox, .name = "cbo", .tag = "4000", .editable = true},
-    {.kind = Kind::ListView, .name = "list", .tag = "4000"},
+    {.kind = Kind::ListView, .name = "list", .tag = "4000", .nameTag = "143"},
     {.kind = Kind::PictureBox, .name = "pic", .tag = "4000"},
     {.kind = Kind::StatusBar, .name = "bar", .tag = "4000"},
     {.kind = Kind::ToolBar, .name = "tools"},
@@ -125,6 +125,13 @@ TEST_F(ApplyLanguage, KindsWithoutACaptionAreNotGivenOne) {
     for (const char* name : {"txt", "cbo", "list", "pic", "bar", "tools", "tabs"})
         EXPECT_EQ(Caption(name), std::string("design ") + name);
     EXPECT_EQ(form.Get<toolkit::TextBox>("txt").Text(), "typed");
+}
+
+TEST_F(ApplyLanguage, WhatHasNoTextIsGivenANameWithoutTheMarkOfAKey) {
+    language.ApplyLanguage(form);
+    EXPECT_EQ(form.Get<toolkit::Control>("list").AccessibleName(), "Status Bar");
+    EXPECT_EQ(MemoryToolkit::Of(form.Get<toolkit::Control>("list")).accessibleName, "Status Bar");
+    EXPECT_EQ(form.Get<toolkit::Control>("cbo").AccessibleName(), "");
 }
 
 TEST_F(ApplyLanguage, ToolBarButtonsGetToolTips) {

@@ -26,6 +26,11 @@ class Progress : public testing::Test {
                             [this] { return now; }};
 };
 
+TEST_F(Progress, TheBarHasAName) {
+    progress.PrepareCompact();
+    EXPECT_EQ(progress.Window()->ProgressBar1.NameTag(), "3250");
+}
+
 TEST_F(Progress, TheCompactFormHasTheBarAlone) {
     progress.PrepareCompact();
     progress.ShowProgress("Reading", 40);
