@@ -16,6 +16,9 @@ import sys
 # uses or may come to use. comctl32, uxtheme, version and dwmapi are in none of these registries.
 KNOWN_LIBRARIES = frozenset(
     "advapi32 comdlg32 gdi32 kernel32 msvcrt ole32 oleaut32 shell32 shlwapi user32".split())
+# The functions that every Windows from 7 on has, as far as the program uses them.
+FUNCTIONS = "tools/windows7_functions.txt"
+WINDOWS = ("XP", "Vista", "7")
 # This one comes from the system's side-by-side store when the manifest asks for its version 6, before any
 # folder is looked into.
 FROM_STORE = "comctl32"
@@ -57,17 +60,30 @@ class Program:
                 return address - start + place
         raise ValueError(f"nothing lies at {address:#x}")
 
+    def text(self, address):
+        at = self.offset(address)
+        return self.content[at:self.content.index(b"\0", at)].decode("ascii")
+
     def imports(self):
-        """The names of the libraries, in small letters, without ".dll"."""
+        """The names of the functions by library, whose name is in small letters and without ".dll"."""
         address, size = self.directories[IMPORTS]
-        names = []
-        while size and (name := struct.unpack_from("<12xI", self.content,
-                                                   self.offset(address))[0]):
-            at = self.offset(name)
-            end = self.content.index(b"\0", at)
-            names.append(self.content[at:end].decode("ascii").lower().removesuffix(".dll"))
+        found = {}
+        while size:
+            names, _, _, library, places = struct.unpack_from("<5I", self.content, self.offset(address))
+            if not library:
+                break
+            found.setdefault(self.text(library).lower().removesuffix(".dll"), []).extend(
+                self.functions(names or places))
             address += 20
-        return names
+        return found
+
+    def functions(self, address):
+        """A library's list of functions. One that is asked for by its number is named by it."""
+        form, last = ("<Q", 63) if self.wide else ("<I", 31)
+        at = self.offset(address)
+        while entry := struct.unpack_from(form, self.content, at)[0]:
+            yield f"number {entry & 0xFFFF}" if entry >> last else self.text(entry + 2)
+            at += struct.calcsize(form)
 
     def resources(self, kind):
         """The contents of all resources of a kind."""
@@ -125,6 +141,25 @@ def complaints_of_libraries(program, manifest):
             yield f"it would take {library} from its own folder if one lay there"
 
 
+def functions_of_windows7(text):
+    """The pairs of library and function in the list, which says of each since which Windows it exists."""
+    rows = [row.split() for row in text.splitlines() if row and not row.startswith("#")]
+    for library, function, since in rows:
+        if since not in WINDOWS:
+            raise ValueError(f"{FUNCTIONS}: Windows 7 does not have {function} of {library}")
+    return {(library, function) for library, function, _ in rows}
+
+
+def complaints_of_functions(program):
+    """A Windows does not start a program when it lacks one function that the program is linked with."""
+    file = pathlib.Path(__file__).resolve().parents[1] / FUNCTIONS
+    known = functions_of_windows7(file.read_text(encoding="utf-8"))
+    for library, functions in program.imports().items():
+        for function in functions:
+            if (library, function) not in known:
+                yield f"it needs {function} of {library}, which {FUNCTIONS} does not have"
+
+
 def complaints(content, architecture):
     """Everything that is wrong with a program, a sentence each."""
     program = Program(content)
@@ -136,6 +171,7 @@ def complaints(content, architecture):
     yield from complaints_of_memory(program)
     yield from complaints_of_manifest(manifest, architecture)
     yield from complaints_of_libraries(program, manifest)
+    yield from complaints_of_functions(program)
 
 
 def main():

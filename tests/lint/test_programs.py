@@ -77,6 +77,34 @@ def test_the_wide_program_uses_the_whole_memory(tmp_path, option):
         "it does not use the whole memory for its place"]
 
 
+@pytest.mark.parametrize("architecture", COMPILERS)
+@pytest.mark.parametrize("library, function, call", [
+    ("kernel32", "GetSystemTimePreciseAsFileTime", "GetSystemTimePreciseAsFileTime((FILETIME *)a);"),
+    ("kernel32", "SetDefaultDllDirectories", "SetDefaultDllDirectories(0x800);"),
+    ("user32", "GetDpiForWindow", "GetDpiForWindow((HWND)a);")])
+def test_a_function_that_windows_7_does_not_have_is_named(tmp_path, architecture, library, function, call):
+    program = build(tmp_path, architecture, options=["-D_WIN32_WINNT=0x0A00"], inside=call)
+    assert list(check_program.complaints(program, architecture)) == [
+        f"it needs {function} of {library}, which tools/windows7_functions.txt does not have"]
+
+
+@pytest.mark.parametrize("architecture", COMPILERS)
+def test_a_function_that_is_asked_for_by_its_number_is_named(tmp_path, architecture):
+    (tmp_path / "trial.def").write_text("LIBRARY user32.dll\nEXPORTS\nByNumber @900 NONAME\n")
+    compiler = COMPILERS[architecture]
+    subprocess.run([f"{compiler}-dlltool", "-d", "trial.def", "-l", "libtrial.a"], cwd=tmp_path, check=True)
+    program = build(tmp_path, architecture, before="void ByNumber(void);", inside="ByNumber();",
+                    libraries=["-L.", "-ltrial"])
+    assert list(check_program.complaints(program, architecture)) == [
+        "it needs number 900 of user32, which tools/windows7_functions.txt does not have"]
+
+
+def test_the_list_takes_nothing_that_came_after_windows_7():
+    with pytest.raises(ValueError, match="Windows 7 does not have GetDpiForWindow of user32"):
+        check_program.functions_of_windows7("# what it is\n\nuser32 GetDC XP\nuser32 GetDpiForWindow 10\n")
+    assert check_program.functions_of_windows7("user32 GetDC XP\n") == {("user32", "GetDC")}
+
+
 def test_libraries_that_are_loaded_later_are_named(tmp_path):
     program = bytearray(build(tmp_path, "amd64"))
     start = int.from_bytes(program[0x3C:0x40], "little")
