@@ -127,6 +127,9 @@ def complaints_of_manifest(manifest, architecture):
     levels = re.findall(r"<requestedExecutionLevel\s([^>]*)/>", manifest)
     if len(levels) != 1 or 'level="asInvoker"' not in levels[0] or 'uiAccess="false"' not in levels[0]:
         yield "its manifest does not ask for the rights of who starts it, and no others"
+    # Each Windows takes the first one that it knows, and those that know none of the first line the second.
+    if ">PerMonitorV2, PerMonitor</dpiAwareness>" not in manifest or ">true/pm</dpiAware>" not in manifest:
+        yield "its manifest does not say that it draws for the resolution of each screen"
 
 
 def complaints_of_libraries(program, manifest):

@@ -180,9 +180,11 @@ void Form::SetClientHeight(Twips height) {
 }
 
 void Form::CentreOnScreen() {
-    const Rect area = toolkit_.WorkArea();
-    Move({area.left + (area.width - Width()) / 2, area.top + (area.height - Height()) / 2, Width(),
-          Height()});
+    const Rect area = peer_->WorkArea();
+    const auto twips =
+        static_cast<Twips>(toolkit_.ScreenTwips({area.left, area.top, Width(), Height()}));
+    Move({area.left + (area.width - Width() * twips) / 2,
+          area.top + (area.height - Height() * twips) / 2, Width(), Height()});
 }
 
 WindowState Form::State() const {
@@ -263,6 +265,13 @@ void Form::SystemResized(const Rect& outer, WindowState state) {
     SetBoundsOnly(outer);
     if (!sameSize)
         Resize.Raise();
+}
+
+void Form::SystemRescaled(const Rect& outer) {
+    if (unloaded_)
+        return;
+    SetBoundsOnly(outer);
+    Resize.Raise();
 }
 
 }  // namespace ordalyn::toolkit

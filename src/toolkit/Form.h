@@ -93,6 +93,9 @@ class Form : public Control {
     void SessionEnded();
     void SystemActivated(bool byClickOnControl = false);
     void SystemResized(const Rect& outer, WindowState state);
+    // It has another resolution: the same twips are other pixels, and its frame, and what decides
+    // on its own height, take other twips than before.
+    void SystemRescaled(const Rect& outer);
 
   private:
     void CreateControls(const FormDesign& design);

@@ -144,7 +144,7 @@ class MenuPeer {
 class FormPeer : public ControlPeer, public MenuPeer {
   public:
     // Place() of a form takes and returns outer bounds, from the screen's top left corner. The
-    // outer bounds are those of the frame that can be seen.
+    // outer bounds are those of the frame that can be seen. See Toolkit::ScreenTwips.
     virtual Size ClientSize() = 0;                  // twips inside the frame and below the menu
     virtual Rect OuterFor(const Size& client) = 0;  // outer bounds whose inside has that size
     // Shows the form, not modal. The owner, when given, stays below it.
@@ -154,6 +154,9 @@ class FormPeer : public ControlPeer, public MenuPeer {
     virtual void EndModal() = 0;  // nothing for a form that is not modal
     virtual void SetWindowState(WindowState state) = 0;
     virtual WindowState CurrentWindowState() = 0;
+    // Of the screen that the form is on. One that is not shown yet will be on that of the form
+    // that the user works with.
+    virtual Rect WorkArea() = 0;
     virtual std::uintptr_t Handle() = 0;
     // The command button that looks as if Enter pressed it while no other button has the focus;
     // null: none.

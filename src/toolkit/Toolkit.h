@@ -63,6 +63,11 @@ class Toolkit {
     virtual double TwipsPerPixelY() = 0;
     virtual Rect WorkArea() = 0;                // of the primary screen, twips
     virtual std::vector<Rect> WorkAreas() = 0;  // of all screens, the primary one first
+    // Screens may differ in their resolution. Places, and the sizes of screens, are in the same
+    // twips on all of them; a form's size is in those of the screen that it is on, so that it looks
+    // as large everywhere. Returns how many of the former one of the latter is, for a form with
+    // these outer bounds.
+    virtual double ScreenTwips(const Rect& outer) = 0;
     // The smallest outer size that the system lets a user give a window with a title bar, twips.
     virtual Size LeastFormSize() = 0;
     virtual void SetPointer(Pointer pointer) = 0;  // over all of the program's windows

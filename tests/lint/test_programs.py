@@ -23,6 +23,8 @@ MORE_RIGHTS = ("asInvoker", "requireAdministrator")
 OTHERS_WINDOWS = ('uiAccess="false"', 'uiAccess="true"')
 OLD_CONTROLS = ('version="6.0.0.0"', 'version="5.82.0.0"')
 OTHER_CONTROLS = ("6595b64144ccf1df", "0000000000000000")
+ONE_RESOLUTION = ("PerMonitorV2, PerMonitor", "System")
+NEWER_ONLY = ("true/pm", "true")
 ITS_PLACE = "it lies at the same place in memory at each start"
 
 
@@ -61,6 +63,10 @@ def test_a_program_that_is_made_as_the_projects_own_has_no_faults(tmp_path, arch
      "its manifest does not ask for the rights of who starts it, and no others"),
     ({"manifest": OLD_CONTROLS}, "it would take comctl32 from its own folder if one lay there"),
     ({"manifest": OTHER_CONTROLS}, "it would take comctl32 from its own folder if one lay there"),
+    ({"manifest": ONE_RESOLUTION},
+     "its manifest does not say that it draws for the resolution of each screen"),
+    ({"manifest": NEWER_ONLY},
+     "its manifest does not say that it draws for the resolution of each screen"),
     ({"inside": 'GetFileVersionInfoSizeA("a", 0);', "libraries": ["-lversion"]},
      "it would take version from its own folder if one lay there"),
     ({"version": False}, "it has no version resource"),

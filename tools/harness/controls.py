@@ -350,6 +350,12 @@ class Window(Control):
         self.ask("place", left=left, top=top, width=width, height=height)
         self.app.settle()
 
+    def come_to_screen(self, dpi, left, top, width, height):
+        """Tells the window what the system would on a screen of this resolution, where it proposes the
+        place and size."""
+        self.ask("changeResolution", dpi=dpi, left=left, top=top, width=width, height=height)
+        self.app.settle()
+
     def move(self, left, top):
         rect = self.rect
         self.place(left, top, rect.right - rect.left, rect.bottom - rect.top)

@@ -46,6 +46,7 @@ using Library = Owned<HMODULE, FreeLibrary>;
 using GlobalBlock = Owned<HGLOBAL, GlobalFree>;
 using OwnedWindow = Owned<HWND, DestroyWindow>;
 using Menu = Owned<HMENU, DestroyMenu>;
+using Icon = Owned<HICON, DestroyIcon>;
 using DroppedFiles = Owned<HDROP, DragFinish>;
 
 using FontHandle = Owned<HFONT, DeleteObject>;

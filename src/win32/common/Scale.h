@@ -1,4 +1,4 @@
-// Twips and pixels at the screen's resolution. The only place that knows both.
+// Twips and pixels at a resolution. The only place that knows both.
 #pragma once
 
 #include "toolkit/Basics.h"
@@ -8,9 +8,10 @@ namespace ordalyn::win32 {
 
 class Scale {
   public:
-    Scale();  // of the screen
+    Scale();  // of the system: that of its main screen when the user signed in
     Scale(int dpiX, int dpiY) : dpiX_(dpiX), dpiY_(dpiY) {}
 
+    bool operator==(const Scale&) const = default;
     int DpiX() const { return dpiX_; }
     int DpiY() const { return dpiY_; }
     double TwipsPerPixelX() const { return 1440.0 / dpiX_; }

@@ -54,7 +54,7 @@ Rect StatusBarWindow::RealBounds() const {
     if (handle() == nullptr || !GetWindowRect(handle(), &bounds))
         return Wanted();
     MapWindowPoints(nullptr, GetParent(handle()), reinterpret_cast<POINT*>(&bounds), 2);
-    return desktop().scale.Twips(bounds);
+    return scale().Twips(bounds);
 }
 
 void StatusBarWindow::OnContainerResized() {
@@ -83,7 +83,7 @@ void StatusBarWindow::ShowParts() {
     Twips right = 0;
     for (const Panel& panel : panels_) {
         right += panel.width;
-        rightEdges.push_back(panel.width == 0 ? -1 : desktop().scale.PixelsX(right));
+        rightEdges.push_back(panel.width == 0 ? -1 : scale().PixelsX(right));
     }
     Send(SB_SETPARTS, rightEdges.size(), reinterpret_cast<LPARAM>(rightEdges.data()));
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "win32/common/DeviceContext.h"
+#include "win32/common/Resolution.h"
 #include "win32/common/WideText.h"
 #include "win32/controls/TextBoxWindow.h"
 
@@ -47,11 +48,12 @@ Rect ComboBoxWindow::Place(const Rect& wanted) {
     DWORD start = 0;
     DWORD end = 0;
     Send(CB_GETEDITSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-    const RECT pixels = desktop().scale.Pixels(wanted);
+    const RECT pixels = scale().Pixels(wanted);
     const auto rows = static_cast<int>(Send(CB_GETITEMHEIGHT, 0)) * kRowsShown;
     RECT closed = {};
     GetWindowRect(handle(), &closed);
-    const int height = closed.bottom - closed.top + rows + 2 * GetSystemMetrics(SM_CYBORDER);
+    const int height =
+        closed.bottom - closed.top + rows + 2 * MetricAt(SM_CYBORDER, scale().DpiY());
     SetWindowPos(handle(), nullptr, pixels.left, pixels.top, pixels.right - pixels.left, height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     // A new size selects the whole text of an editable box, even of one without the focus.
@@ -65,7 +67,7 @@ Rect ComboBoxWindow::RealBounds() const {
     if (handle() == nullptr || !GetWindowRect(handle(), &closed))
         return Wanted();
     Rect bounds = Wanted();
-    bounds.height = desktop().scale.TwipsY(closed.bottom - closed.top);
+    bounds.height = scale().TwipsY(closed.bottom - closed.top);
     return bounds;
 }
 
@@ -85,7 +87,7 @@ void ComboBoxWindow::MeasureItems() {
         const SelectedObject font(dc.Get(), reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT)));
         GetTextMetricsW(dc.Get(), &metrics);
     }
-    Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), metrics.tmHeight + 2);
+    Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), metrics.tmHeight + scale().Nominal(2));
     Send(CB_SETITEMHEIGHT, 0, metrics.tmHeight);
 }
 
@@ -224,7 +226,7 @@ void ComboBoxWindow::WidenList() {
         SIZE size = {};
         GetTextExtentPoint32W(dc.Get(), text.c_str(), static_cast<int>(text.size()), &size);
         widest = std::max<int>(
-            widest, size.cx + GetSystemMetrics(SM_CXVSCROLL) + desktop().scale.Nominal(8));
+            widest, size.cx + MetricAt(SM_CXVSCROLL, scale().DpiX()) + scale().Nominal(8));
     }
     MONITORINFO screen = {};
     screen.cbSize = sizeof screen;
@@ -316,7 +318,7 @@ void ComboBoxWindow::DrawFlatButton(HDC dc, const RECT& button, bool pressed) co
     else if (pressed)
         arrow = COLOR_HIGHLIGHTTEXT;
     FillRect(dc, &button, GetSysColorBrush(pressed ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
-    const LONG half = desktop().scale.Nominal(3);
+    const LONG half = scale().Nominal(3);
     const LONG x = (button.left + button.right) / 2;
     const LONG y = (button.top + button.bottom - half) / 2;
     for (LONG row = 0; row <= half; ++row) {
@@ -363,7 +365,7 @@ void ComboBoxWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {
         SetTextColor(item.hDC, color);
         SetBkMode(item.hDC, TRANSPARENT);
         const std::wstring text = WideForDisplay(box_.List(static_cast<int>(item.itemID)));
-        InflateRect(&area, -desktop().scale.Nominal(2), 0);
+        InflateRect(&area, -scale().Nominal(2), 0);
         DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &area,
                   DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
     }

@@ -1,5 +1,8 @@
 #include "win32/controls/Desktop.h"
 
+#include <algorithm>
+
+#include "win32/common/Resolution.h"
 #include "win32/common/SystemLibraries.h"
 
 namespace ordalyn::win32 {
@@ -39,18 +42,34 @@ FrameMargins MeasureMargins(HINSTANCE program, bool resizable) {
     return good ? margins : FrameMargins{};
 }
 
+// What cannot be seen of a frame grows with the frame; the line that can be seen does not.
+FrameMargins GrownMargins(FrameMargins margins, int from, int to) {
+    constexpr int kPaddedBorder = 92;
+    const auto frame = [](int dpi) {
+        return MetricAt(SM_CXSIZEFRAME, dpi) + MetricAt(kPaddedBorder, dpi);
+    };
+    const int growth = frame(to) - frame(from);
+    for (int* margin : {&margins.left, &margins.top, &margins.right, &margins.bottom}) {
+        if (*margin > 0)
+            *margin = std::max(*margin + growth, 0);
+    }
+    return margins;
+}
+
 }  // namespace
 
-Desktop::Desktop(HINSTANCE handle, const Scale& screen)
-    : program(handle), scale(screen), fonts(screen.DpiY()) {}
+Desktop::Desktop(HINSTANCE handle, const Scale& system, ScaleAt screens)
+    : program(handle), scale(system), scaleAt(std::move(screens)) {}
 
-const FrameMargins& Desktop::Margins(bool resizable) {
-    const std::size_t which = resizable ? 1 : 0;
-    if (!measured_[which]) {
-        margins_[which] = MeasureMargins(program, resizable);
-        measured_[which] = true;
+FrameMargins Desktop::Margins(bool resizable, int dpi) {
+    const auto [found, isNew] = margins_.try_emplace({resizable, dpi});
+    if (isNew) {
+        // The window that is measured is far from all screens, and of the nearest one's resolution.
+        constexpr RECT kPlace = {-20000, -20000, -19600, -19700};
+        found->second =
+            GrownMargins(MeasureMargins(program, resizable), ScaleOfScreen(kPlace).DpiY(), dpi);
     }
-    return margins_[which];
+    return found->second;
 }
 
 void Desktop::SetCommonPointer(Pointer pointer) {

@@ -1,6 +1,9 @@
 // What all windows of one toolkit share.
 #pragma once
 
+#include <functional>
+#include <map>
+#include <utility>
 #include <vector>
 
 #include "toolkit/Basics.h"
@@ -18,14 +21,20 @@ struct FrameMargins {
     int left = 0, top = 0, right = 0, bottom = 0;
 };
 
+// What the system says of the resolution at a place.
+using ScaleAt = std::function<Scale(const RECT& place)>;
+
 class Desktop {
   public:
-    Desktop(HINSTANCE program, const Scale& scale);
+    Desktop(HINSTANCE program, const Scale& scale, ScaleAt scaleAt);
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
     const HINSTANCE program;
+    // Of places on the screens, all of which count alike; a form and what is on it have the
+    // resolution of their screen (Window::scale).
     const Scale scale;
+    const ScaleAt scaleAt;
     Fonts fonts;
     LastHandler lastHandler;
     std::vector<FormWindow*> forms;  // all that exist, oldest first
@@ -34,13 +43,12 @@ class Desktop {
     toolkit::Pointer CommonPointer() const { return pointer_; }
     void SetCommonPointer(toolkit::Pointer pointer);
 
-    // For windows whose frame can be dragged and for those whose frame cannot.
-    const FrameMargins& Margins(bool resizable);
+    // For windows whose frame can be dragged and for those whose frame cannot, of a resolution.
+    FrameMargins Margins(bool resizable, int dpi);
 
   private:
     toolkit::Pointer pointer_ = toolkit::Pointer::Default;
-    bool measured_[2] = {false, false};
-    FrameMargins margins_[2];
+    std::map<std::pair<bool, int>, FrameMargins> margins_;
 };
 
 HCURSOR CursorFor(toolkit::Pointer pointer);

@@ -79,7 +79,7 @@ void ListViewWindow::SetColors(Color foreground, Color background) {
 
 void ListViewWindow::InsertColumn(int index, std::string_view caption, Twips width) {
     std::wstring text = WideForDisplay(caption);
-    const int pixels = desktop().scale.PixelsX(width);
+    const int pixels = scale().PixelsX(width);
     LVCOLUMNW column = {};
     column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
     column.fmt = LVCFMT_LEFT;
@@ -105,7 +105,7 @@ void ListViewWindow::SetColumnCaption(int index, std::string_view caption) {
 }
 
 void ListViewWindow::SetColumnWidth(int index, Twips width) {
-    const int pixels = desktop().scale.PixelsX(width);
+    const int pixels = scale().PixelsX(width);
     widths_.at(static_cast<std::size_t>(index)) = {width, pixels};
     Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(index), pixels);
 }
@@ -115,7 +115,26 @@ Twips ListViewWindow::ColumnWidth(int index) {
     if (handle() == nullptr)
         return set.twips;
     const auto pixels = static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(index)));
-    return pixels == set.pixels ? set.twips : desktop().scale.TwipsX(pixels);
+    return pixels == set.pixels ? set.twips : scale().TwipsX(pixels);
+}
+
+// A width that the user has chosen has not been asked for yet.
+void ListViewWindow::KeepBeforeRescaling() {
+    topRow_ = static_cast<int>(Send(LVM_GETTOPINDEX));
+    for (std::size_t i = 0; i < widths_.size(); ++i)
+        widths_[i].twips = ColumnWidth(static_cast<int>(i));
+}
+
+Rect ListViewWindow::ShowRescaled() {
+    const Rect bounds = Peer::ShowRescaled();
+    for (std::size_t i = 0; i < widths_.size(); ++i)
+        SetColumnWidth(static_cast<int>(i), widths_[i].twips);
+    // The rows have another height. The list still begins with the same one, as far as it can.
+    if (list_.RowCount() > 0 && Send(LVM_GETTOPINDEX) != topRow_) {
+        Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(list_.RowCount() - 1), FALSE);
+        Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(topRow_), FALSE);
+    }
+    return bounds;
 }
 
 // Column indices from left to right.

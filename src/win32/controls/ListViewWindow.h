@@ -31,6 +31,8 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void SetGridLines(bool shown) override;
     void FlattenColumnHeaders() override;
 
+    void KeepBeforeRescaling() override;
+    toolkit::Rect ShowRescaled() override;
     std::optional<LRESULT> OnNotify(NMHDR& header) override;
 
   protected:
@@ -53,6 +55,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
 
     toolkit::ListView& list_;
     std::vector<Width> widths_;
+    int topRow_ = 0;               // before the form got another resolution
     std::vector<int> positions_;   // as last seen, for when the window has gone
     bool changingByCode_ = false;  // what the control reports then is no user's doing
     bool hidePosted_ = false;      // the list is to be hidden when kHideNow arrives

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <cwchar>
+#include <utility>
 
 #include "toolkit/ToolBarPictures.h"
 #include "win32/common/WideText.h"
@@ -42,12 +43,27 @@ Bitmap MakeBitmap(const Picture& picture) {
 
 ToolBarWindow::ToolBarWindow(Desktop& desktop, ToolBar& bar, ControlPeer& container)
     : Peer(desktop, bar, {TOOLBARCLASSNAMEW, kStyle}, &container), bar_(bar) {
-    const int size = PictureSize();
-    pictures_.Reset(ImageList_Create(size, size, ILC_COLOR32, 4, 4));
     Send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
     Send(TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS);
+    MakePictures();
+}
+
+void ToolBarWindow::MakePictures() {
+    const int size = PictureSize();
+    ImageList made(ImageList_Create(size, size, ILC_COLOR32, 4, 4));
     Send(TB_SETBITMAPSIZE, 0, MAKELPARAM(size, size));
-    Send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_.Get()));
+    Send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(made.Get()));
+    pictures_ = std::move(made);
+}
+
+// Drawn anew, not stretched.
+Rect ToolBarWindow::ShowRescaled() {
+    MakePictures();
+    for (const std::string& name : names_)
+        AddPicture(name);
+    const Rect bounds = Peer::ShowRescaled();
+    Send(TB_AUTOSIZE);
+    return bounds;
 }
 
 // The window, which is destroyed after the pictures, is not to touch them any more.

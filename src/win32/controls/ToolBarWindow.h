@@ -19,6 +19,7 @@ class ToolBarWindow : public Peer<toolkit::ToolBarPeer> {
     void ShowCurrentButton(int index) override;
     void OpenMenu(int index) override;
 
+    toolkit::Rect ShowRescaled() override;
     void OnCommand(int code, int id) override;
     std::optional<LRESULT> OnNotify(NMHDR& header) override;
 
@@ -26,8 +27,9 @@ class ToolBarWindow : public Peer<toolkit::ToolBarPeer> {
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
-    int PictureSize() const { return desktop().scale.Nominal(16); }
+    int PictureSize() const { return scale().Nominal(16); }
     void AddPicture(const std::string& name);
+    void MakePictures();
     void RedrawPictures();
     LRESULT Draw(const NMTBCUSTOMDRAW& drawing) const;
 

@@ -15,8 +15,8 @@ constexpr UINT_PTR kPeerSubclass = 1;
 constexpr const wchar_t* kObject = L"OrdalynWindow";  // the property that names a window's object
 constexpr int kFirstControlId = 100;  // above those that the system gives a meaning to
 
-HWND HandleOf(ControlPeer& container) {
-    return dynamic_cast<Window&>(container).handle();
+Window& WindowOf(ControlPeer& container) {
+    return dynamic_cast<Window&>(container);
 }
 
 // Each child window has an id of its own, for programs that operate this one from outside.
@@ -29,11 +29,14 @@ HMENU NextControlId() {
 }  // namespace
 
 Window::Window(Desktop& desktop, Control& control, const Look& look, ControlPeer* container)
-    : desktop_(desktop), control_(control) {
+    : desktop_(desktop),
+      control_(control),
+      scale_(container == nullptr ? std::make_shared<Scale>(look.scale)
+                                  : WindowOf(*container).scale_) {
     const bool child = container != nullptr;
     const DWORD style = child ? look.style | WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS : look.style;
-    handle_ = CreateWindowExW(look.extendedStyle, look.className, L"", style, 0, 0, 0, 0,
-                              child ? HandleOf(*container) : nullptr,
+    handle_ = CreateWindowExW(look.extendedStyle, look.className, L"", style, look.place.x,
+                              look.place.y, 0, 0, child ? WindowOf(*container).handle() : nullptr,
                               child ? NextControlId() : nullptr, desktop.program, nullptr);
     if (handle_ == nullptr)
         throw Error("Cannot create the window of " + control.Name() + " (error " +
@@ -246,8 +249,8 @@ LRESULT Window::MousePressed(int button, UINT message, WPARAM wParam, LPARAM lPa
     pressed_ |= button;
     if (handlesMouse_ && GetCapture() != handle_)
         SetCapture(handle_);
-    control_.MouseDown.Raise(button, CurrentModifiers(), desktop_.scale.TwipsX(at.x),
-                             desktop_.scale.TwipsY(at.y));
+    control_.MouseDown.Raise(button, CurrentModifiers(), scale().TwipsX(at.x),
+                             scale().TwipsY(at.y));
     if (alive.expired() || handle_ == nullptr)
         return 0;
     if (handlesMouse_)
@@ -281,8 +284,7 @@ void Window::RaiseRelease(int button, POINT at) {
     pressed_ &= ~button;
     if (handlesMouse_ && pressed_ == 0 && GetCapture() == handle_)
         ReleaseCapture();
-    control_.MouseUp.Raise(button, CurrentModifiers(), desktop_.scale.TwipsX(at.x),
-                           desktop_.scale.TwipsY(at.y));
+    control_.MouseUp.Raise(button, CurrentModifiers(), scale().TwipsX(at.x), scale().TwipsY(at.y));
 }
 
 LRESULT Window::MouseMoved(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -294,8 +296,8 @@ LRESULT Window::MouseMoved(UINT message, WPARAM wParam, LPARAM lParam) {
                         ((wParam & MK_RBUTTON) != 0 ? kRightButton : 0) |
                         ((wParam & MK_MBUTTON) != 0 ? kMiddleButton : 0);
     const POINT at = PointOf(lParam);
-    control_.MouseMove.Raise(buttons, CurrentModifiers(), desktop_.scale.TwipsX(at.x),
-                             desktop_.scale.TwipsY(at.y));
+    control_.MouseMove.Raise(buttons, CurrentModifiers(), scale().TwipsX(at.x),
+                             scale().TwipsY(at.y));
     return answer;
 }
 
@@ -315,7 +317,7 @@ bool Window::ChoosePointer(LPARAM lParam) const {
 
 Rect Window::PlaceWindow(const Rect& wanted) {
     wanted_ = wanted;
-    const RECT pixels = desktop_.scale.Pixels(wanted);
+    const RECT pixels = scale().Pixels(wanted);
     SetWindowPos(handle_, nullptr, pixels.left, pixels.top, pixels.right - pixels.left,
                  pixels.bottom - pixels.top, SWP_NOZORDER | SWP_NOACTIVATE);
     return wanted;
@@ -323,7 +325,8 @@ Rect Window::PlaceWindow(const Rect& wanted) {
 
 Rect Window::ShowFont(const toolkit::Font& font) {
     // The old font must outlive the message.
-    const std::shared_ptr<FontHandle> before = std::exchange(font_, desktop_.fonts.Get(font));
+    const std::shared_ptr<FontHandle> before =
+        std::exchange(font_, desktop_.fonts.Get(font, scale().DpiY()));
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(font_->Get()), TRUE);
     return wanted_;
 }
@@ -331,7 +334,7 @@ Rect Window::ShowFont(const toolkit::Font& font) {
 void Window::MoveInto(ControlPeer& container) {
     if (handle_ == nullptr)
         return;
-    const HWND parent = HandleOf(container);
+    const HWND parent = WindowOf(container).handle();
     if (parent == nullptr || GetAncestor(handle_, GA_PARENT) == parent)
         return;
     SetParent(handle_, parent);

@@ -26,6 +26,8 @@ class Window {
     HWND handle() const { return handle_; }
     toolkit::Control& control() const { return control_; }
     Desktop& desktop() const { return desktop_; }
+    // The form's.
+    const Scale& scale() const { return *scale_; }
     // Expires with the object: whoever raises an event looks before touching it again.
     std::weak_ptr<const void> Lifetime() const { return lifetime_; }
 
@@ -42,6 +44,11 @@ class Window {
     virtual void OnDrawItem(const DRAWITEMSTRUCT& /*item*/) {}
     virtual HBRUSH OnColor(HDC dc);
     virtual void OnContainerResized() {}
+
+    // The form is about to have another resolution: what only the window knows in pixels is kept.
+    virtual void KeepBeforeRescaling() {}
+    // The form has another resolution. Returns the bounds that the control has with it.
+    virtual toolkit::Rect ShowRescaled() = 0;
 
     // What the peers of all kinds do.
     toolkit::Rect PlaceWindow(const toolkit::Rect& wanted);
@@ -65,6 +72,8 @@ class Window {
         const wchar_t* className;
         DWORD style;
         DWORD extendedStyle = 0;
+        Scale scale = Scale(USER_DEFAULT_SCREEN_DPI, USER_DEFAULT_SCREEN_DPI);  // of a form
+        POINT place = {};                                                       // of a form
     };
     // A child window when there is a container, otherwise a top-level one.
     Window(Desktop& desktop, toolkit::Control& control, const Look& look,
@@ -80,6 +89,8 @@ class Window {
     void ChangeStyle(int which, DWORD clear, DWORD set);
     const toolkit::Rect& Wanted() const { return wanted_; }
     void Remember(const toolkit::Rect& wanted) { wanted_ = wanted; }
+    // For the form: all that is on it has the same.
+    void ChangeScale(const Scale& scale) { *scale_ = scale; }
     HBRUSH BackBrush() { return brush_.For(control_.BackColor()); }
     void EraseBackground(HDC dc);
     // Kinds whose window class does not deal with the mouse by itself: the mouse is captured while
@@ -101,6 +112,7 @@ class Window {
 
     Desktop& desktop_;
     toolkit::Control& control_;
+    std::shared_ptr<Scale> scale_;
     HWND handle_ = nullptr;
     HWND label_ = nullptr;  // says what the control is called; see ShowAccessibleName
     std::shared_ptr<const int> lifetime_ = std::make_shared<const int>(0);
@@ -145,6 +157,11 @@ class Peer : public Interface, public Window {
     void TakeFocus() override { Focus(); }
     bool CanTakeInput() const override { return Window::CanTakeInput(); }
     void Refresh() override { RepaintNow(); }
+
+    toolkit::Rect ShowRescaled() override {
+        this->SetFont(control().Font());
+        return this->Place(Wanted());
+    }
 };
 
 }  // namespace ordalyn::win32

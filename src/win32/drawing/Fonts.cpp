@@ -43,15 +43,15 @@ LOGFONTW Description(const toolkit::Font& font, int dpi) {
 
 }  // namespace
 
-std::shared_ptr<FontHandle> Fonts::Get(const toolkit::Font& font) {
-    std::erase_if(made_, [](const auto& entry) { return entry.second.expired(); });
-    for (const auto& [made, handle] : made_) {
-        if (made == font)
-            return handle.lock();
+std::shared_ptr<FontHandle> Fonts::Get(const toolkit::Font& font, int dpi) {
+    std::erase_if(made_, [](const Made& made) { return made.handle.expired(); });
+    for (const Made& made : made_) {
+        if (made.font == font && made.dpi == dpi)
+            return made.handle.lock();
     }
-    const LOGFONTW description = Description(font, dpi_);
+    const LOGFONTW description = Description(font, dpi);
     auto handle = std::make_shared<FontHandle>(CreateFontIndirectW(&description));
-    made_.emplace_back(font, handle);
+    made_.push_back({font, dpi, handle});
     return handle;
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <utility>
 #include <vector>
 
 #include "toolkit/Basics.h"
@@ -12,13 +11,16 @@ namespace ordalyn::win32 {
 
 class Fonts {
   public:
-    explicit Fonts(int dpi) : dpi_(dpi) {}
-    // A font without a name is the system's dialog font.
-    std::shared_ptr<FontHandle> Get(const toolkit::Font& font);
+    // For a window of a resolution. A font without a name is the system's dialog font.
+    std::shared_ptr<FontHandle> Get(const toolkit::Font& font, int dpi);
 
   private:
-    int dpi_;
-    std::vector<std::pair<toolkit::Font, std::weak_ptr<FontHandle>>> made_;
+    struct Made {
+        toolkit::Font font;
+        int dpi;
+        std::weak_ptr<FontHandle> handle;
+    };
+    std::vector<Made> made_;
 };
 
 }  // namespace ordalyn::win32

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "toolkit/FormKeyboard.h"
+#include "win32/common/Resolution.h"
 #include "win32/common/WideText.h"
 #include "win32/controls/Buttons.h"
 #include "win32/controls/WindowClasses.h"
@@ -21,7 +22,6 @@ namespace {
 
 constexpr UINT kActivated = WM_APP + 1;
 constexpr UINT kMenusChanged = WM_APP + 2;
-constexpr int kIconResource = 1;
 
 BOOL CALLBACK ForwardToChild(HWND child, LPARAM parameter) {
     const MSG& forwarded = *reinterpret_cast<const MSG*>(parameter);
@@ -32,10 +32,12 @@ BOOL CALLBACK ForwardToChild(HWND child, LPARAM parameter) {
 }  // namespace
 
 FormWindow::FormWindow(Desktop& desktop, toolkit::Form& form, const FormStyle& style)
-    : Peer(desktop, form, LookOf(style), nullptr), form_(form), style_(style), menus_(form) {
+    : Peer(desktop, form, LookOf(desktop, style), nullptr),
+      form_(form),
+      style_(style),
+      menus_(form) {
     desktop.forms.push_back(this);
-    if (style.minimiseBox || style.maximiseBox)
-        SetIcons();  // dialogs and tool windows have none
+    ShowIcons();
     if (style.takesDroppedFiles)
         DragAcceptFiles(handle(), TRUE);
 }
@@ -45,7 +47,7 @@ FormWindow::~FormWindow() {
     std::erase(desktop().forms, this);
 }
 
-Window::Look FormWindow::LookOf(const FormStyle& style) {
+Window::Look FormWindow::LookOf(const Desktop& desktop, const FormStyle& style) {
     DWORD look = WS_POPUP | WS_CAPTION | WS_CLIPCHILDREN;
     DWORD extended = WS_EX_CONTROLPARENT;
     if (style.closeBox)
@@ -60,17 +62,8 @@ Window::Look FormWindow::LookOf(const FormStyle& style) {
         extended |= WS_EX_TOOLWINDOW;
     else if (!style.resizable && !style.minimiseBox && !style.maximiseBox)
         extended |= WS_EX_DLGMODALFRAME;  // a dialog, without an icon in its caption
-    return {kFormClass, look, extended};
-}
-
-void FormWindow::SetIcons() {
-    const auto load = [&](int widthMetric, int heightMetric) {
-        return reinterpret_cast<LPARAM>(
-            LoadImageW(desktop().program, MAKEINTRESOURCEW(kIconResource), IMAGE_ICON,
-                       GetSystemMetrics(widthMetric), GetSystemMetrics(heightMetric), LR_SHARED));
-    };
-    Send(WM_SETICON, ICON_BIG, load(SM_CXICON, SM_CYICON));
-    Send(WM_SETICON, ICON_SMALL, load(SM_CXSMICON, SM_CYSMICON));
+    const Birthplace birthplace = BirthplaceOf(desktop);
+    return {kFormClass, look, extended, birthplace.scale, birthplace.corner};
 }
 
 // Looks.
@@ -372,6 +365,10 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 ReportBounds();
             return answer;
         }
+        case kResolutionChanged:
+            ResolutionChanged({LOWORD(wParam), HIWORD(wParam)},
+                              *reinterpret_cast<const RECT*>(lParam));
+            return 0;
         case WM_GETMINMAXINFO:
             Default(message, wParam, lParam);
             LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));

@@ -24,6 +24,10 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void FlushMenus() { menus_.Flush(handle()); }
 
     toolkit::Rect CurrentBounds();  // outer bounds now
+    // The resolution that a form with these outer bounds has. `itself`, when there is one, is asked
+    // before the other forms.
+    static Scale ScaleOfPlace(const Desktop& desktop, const toolkit::Rect& outer,
+                              const FormWindow* itself = nullptr);
 
     // Focus and keys. The cues are those that the system hides from users of the mouse.
     void ShowKeyboardCues(WORD cues);
@@ -54,10 +58,14 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void EndModal() override;
     void SetWindowState(toolkit::WindowState state) override;
     toolkit::WindowState CurrentWindowState() override;
+    toolkit::Rect WorkArea() override;
     std::uintptr_t Handle() override { return reinterpret_cast<std::uintptr_t>(handle()); }
     void SetDefaultButton(toolkit::ControlPeer* button) override;
     void ShowKeyboardCues() override { ShowKeyboardCues(UISF_HIDEFOCUS | UISF_HIDEACCEL); }
     void Close() override;
+
+    // Window
+    toolkit::Rect ShowRescaled() override { return SetFont(form_.Font()); }
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -67,9 +75,24 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
         FormsBlocked* blocked;
         bool ended = false;
     };
-    static Look LookOf(const toolkit::FormStyle& style);
-    void SetIcons();
+    // Where a form is made before anything places it.
+    struct Birthplace {
+        Scale scale;
+        POINT corner;
+    };
+    static Look LookOf(const Desktop& desktop, const toolkit::FormStyle& style);
+    static Birthplace BirthplaceOf(const Desktop& desktop);
+    static const FormWindow* FormInFront(const Desktop& desktop);
+    bool CanBeSeen() const;
+    // Dialogs and tool windows have none.
+    void ShowIcons();
+    // The form comes to a screen of another resolution; the controls follow with ShowRescaledAll.
+    void TakeScale(const Scale& scale);
+    void ShowRescaledAll();
+    void ResolutionChanged(const Scale& now, const RECT& proposed);
+    void KeepTwips(const toolkit::Rect& before);
     RECT WindowRectFor(const toolkit::Rect& outer);
+    toolkit::Rect TwipsOf(const RECT& window);
     toolkit::Rect OuterOf(const RECT& window);
     void PlaceWhenNormal(const RECT& window);
     void LimitSize(MINMAXINFO& limits) const;
@@ -87,6 +110,9 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     toolkit::Rect placed_;
     RECT placedWindow_ = {};
     bool placing_ = false;
+    bool following_ = false;  // to another resolution
+    bool rescaled_ = false;   // since the form was last told of its bounds
+    Icon icons_[2];
     bool closing_ = false;
     toolkit::WindowState stateWhenShown_ = toolkit::WindowState::Normal;
     HWND focus_ = nullptr;  // what had the focus, or is to get it

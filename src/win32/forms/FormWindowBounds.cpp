@@ -1,5 +1,6 @@
 // The bounds of a form: outer bounds in twips are those of the frame that can be seen, and they
-// stay as they were set for as long as the pixels are the same.
+// stay as they were set for as long as the pixels are the same. The size is in twips of the screen
+// that the form is on; its place counts from the corner of all screens, in the system's twips.
 #include <algorithm>
 
 #include "win32/forms/FormWindow.h"
@@ -17,23 +18,27 @@ bool SameRect(const RECT& a, const RECT& b) {
 }  // namespace
 
 RECT FormWindow::WindowRectFor(const Rect& outer) {
-    const Scale& scale = desktop().scale;
-    const FrameMargins& margins = desktop().Margins(style_.resizable);
+    const FrameMargins margins = desktop().Margins(style_.resizable, scale().DpiY());
     // The size is rounded by itself: a form keeps it wherever it is moved.
-    const int left = scale.PixelsX(outer.left);
-    const int top = scale.PixelsY(outer.top);
+    const int left = desktop().scale.PixelsX(outer.left);
+    const int top = desktop().scale.PixelsY(outer.top);
     return {left - margins.left, top - margins.top,
-            left + scale.PixelsX(outer.width) + margins.right,
-            top + scale.PixelsY(outer.height) + margins.bottom};
+            left + scale().PixelsX(outer.width) + margins.right,
+            top + scale().PixelsY(outer.height) + margins.bottom};
+}
+
+Rect FormWindow::TwipsOf(const RECT& window) {
+    const FrameMargins margins = desktop().Margins(style_.resizable, scale().DpiY());
+    return {desktop().scale.TwipsX(window.left + margins.left),
+            desktop().scale.TwipsY(window.top + margins.top),
+            scale().TwipsX(window.right - margins.right - window.left - margins.left),
+            scale().TwipsY(window.bottom - margins.bottom - window.top - margins.top)};
 }
 
 Rect FormWindow::OuterOf(const RECT& window) {
     if (SameRect(window, placedWindow_))
         return placed_;
-    const FrameMargins& margins = desktop().Margins(style_.resizable);
-    Rect outer =
-        desktop().scale.Twips(RECT{window.left + margins.left, window.top + margins.top,
-                                   window.right - margins.right, window.bottom - margins.bottom});
+    Rect outer = TwipsOf(window);
     // What has the same pixels keeps the number that it was given.
     if (window.left == placedWindow_.left)
         outer.left = placed_.left;
@@ -47,6 +52,11 @@ Rect FormWindow::OuterOf(const RECT& window) {
 }
 
 Rect FormWindow::Place(const Rect& wanted) {
+    const Scale wantedScale = ScaleOfPlace(desktop(), wanted, this);
+    if (wantedScale != scale()) {
+        TakeScale(wantedScale);
+        ShowRescaledAll();
+    }
     placed_ = wanted;
     placedWindow_ = WindowRectFor(wanted);
     if (handle() == nullptr)
@@ -93,7 +103,7 @@ Size FormWindow::ClientSize() {
     FlushMenus();
     RECT client = {};
     GetClientRect(handle(), &client);
-    const Rect size = desktop().scale.Twips(client);
+    const Rect size = scale().Twips(client);
     return {size.width, size.height};
 }
 
@@ -102,15 +112,23 @@ Rect FormWindow::OuterFor(const Size& client) {
     const Rect now = CurrentBounds();
     if (handle() == nullptr)
         return {now.left, now.top, client.width, client.height};
-    const Scale& scale = desktop().scale;
-    const FrameMargins& margins = desktop().Margins(style_.resizable);
-    RECT window = {0, 0, scale.PixelsX(client.width), scale.PixelsY(client.height)};
+    const FrameMargins margins = desktop().Margins(style_.resizable, scale().DpiY());
+    const int insideWidth = scale().PixelsX(client.width);
+    const int insideHeight = scale().PixelsY(client.height);
+    RECT window = {0, 0, insideWidth, insideHeight};
     AdjustWindowRectEx(&window, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)),
                        GetMenu(handle()) != nullptr,
                        static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_EXSTYLE)));
+    // That was a frame of the system's resolution. The window knows its own.
+    if (!IsIconic(handle()) && !IsZoomed(handle())) {
+        RECT inside = window;
+        Send(WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&inside));
+        window.right += insideWidth - (inside.right - inside.left);
+        window.bottom += insideHeight - (inside.bottom - inside.top);
+    }
     const int width = window.right - window.left - margins.left - margins.right;
     const int height = window.bottom - window.top - margins.top - margins.bottom;
-    return {now.left, now.top, scale.TwipsX(width), scale.TwipsY(height)};
+    return {now.left, now.top, scale().TwipsX(width), scale().TwipsY(height)};
 }
 
 void FormWindow::LimitSize(MINMAXINFO& limits) const {
@@ -121,18 +139,24 @@ void FormWindow::LimitSize(MINMAXINFO& limits) const {
     }
     if (!style_.resizable)
         return;
-    const Scale& scale = desktop().scale;
     // A main window keeps room for its lists, a tool window for its boxes.
-    const int width = scale.Nominal(style_.maximiseBox ? 320 : 160);
-    const int height = style_.maximiseBox ? scale.Nominal(200) : 0;
+    const int width = scale().Nominal(style_.maximiseBox ? 320 : 160);
+    const int height = style_.maximiseBox ? scale().Nominal(200) : 0;
     limits.ptMinTrackSize.x = std::max<LONG>(limits.ptMinTrackSize.x, width);
     limits.ptMinTrackSize.y = std::max<LONG>(limits.ptMinTrackSize.y, height);
 }
 
 // Code that places the form knows what it did.
 void FormWindow::ReportBounds() {
-    if (!placing_)
-        form_.SystemResized(CurrentBounds(), CurrentWindowState());
+    if (placing_)
+        return;
+    const WindowState state = CurrentWindowState();
+    if (rescaled_ && state != WindowState::Minimised) {
+        rescaled_ = false;
+        form_.SystemRescaled(CurrentBounds());
+    } else {
+        form_.SystemResized(CurrentBounds(), state);
+    }
 }
 
 }  // namespace ordalyn::win32

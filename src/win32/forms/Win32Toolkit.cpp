@@ -1,5 +1,7 @@
 #include "win32/forms/Win32Toolkit.h"
 
+#include <utility>
+
 #include "win32/common/WideText.h"
 #include "win32/controls/Areas.h"
 #include "win32/controls/Bars.h"
@@ -17,7 +19,11 @@ namespace ordalyn::win32 {
 
 using namespace toolkit;
 
-Win32Toolkit::Win32Toolkit(HINSTANCE program, const Scale& scale) : desktop_(program, scale) {
+Win32Toolkit::Win32Toolkit(HINSTANCE program, const Scale& system)
+    : Win32Toolkit(program, system, [system](const RECT&) { return system; }) {}
+
+Win32Toolkit::Win32Toolkit(HINSTANCE program, const Scale& system, ScaleAt screens)
+    : desktop_(program, system, std::move(screens)) {
     INITCOMMONCONTROLSEX classes = {};
     classes.dwSize = sizeof classes;
     classes.dwICC = ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES |
@@ -119,6 +125,11 @@ std::vector<Rect> Win32Toolkit::WorkAreas() {
     Screens screens{desktop_.scale, areas};
     EnumDisplayMonitors(nullptr, nullptr, AddOtherScreen, reinterpret_cast<LPARAM>(&screens));
     return areas;
+}
+
+double Win32Toolkit::ScreenTwips(const Rect& outer) {
+    const Scale scale = FormWindow::ScaleOfPlace(desktop_, outer);
+    return desktop_.scale.TwipsPerPixelX() / scale.TwipsPerPixelX();
 }
 
 Size Win32Toolkit::LeastFormSize() {

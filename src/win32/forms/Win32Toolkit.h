@@ -2,15 +2,18 @@
 #pragma once
 
 #include "toolkit/Toolkit.h"
+#include "win32/common/Resolution.h"
 #include "win32/controls/Desktop.h"
 
 namespace ordalyn::win32 {
 
 class Win32Toolkit : public toolkit::Toolkit {
   public:
-    // `program` holds the icon (resource 1) of the forms. Outlives all forms. Tests give the scale
-    // of another screen.
-    explicit Win32Toolkit(HINSTANCE program, const Scale& scale = Scale());
+    // `program` holds the icon (resource 1) of the forms. Outlives all forms.
+    explicit Win32Toolkit(HINSTANCE program) : Win32Toolkit(program, Scale(), ScaleOfScreen) {}
+    // For tests: another system, and screens that have its resolution or their own.
+    Win32Toolkit(HINSTANCE program, const Scale& system);
+    Win32Toolkit(HINSTANCE program, const Scale& system, ScaleAt screens);
     Win32Toolkit(const Win32Toolkit&) = delete;
     Win32Toolkit& operator=(const Win32Toolkit&) = delete;
 
@@ -47,6 +50,7 @@ class Win32Toolkit : public toolkit::Toolkit {
     double TwipsPerPixelY() override { return desktop_.scale.TwipsPerPixelY(); }
     toolkit::Rect WorkArea() override;
     std::vector<toolkit::Rect> WorkAreas() override;
+    double ScreenTwips(const toolkit::Rect& outer) override;
     toolkit::Size LeastFormSize() override;
     void SetPointer(toolkit::Pointer pointer) override { desktop_.SetCommonPointer(pointer); }
     void Beep() override;

@@ -27,21 +27,29 @@ Rect RectOf(const Placement& placement) {
             static_cast<Twips>(placement.width), static_cast<Twips>(placement.height)};
 }
 
-bool CanBeTaken(const Rect& window, const std::vector<Rect>& screens) {
+// A window's size is in twips of its screen. How many of those that places are in is one of them?
+Twips TwipsAt(toolkit::Toolkit& toolkit, const Rect& window) {
+    return static_cast<Twips>(toolkit.ScreenTwips(window));
+}
+
+bool CanBeTaken(const Rect& window, Twips twips, const std::vector<Rect>& screens) {
+    const Twips right = window.left + window.width * twips;
+    const Twips bottom = window.top + kTitleBarHeight * twips;
+    const Twips grip = kGrip * twips;
     return std::any_of(screens.begin(), screens.end(), [&](const Rect& screen) {
-        const Twips width = std::min(window.left + window.width, screen.left + screen.width) -
-                            std::max(window.left, screen.left);
-        const Twips height = std::min(window.top + kTitleBarHeight, screen.top + screen.height) -
-                             std::max(window.top, screen.top);
-        return width >= kGrip && height >= kGrip;
+        const Twips width =
+            std::min(right, screen.left + screen.width) - std::max(window.left, screen.left);
+        const Twips height =
+            std::min(bottom, screen.top + screen.height) - std::max(window.top, screen.top);
+        return width >= grip && height >= grip;
     });
 }
 
-Rect Inside(const Rect& area, Rect window) {
-    window.width = std::min(window.width, area.width);
-    window.height = std::min(window.height, area.height);
-    window.left = std::clamp(window.left, area.left, area.left + area.width - window.width);
-    window.top = std::clamp(window.top, area.top, area.top + area.height - window.height);
+Rect Inside(const Rect& area, Twips twips, Rect window) {
+    window.width = std::min(window.width, area.width / twips);
+    window.height = std::min(window.height, area.height / twips);
+    window.left = std::clamp(window.left, area.left, area.left + area.width - window.width * twips);
+    window.top = std::clamp(window.top, area.top, area.top + area.height - window.height * twips);
     return window;
 }
 
@@ -49,6 +57,13 @@ Rect AtLeast(const toolkit::Size& least, Rect window) {
     window.width = std::max(window.width, least.width);
     window.height = std::max(window.height, least.height);
     return window;
+}
+
+// What a form has that was never placed.
+Rect DefaultPlacement(toolkit::Toolkit& toolkit, std::string_view fallback) {
+    const Rect area = toolkit.WorkArea();
+    return AtLeast(toolkit.LeastFormSize(),
+                   Inside(area, TwipsAt(toolkit, area), RectOf(ParsePlacement(fallback))));
 }
 
 // The stored placement where it is one.
@@ -60,7 +75,7 @@ std::optional<Rect> UsablePlacement(toolkit::Toolkit& toolkit, std::string_view 
     if (!(window.width > 0) || !(window.height > 0))
         return std::nullopt;
     window = AtLeast(toolkit.LeastFormSize(), window);
-    if (!CanBeTaken(window, toolkit.WorkAreas()))
+    if (!CanBeTaken(window, TwipsAt(toolkit, window), toolkit.WorkAreas()))
         return std::nullopt;
     return window;
 }
@@ -72,10 +87,7 @@ void RestoreWindowPosition(const mAppSpecific& settings, toolkit::Form& form, bo
         toolkit::Toolkit& toolkit = form.toolkit();
         const OtherEntry& entry = PlacementEntry(form.Name());
         const std::optional<Rect> stored = UsablePlacement(toolkit, settings.ReadEntry(entry));
-        form.Move(
-            stored ? *stored
-                   : AtLeast(toolkit.LeastFormSize(),
-                             Inside(toolkit.WorkArea(), RectOf(ParsePlacement(entry.fallback)))));
+        form.Move(stored ? *stored : DefaultPlacement(toolkit, entry.fallback));
     });
     if (!restoreState)
         return;

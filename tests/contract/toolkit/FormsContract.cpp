@@ -406,6 +406,7 @@ TEST_P(Forms, TheScreenIsKnown) {
         EXPECT_GT(area.height, 3000);
         EXPECT_EQ(std::count(areas.begin(), areas.end(), area), 1);
     }
+    EXPECT_EQ(Kit().ScreenTwips({300, 300, 3000, 3000}), 1);  // of the main screen
     // Room for a title bar and its buttons, and less than any form of this program has.
     EXPECT_GT(Kit().LeastFormSize().width, 600);
     EXPECT_LT(Kit().LeastFormSize().width, 6000);

@@ -231,6 +231,16 @@ Json Place(const Json& request) {
                         number("height"), SWP_NOZORDER | SWP_NOACTIVATE) != 0;
 }
 
+// What the system sends to a window that has come to a screen of another resolution.
+Json ChangeResolution(const Json& request) {
+    const auto number = [&](const char* name) { return static_cast<int>(request.Number(name)); };
+    RECT proposed = {number("left"), number("top"), number("left") + number("width"),
+                     number("top") + number("height")};
+    const int dpi = number("dpi");
+    constexpr UINT kResolutionChanged = 0x02E0;
+    return SendPointer(WindowOf(request), kResolutionChanged, MAKEWPARAM(dpi, dpi), &proposed);
+}
+
 Json WindowCommand(const Json& request) {
     static const std::map<std::string, WPARAM, std::less<>> commands = {{"minimise", SC_MINIMIZE},
                                                                         {"maximise", SC_MAXIMIZE},
@@ -324,6 +334,7 @@ void AddWindowCommands(Commands& commands) {
     commands["takeFocus"] = TakeFocus;
     commands["setText"] = SetText;
     commands["place"] = Place;
+    commands["changeResolution"] = ChangeResolution;
     commands["windowCommand"] = WindowCommand;
     commands["font"] = FontOf;
     commands["addFont"] = AddFont;

@@ -76,6 +76,7 @@ class MemoryForm : public Peer<FormPeer> {
         }
     }
     WindowState CurrentWindowState() override { return state_; }
+    Rect WorkArea() override { return toolkit_.workArea; }
     std::uintptr_t Handle() override { return reinterpret_cast<std::uintptr_t>(this); }
     void SetDefaultButton(ControlPeer* button) override { shown.defaultButton = button; }
     void ShowKeyboardCues() override { shown.keyboardCues = true; }

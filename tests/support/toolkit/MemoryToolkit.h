@@ -105,6 +105,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     double twipsPerPixelX = 15, twipsPerPixelY = 15;
     toolkit::Rect workArea{0, 0, 19200, 15000};
     std::vector<toolkit::Rect> otherWorkAreas;  // of screens beside the primary one
+    // Left of this, screens have the primary one's resolution, from there on that many times it.
+    toolkit::Twips finerFrom = 1e9F, timesFiner = 1;
     std::vector<ShownMessage> messages;
     // Called for each message box; the default gives the default button's answer.
     std::function<toolkit::Answer(const ShownMessage&)> onMessage;
@@ -178,6 +180,9 @@ class MemoryToolkit : public toolkit::Toolkit {
     double TwipsPerPixelY() override { return twipsPerPixelY; }
     toolkit::Rect WorkArea() override { return workArea; }
     std::vector<toolkit::Rect> WorkAreas() override;
+    double ScreenTwips(const toolkit::Rect& outer) override {
+        return outer.left < finerFrom ? 1 : double{timesFiner};
+    }
     toolkit::Size LeastFormSize() override { return {1800, 600}; }
     void SetPointer(toolkit::Pointer newPointer) override;
     void Beep() override { ++beeps; }

@@ -117,6 +117,29 @@ TEST_F(FormTest, IsCentredInTheWorkArea) {
     EXPECT_EQ(form.Bounds(), (Rect{8500, 3500, 5000, 4000}));
 }
 
+// Its own twips are twice as large there.
+TEST_F(FormTest, IsCentredOnAScreenOfAnotherResolution) {
+    kit.workArea = {20000, 500, 20000, 10000};
+    kit.finerFrom = 20000;
+    kit.timesFiner = 2;
+    form.Move({0, 0, 5000, 4000});
+    form.CentreOnScreen();
+    EXPECT_EQ(form.Bounds(), (Rect{25000, 1500, 5000, 4000}));
+}
+
+TEST_F(FormTest, IsLaidOutAgainAtAnotherResolution) {
+    Counter resized(form.Resize);
+    form.SystemRescaled(form.Bounds());
+    EXPECT_EQ(resized.Take(), 1);
+    form.SystemRescaled({5, 6, 3000, 2000});
+    EXPECT_EQ(form.Bounds(), (Rect{5, 6, 3000, 2000}));
+    EXPECT_EQ(resized.Take(), 1);
+    form.Unload();
+    form.SystemRescaled({7, 8, 300, 200});
+    EXPECT_EQ(form.Bounds(), (Rect{5, 6, 3000, 2000}));
+    EXPECT_EQ(resized.Take(), 0);
+}
+
 TEST_F(FormTest, AResizeByTheUserIsRaised) {
     Counter resized(form.Resize);
     kit.ResizeByUser(form, {10, 20, 3000, 2000});

@@ -81,6 +81,38 @@ TEST_F(RestorePosition, ATitleBarCanBeTakenByASmallPartOfIt) {
     }
 }
 
+// On a screen of twice the resolution a twip of a window's size is as wide as two between places.
+TEST_F(RestorePosition, AWindowOnAScreenOfAnotherResolutionCountsWithItsSizeThere) {
+    toolkit.otherWorkAreas = {{-30000, 0, 15000, 9000}, {30000, 0, 15000, 9000}};
+    toolkit.finerFrom = 19200;
+    toolkit.timesFiner = 2;
+    struct Place {
+        const char* stored;
+        bool kept;
+    };
+    // Its right edge lies at 30300 or 30299, its grip is 300.
+    constexpr Place kPlaces[] = {{"24300,0,3000,4000", true},    {"24299,0,3000,4000", false},
+                                 {"44700,0,3000,4000", true},    {"44701,0,3000,4000", false},
+                                 {"31000,-300,3000,4000", true}, {"31000,-301,3000,4000", false}};
+    for (const Place& place : kPlaces) {
+        Put("Ordalyn", "MainPosition", place.stored);
+        RestoreWindowPosition(settings, form, true);
+        EXPECT_EQ(form.Width() == 3000, place.kept) << place.stored;
+    }
+}
+
+TEST_F(RestorePosition, TheDefaultLiesInsideAWorkAreaOfAnotherResolution) {
+    toolkit.workArea = {600, 450, 9000, 7000};
+    toolkit.finerFrom = 0;
+    toolkit.timesFiner = 2;
+    Put("Ordalyn", "MainPosition", "");
+    Put("Ordalyn", "FiltersPosition", "");
+    RestoreWindowPosition(settings, form, true);
+    RestoreWindowPosition(settings, filters, false);
+    EXPECT_EQ(form.Bounds(), (Rect{600, 450, 4500, 3500}));
+    EXPECT_EQ(filters.Bounds(), (Rect{600, 5860, 4500, 795}));
+}
+
 TEST_F(RestorePosition, WithoutASizeTheDefaultCounts) {
     for (const char* nonsense : {"", "100", "100,200,3000", "100,200,0,4000", "10,20,-3000,4000",
                                  "10,20,3000,-1", "1e300,0,3000,4000", "a,b,c,d"}) {
