@@ -86,17 +86,34 @@ class Replacement {
 
     void TakePlace() {
         handle_.Reset();
-        // Replacing keeps the old file's rights and works while others read it, but needs an old
-        // file; moving needs none, and it also completes a replacement that has come half-way.
-        if (!ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
+        CopyRights();
+        // Moving is one step: whoever is killed leaves the old file or the new one. An old Windows
+        // does not move over a file that others read; replacing does, in several steps between
+        // which there may be none of that name, and moving completes one that has come half-way.
+        if (!Move() &&
+            !ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
                           nullptr, nullptr) &&
-            !MoveFileExW(name_.c_str(), target_.c_str(),
-                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            !Move())
             throw FileError(path_, GetLastError());
         placed_ = true;
     }
 
   private:
+    bool Move() {
+        return MoveFileExW(name_.c_str(), target_.c_str(),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+    }
+
+    // Who may read and write it. Where that cannot be told or set, those of the folder hold.
+    void CopyRights() {
+        DWORD size = 0;
+        GetFileSecurityW(target_.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+        std::vector<char> rights(size);
+        if (size > 0 && GetFileSecurityW(target_.c_str(), DACL_SECURITY_INFORMATION, rights.data(),
+                                         size, &size))
+            SetFileSecurityW(name_.c_str(), DACL_SECURITY_INFORMATION, rights.data());
+    }
+
     std::wstring target_;
     std::string path_;
     std::wstring name_;
