@@ -5,32 +5,10 @@ import shutil
 import time
 
 from harness.filedialog import FileDialog
-from harness.wine import PROJECT, windows_path
+from harness.untouched import KEYS, files_below, registry_of
+from harness.wine import PROJECT
 
-KEYS = (r"HKEY_CURRENT_USER\Software\Ghisler\Total Commander",
-        r"HKEY_LOCAL_MACHINE\Software\Ghisler\Total Commander")
 LONG_AGO = 1_400_000_000
-
-
-def files_below(path):
-    """Name, content and times of every file and folder."""
-    found = {}
-    for item in [path, *sorted(path.rglob("*"))]:
-        about = item.stat()
-        content = item.read_bytes() if item.is_file() else None
-        found[item.relative_to(path)] = (content, about.st_mtime_ns, about.st_mode, about.st_ino)
-    return found
-
-
-def registry_of(wine):
-    """What the registry holds below the file manager's keys."""
-    file = wine.folder / "export.reg"
-    texts = []
-    for key in KEYS:
-        wine.run(["reg", "export", key, windows_path(file), "/y"])
-        texts.append(file.read_bytes())
-        file.unlink()
-    return texts
 
 
 def test_a_whole_session_changes_nothing(folder, registry):
