@@ -27,7 +27,7 @@ void LabelWindow::SetAccessibleName(std::string_view name) {
 }
 
 void LabelWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {
-    FillRect(item.hDC, &item.rcItem, BackBrush());
+    FillRect(item.hDC, &item.rcItem, BrushOfBackColor());
 }
 
 void LabelWindow::SetPlainText(bool plain) {

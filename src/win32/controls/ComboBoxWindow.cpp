@@ -357,7 +357,7 @@ void ComboBoxWindow::OnDrawItem(const DRAWITEMSTRUCT& item) {
     else
         FillRect(item.hDC, &area, BackBrush());
     if (item.itemID < static_cast<UINT>(box_.ListCount())) {
-        COLORREF color = Resolve(box_.ForeColor());
+        COLORREF color = TextColors().text;
         if (highlighted)
             color = GetSysColor(COLOR_HIGHLIGHTTEXT);
         else if (disabled)

@@ -68,9 +68,10 @@ void ListViewWindow::SetVisible(bool visible) {
 }
 
 void ListViewWindow::SetColors(Color foreground, Color background) {
-    Send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(Resolve(foreground)));
-    Send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(Resolve(background)));
-    Send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(Resolve(background)));
+    const ResolvedColors colors = ResolveText(foreground, background);
+    Send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(colors.text));
+    Send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(colors.background));
+    Send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(colors.background));
     if (handle() != nullptr)
         InvalidateRect(handle(), nullptr, TRUE);
 }

@@ -205,8 +205,9 @@ std::optional<LRESULT> Window::Reflect(UINT message, WPARAM wParam, LPARAM lPara
 }
 
 HBRUSH Window::OnColor(HDC dc) {
-    SetTextColor(dc, Resolve(control_.ForeColor()));
-    SetBkColor(dc, Resolve(control_.BackColor()));
+    const ResolvedColors colors = TextColors();
+    SetTextColor(dc, colors.text);
+    SetBkColor(dc, colors.background);
     // Wine's controls do not draw in their own reading order; those of Windows do.
     if (control_.RightToLeft())
         SetTextAlign(dc, GetTextAlign(dc) | TA_RTLREADING);

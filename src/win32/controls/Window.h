@@ -91,7 +91,12 @@ class Window {
     void Remember(const toolkit::Rect& wanted) { wanted_ = wanted; }
     // For the form: all that is on it has the same.
     void ChangeScale(const Scale& scale) { *scale_ = scale; }
-    HBRUSH BackBrush() { return brush_.For(control_.BackColor()); }
+    ResolvedColors TextColors() const {
+        return ResolveText(control_.ForeColor(), control_.BackColor());
+    }
+    HBRUSH BackBrush() { return brush_.For(TextColors().background); }
+    // For what shows a colour and no text.
+    HBRUSH BrushOfBackColor() { return brush_.For(Resolve(control_.BackColor())); }
     void EraseBackground(HDC dc);
     // Kinds whose window class does not deal with the mouse by itself: the mouse is captured while
     // a button is down, and letting the left one go inside is a click.

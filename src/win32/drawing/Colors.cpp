@@ -1,5 +1,6 @@
 #include "win32/drawing/Colors.h"
 
+#include "toolkit/TextColors.h"
 #include "win32/common/SystemLibraries.h"
 
 namespace ordalyn::win32 {
@@ -29,21 +30,43 @@ bool ControlsAreThemed() {
     return themes.AllowControls();
 }
 
+bool SystemHasHighContrast() {
+    HIGHCONTRASTW contrast = {};
+    contrast.cbSize = sizeof contrast;
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) != FALSE &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+toolkit::Color WithoutTabInterior(toolkit::Color color) {
+    if (color != toolkit::kTabInterior)
+        return color;
+    return ControlsAreThemed() ? toolkit::kWindowBackground : toolkit::kButtonFace;
+}
+
 }  // namespace
 
+HighContrastQuestion*& HighContrastIsOn() {
+    static HighContrastQuestion* question = SystemHasHighContrast;
+    return question;
+}
+
+ResolvedColors ResolveText(toolkit::Color text, toolkit::Color background) {
+    const toolkit::TextColors shown =
+        toolkit::ReadableColors({text, WithoutTabInterior(background)}, HighContrastIsOn()());
+    return {Resolve(shown.text), Resolve(shown.background)};
+}
+
 COLORREF Resolve(toolkit::Color color) {
-    if (color == toolkit::kTabInterior)
-        return GetSysColor(ControlsAreThemed() ? COLOR_WINDOW : COLOR_BTNFACE);
+    color = WithoutTabInterior(color);
     if (color < 0)
         return GetSysColor(color & 0xFF);
     return static_cast<COLORREF>(color) & 0xFFFFFFU;
 }
 
-HBRUSH ColorBrush::For(toolkit::Color color) {
-    const COLORREF wanted = Resolve(color);
-    if (!brush_ || color_ != wanted) {
-        brush_.Reset(CreateSolidBrush(wanted));
-        color_ = wanted;
+HBRUSH ColorBrush::For(COLORREF color) {
+    if (!brush_ || color_ != color) {
+        brush_.Reset(CreateSolidBrush(color));
+        color_ = color;
     }
     return brush_.Get();
 }

@@ -5,6 +5,7 @@
 
 #include "TestForm.h"
 #include "win32/controls/Window.h"
+#include "win32/drawing/Colors.h"
 // after windows.h
 #include <uxtheme.h>
 
@@ -358,6 +359,91 @@ TEST_F(Looks, AnOpenListIsNoWiderThanItsScreenHasRoomFor) {
     screen.cbSize = sizeof screen;
     GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &screen);
     EXPECT_EQ(place.left + width, screen.rcWork.right);
+}
+
+// As if the person had chosen high contrast, for as long as it lives. The desktop stays as it is.
+class HighContrast {
+  public:
+    HighContrast() { win32::HighContrastIsOn() = Yes; }
+    ~HighContrast() { win32::HighContrastIsOn() = before_; }
+    HighContrast(const HighContrast&) = delete;
+    HighContrast& operator=(const HighContrast&) = delete;
+
+  private:
+    static bool Yes() { return true; }
+    win32::HighContrastQuestion* before_ = win32::HighContrastIsOn();
+};
+
+struct ColorsOfRows {
+    COLORREF text, background, behindText;
+};
+
+ColorsOfRows RowsOf(const Control& list) {
+    const auto ask = [window = WindowOf(list)](UINT what) {
+        return static_cast<COLORREF>(SendMessageW(window, what, 0, 0));
+    };
+    return {ask(LVM_GETTEXTCOLOR), ask(LVM_GETBKCOLOR), ask(LVM_GETTEXTBKCOLOR)};
+}
+
+constexpr Color kRed = 0x000000FF, kBlue = 0x00C80000;
+
+TEST_F(Looks, AColourChosenAloneGivesWayToTheSystemsWithHighContrast) {
+    auto& list = form.Get<ListView>("lvw");
+    list.SetForeColor(kRed);
+    EXPECT_EQ(RowsOf(list).text, COLORREF{kRed});
+    Box(false).SetBackColor(kBlue);
+    EXPECT_TRUE(Picture(Box(false)).Has(COLORREF{kBlue}));
+    Box(true).SetBackColor(kBlue);
+    {
+        const HighContrast chosen;
+        SendMessageW(HandleOf(form), WM_SYSCOLORCHANGE, 0, 0);
+        EXPECT_EQ(RowsOf(list).text, GetSysColor(COLOR_WINDOWTEXT));
+        EXPECT_EQ(RowsOf(list).background, GetSysColor(COLOR_WINDOW));
+        EXPECT_EQ(RowsOf(list).behindText, GetSysColor(COLOR_WINDOW));
+        EXPECT_FALSE(Picture(Box(false)).Has(COLORREF{kBlue}));
+        EXPECT_FALSE(Picture(Box(true)).Has(COLORREF{kBlue}));
+    }
+    SendMessageW(HandleOf(form), WM_SYSCOLORCHANGE, 0, 0);
+    EXPECT_EQ(RowsOf(list).text, COLORREF{kRed});
+    EXPECT_TRUE(Picture(Box(false)).Has(COLORREF{kBlue}));
+}
+
+TEST_F(Looks, ColoursChosenTogetherStayWithHighContrast) {
+    const HighContrast chosen;
+    auto& list = form.Get<ListView>("lvw");
+    for (Control* control : {static_cast<Control*>(&list), static_cast<Control*>(&Box(false))}) {
+        control->SetForeColor(0x00FFFFFF);
+        control->SetBackColor(kBlue);
+    }
+    // Each of them alone was not one of a pair yet; the second makes it one.
+    EXPECT_EQ(RowsOf(list).text, COLORREF{0x00FFFFFF});
+    EXPECT_EQ(RowsOf(list).background, COLORREF{kBlue});
+    EXPECT_TRUE(Picture(Box(false)).Has(COLORREF{kBlue}));
+}
+
+TEST_F(Looks, TextsOnDialogsAreThoseOfButtonsWithHighContrast) {
+    const Label& label = form.Get<Label>("lbl");
+    form.Get<Label>("lbl").SetForeColor(SystemColor(COLOR_HIGHLIGHT));
+    const HDC dc = GetDC(WindowOf(label));
+    const auto textColor = [&] {
+        SendMessageW(HandleOf(form), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
+                     reinterpret_cast<LPARAM>(WindowOf(label)));
+        return GetTextColor(dc);
+    };
+    EXPECT_EQ(textColor(), GetSysColor(COLOR_HIGHLIGHT));
+    {
+        const HighContrast chosen;
+        EXPECT_EQ(textColor(), GetSysColor(COLOR_BTNTEXT));
+    }
+    ReleaseDC(WindowOf(label), dc);
+}
+
+TEST_F(Looks, ALabelThatShowsAColourShowsItWithHighContrastToo) {
+    const HighContrast chosen;
+    auto& label = form.Get<Label>("lbl");
+    label.SetAccessibleName("Background");
+    label.SetBackColor(kBlue);
+    EXPECT_TRUE(Picture(label).Has(COLORREF{kBlue}));
 }
 
 }  // namespace

@@ -1,0 +1,27 @@
+// Which colours a text is shown in.
+#pragma once
+
+#include "toolkit/Basics.h"
+
+namespace ordalyn::toolkit {
+
+struct TextColors {
+    Color text;
+    Color background;
+    bool operator==(const TextColors&) const = default;
+};
+
+// Who has chosen high contrast must be able to read every text. A text and a background that were
+// both chosen stay; otherwise both are the system's, and belong together: a chosen colour may be
+// hard to see on one of the system's, and so may two of the system's that are for different things.
+constexpr TextColors ReadableColors(const TextColors& wanted, bool highContrast) {
+    const bool ownText = wanted.text >= 0;
+    const bool ownBackground = wanted.background >= 0;
+    if (!highContrast || (ownText && ownBackground))
+        return wanted;
+    if (wanted.background == kButtonFace)
+        return {kButtonText, kButtonFace};
+    return {kWindowText, kWindowBackground};
+}
+
+}  // namespace ordalyn::toolkit
