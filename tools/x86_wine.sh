@@ -91,6 +91,9 @@ exec 9>&-
 mount -t proc proc "$root/proc"
 bind /dev
 bind /tmp
+# What a test mounts in the project is seen there, too.
+mount --rbind "$project" "$project"
+mount --make-shared "$project"
 bind "$project"
 tools=$(mktemp -d)
 for name in wine wineserver; do

@@ -23,12 +23,34 @@ struct GdiEntry {
     std::uint64_t userPointer;
 };
 constexpr std::size_t kGdiEntries = 65536;
-constexpr std::size_t kGdiTableInPeb = sizeof(void*) == 8 ? 0xF8 : 0x94;
+
+template <typename Value>
+Value ValueAt(std::uint64_t block, std::size_t offset) {
+    return *reinterpret_cast<const Value*>(static_cast<std::uintptr_t>(block) + offset);
+}
+
+// In a 32-bit process on a 64-bit system the 64-bit blocks know where the table is.
+const GdiEntry* GdiTable() {
+    constexpr std::size_t kTableInPeb64 = 0xF8;
+    const auto teb = reinterpret_cast<std::uintptr_t>(NtCurrentTeb());
+    std::uint64_t peb = 0;
+    if constexpr (sizeof(void*) == 8) {
+        constexpr std::size_t kPebInTeb = 0x60;
+        peb = ValueAt<std::uint64_t>(teb, kPebInTeb);
+    } else {
+        constexpr std::size_t kTeb64InTeb = 0xF70;
+        constexpr std::size_t kPebInTeb64 = 0x60;
+        const auto teb64 = ValueAt<std::uint32_t>(teb, kTeb64InTeb);
+        if (teb64 == 0)
+            return nullptr;
+        peb = ValueAt<std::uint64_t>(teb64, kPebInTeb64);
+    }
+    return reinterpret_cast<const GdiEntry*>(
+        static_cast<std::uintptr_t>(ValueAt<std::uint64_t>(peb, kTableInPeb64)));
+}
 
 std::int64_t CountGdiObjects() {
-    const auto* const peb =
-        reinterpret_cast<const std::byte*>(NtCurrentTeb()->ProcessEnvironmentBlock);
-    const auto* const table = *reinterpret_cast<const GdiEntry* const*>(peb + kGdiTableInPeb);
+    const GdiEntry* const table = GdiTable();
     if (table == nullptr)
         throw std::runtime_error("there is no table of GDI objects");
     std::int64_t count = 0;
