@@ -93,6 +93,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void KeepTwips(const toolkit::Rect& before);
     RECT WindowRectFor(const toolkit::Rect& outer);
     toolkit::Rect TwipsOf(const RECT& window);
+    toolkit::Rect TwipsOf(const RECT& window, const toolkit::Rect& known, const RECT& knownWindow);
     toolkit::Rect OuterOf(const RECT& window);
     void PlaceWhenNormal(const RECT& window);
     void LimitSize(MINMAXINFO& limits) const;

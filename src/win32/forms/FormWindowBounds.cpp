@@ -9,14 +9,6 @@ namespace ordalyn::win32 {
 
 using namespace toolkit;
 
-namespace {
-
-bool SameRect(const RECT& a, const RECT& b) {
-    return EqualRect(&a, &b) != 0;
-}
-
-}  // namespace
-
 RECT FormWindow::WindowRectFor(const Rect& outer) {
     const FrameMargins margins = desktop().Margins(style_.resizable, scale().DpiY());
     // The size is rounded by itself: a form keeps it wherever it is moved.
@@ -35,20 +27,22 @@ Rect FormWindow::TwipsOf(const RECT& window) {
             scale().TwipsY(window.bottom - margins.bottom - window.top - margins.top)};
 }
 
-Rect FormWindow::OuterOf(const RECT& window) {
-    if (SameRect(window, placedWindow_))
-        return placed_;
+// What has the same pixels as a place that is known in twips keeps the numbers of that.
+Rect FormWindow::TwipsOf(const RECT& window, const Rect& known, const RECT& knownWindow) {
     Rect outer = TwipsOf(window);
-    // What has the same pixels keeps the number that it was given.
-    if (window.left == placedWindow_.left)
-        outer.left = placed_.left;
-    if (window.top == placedWindow_.top)
-        outer.top = placed_.top;
-    if (window.right - window.left == placedWindow_.right - placedWindow_.left)
-        outer.width = placed_.width;
-    if (window.bottom - window.top == placedWindow_.bottom - placedWindow_.top)
-        outer.height = placed_.height;
+    if (window.left == knownWindow.left)
+        outer.left = known.left;
+    if (window.top == knownWindow.top)
+        outer.top = known.top;
+    if (window.right - window.left == knownWindow.right - knownWindow.left)
+        outer.width = known.width;
+    if (window.bottom - window.top == knownWindow.bottom - knownWindow.top)
+        outer.height = known.height;
     return outer;
+}
+
+Rect FormWindow::OuterOf(const RECT& window) {
+    return TwipsOf(window, placed_, placedWindow_);
 }
 
 Rect FormWindow::Place(const Rect& wanted) {

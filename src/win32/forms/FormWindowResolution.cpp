@@ -159,22 +159,13 @@ void FormWindow::ResolutionChanged(const Scale& now, const RECT& proposed) {
                      RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
-// What has the same pixels in another resolution keeps its twips.
+// What has the pixels that its twips have in the new resolution keeps them.
 void FormWindow::KeepTwips(const Rect& before) {
     RECT window = {};
     if (IsIconic(handle()) || IsZoomed(handle()) || !GetWindowRect(handle(), &window))
         return;
-    const RECT wouldBe = WindowRectFor(before);
+    placed_ = TwipsOf(window, before, WindowRectFor(before));
     placedWindow_ = window;
-    placed_ = TwipsOf(window);
-    if (window.left == wouldBe.left)
-        placed_.left = before.left;
-    if (window.top == wouldBe.top)
-        placed_.top = before.top;
-    if (window.right - window.left == wouldBe.right - wouldBe.left)
-        placed_.width = before.width;
-    if (window.bottom - window.top == wouldBe.bottom - wouldBe.top)
-        placed_.height = before.height;
 }
 
 }  // namespace ordalyn::win32
