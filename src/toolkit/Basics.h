@@ -87,6 +87,8 @@ class Event {
             handlers_ = std::make_shared<Handlers>();
         handlers_->push_back(std::make_shared<const Handler>(std::move(handler)));
     }
+    // Whether anybody listens.
+    explicit operator bool() const { return handlers_ != nullptr; }
     void Raise(Args... args) const {
         // Holding the list and the handler that runs, and by index: a handler may subscribe another
         // one, which moves the list's elements, or end this event.

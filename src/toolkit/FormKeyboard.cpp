@@ -175,6 +175,9 @@ bool FormKeyboard::MoveBetweenOptions(const Control* focused, bool forward) cons
 }
 
 bool FormKeyboard::PressForEnter(Control* focused) const {
+    if (auto* const list = dynamic_cast<ListView*>(focused);
+        list != nullptr && list->UserActivated(list->SelectedRow()))
+        return true;
     const bool button = focused != nullptr && focused->ControlKind() == Kind::CommandButton;
     return Press(button ? focused : form_.DefaultButton());
 }

@@ -145,4 +145,11 @@ void ListView::UserSelected(int row) {
         ItemClick.Raise(row);
 }
 
+bool ListView::UserActivated(int row) {
+    if (!RowActivated || row < 0 || row >= RowCount())
+        return false;
+    RowActivated.Raise(row);
+    return true;
+}
+
 }  // namespace ordalyn::toolkit

@@ -64,8 +64,12 @@ class ListView : public Control {
     void FlattenColumnHeaders() { peer_->FlattenColumnHeaders(); }
 
     Event<int> ItemClick;
-    // For the peer.
+    // A row was double clicked, or Enter was pressed with the focus in the list: what is to happen
+    // with it is to happen. As long as nobody listens Enter is the form's.
+    Event<int> RowActivated;
+    // For the peer and for FormKeyboard.
     void UserSelected(int row);
+    bool UserActivated(int row);  // whether that is of any use
 
   private:
     struct Column {

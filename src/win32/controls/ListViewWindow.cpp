@@ -353,6 +353,9 @@ std::optional<LRESULT> ListViewWindow::OnNotify(NMHDR& header) {
         case static_cast<UINT>(LVN_ITEMCHANGED):
             ItemChanged(reinterpret_cast<const NMLISTVIEW&>(header));
             return 0;
+        case NM_DBLCLK:
+            list_.UserActivated(reinterpret_cast<const NMITEMACTIVATE&>(header).iItem);
+            return 0;
         default:
             return std::nullopt;
     }

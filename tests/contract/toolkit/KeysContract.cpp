@@ -112,6 +112,26 @@ TEST_P(Keys, EnterAndEscapePressTheFormsButtons) {
     EXPECT_EQ(cancel.Take(), 1);
 }
 
+TEST_P(Keys, EnterInAListIsTheListsOnceSomebodyListens) {
+    Counter ok(Get<CommandButton>("cmdOk").Click);
+    auto& list = Get<ListView>("lvwRows");
+    list.AddColumn("Text", 2000, 0);
+    list.Fill(std::make_shared<CountedRows>(), TagsFrom(0, 3));
+    list.SelectRow(1);
+    list.SetFocus();
+    Settle();
+    Press(key::Enter);
+    EXPECT_EQ(ok.Take(), 1);
+    std::vector<int> activated;
+    list.RowActivated.Subscribe([&](int row) { activated.push_back(row); });
+    Press(key::Enter);
+    EXPECT_EQ(ok.Take(), 0);
+    EXPECT_EQ(activated, std::vector<int>{1});
+    list.SelectRow(-1);
+    Press(key::Enter);
+    EXPECT_EQ(ok.Take(), 1);
+}
+
 TEST_P(Keys, EnterPressesTheButtonThatHasTheFocus) {
     Counter ok(Get<CommandButton>("cmdOk").Click);
     Counter cancel(Get<CommandButton>("cmdCancel").Click);

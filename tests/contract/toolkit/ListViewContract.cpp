@@ -24,6 +24,7 @@ class ListViews : public ToolkitContract {
     ListView& list = Get<ListView>("lvwRows");
     std::shared_ptr<CountedRows> rows = std::make_shared<CountedRows>();
     std::vector<int> clicks;
+    std::vector<int> activated;
 };
 INSTANTIATE_TEST_SUITE_P(Toolkit, ListViews, AllRealisations(), RealisationName);
 
@@ -386,6 +387,39 @@ TEST_P(ListViews, AListThatIsHiddenOnlyWhileItIsFilledKeepsTheFocus) {
     list.SetVisible(true);
     Settle();
     EXPECT_TRUE(User().HasFocus(list));
+}
+
+TEST_P(ListViews, ADoubleClickActivatesTheRowThatTheFirstClickSelected) {
+    Fill(50);
+    list.RowActivated.Subscribe([this](int row) { activated.push_back(row); });
+    User().ClickRow(list, 3);
+    EXPECT_THAT(activated, testing::IsEmpty());
+    User().DoubleClickRow(list, 4);
+    EXPECT_THAT(activated, ElementsAre(4));
+    EXPECT_EQ(list.SelectedRow(), 4);
+}
+
+TEST_P(ListViews, EnterActivatesTheSelectedRowAndNothingWithoutOne) {
+    Fill(50);
+    list.RowActivated.Subscribe([this](int row) { activated.push_back(row); });
+    list.SetFocus();
+    Settle();
+    Key(key::Enter);
+    EXPECT_THAT(activated, testing::IsEmpty());
+    list.SelectRow(7);
+    Key(key::Enter);
+    EXPECT_THAT(activated, ElementsAre(7));
+}
+
+TEST_P(ListViews, TheRowsMayChangeWhenOneIsActivated) {
+    Fill(50);
+    list.RowActivated.Subscribe([this](int row) {
+        activated.push_back(row);
+        list.ClearRows();
+    });
+    User().DoubleClickRow(list, 4);
+    EXPECT_THAT(activated, ElementsAre(4));
+    EXPECT_EQ(User().RowCount(list), 0);
 }
 
 TEST_P(ListViews, TheRowsMayChangeWhenOneIsClicked) {

@@ -75,6 +75,10 @@ class MemoryDriver : public ToolkitDriver {
     void ClickRow(ListView& list, int row) override {
         Do(list, [&] { Select(list, row); });
     }
+    void DoubleClickRow(ListView& list, int row) override {
+        ClickRow(list, row);
+        Do(list, [&] { list.UserActivated(row); });
+    }
     void ClickBelowRows(ListView& list) override {
         Do(list, [&] { Select(list, -1); });
     }

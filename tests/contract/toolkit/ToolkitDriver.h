@@ -62,6 +62,7 @@ class ToolkitDriver {
     // The control with the focus gets it, when its form leaves it to that.
     virtual void PressKey(toolkit::Form& form, int key, toolkit::Modifiers modifiers = {}) = 0;
     virtual void ClickRow(toolkit::ListView& list, int row) = 0;
+    virtual void DoubleClickRow(toolkit::ListView& list, int row) = 0;
     virtual void ClickBelowRows(toolkit::ListView& list) = 0;
     virtual void DragDivider(toolkit::ListView& list, int column, int pixels) = 0;
     virtual void DragHeader(toolkit::ListView& list, int column, int position) = 0;

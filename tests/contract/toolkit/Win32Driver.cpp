@@ -173,12 +173,10 @@ class Win32Driver : public Win32Sight {
                      static_cast<LPARAM>(0xC0000001) | place | alt);
         Settle();
     }
-    void ClickRow(ListView& list, int row) override {
-        RECT cell = {};
-        cell.left = LVIR_LABEL;
-        Ask(HandleOf(list), LVM_GETITEMRECT, static_cast<WPARAM>(row),
-            reinterpret_cast<LPARAM>(&cell));
-        ClickList(list, {cell.left + 4, (cell.top + cell.bottom) / 2});
+    void ClickRow(ListView& list, int row) override { ClickList(list, InRow(list, row)); }
+    void DoubleClickRow(ListView& list, int row) override {
+        ClickRow(list, row);
+        ClickList(list, InRow(list, row), WM_LBUTTONDBLCLK);
     }
     void ClickBelowRows(ListView& list) override {
         RECT inside = {};
@@ -365,11 +363,18 @@ class Win32Driver : public Win32Sight {
             Ask(window, WM_LBUTTONUP, 0, At(at));
     }
     // A list waits for the release inside of the press to tell a click from a drag.
-    void ClickList(ListView& list, POINT at) {
+    static POINT InRow(ListView& list, int row) {
+        RECT cell = {};
+        cell.left = LVIR_LABEL;
+        Ask(HandleOf(list), LVM_GETITEMRECT, static_cast<WPARAM>(row),
+            reinterpret_cast<LPARAM>(&cell));
+        return {cell.left + 4, (cell.top + cell.bottom) / 2};
+    }
+    void ClickList(ListView& list, POINT at, UINT down = WM_LBUTTONDOWN) {
         const HWND window = HandleOf(list);
         if (!CanReach(window))
             return;
-        PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, At(at));
+        PostMessageW(window, down, MK_LBUTTON, At(at));
         PostMessageW(window, WM_LBUTTONUP, 0, At(at));
         Settle();
     }
