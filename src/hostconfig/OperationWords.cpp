@@ -1,5 +1,6 @@
 #include "hostconfig/OperationWords.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -121,6 +122,21 @@ std::vector<OperationWord> ItemsFor(std::string_view ids, std::string_view keywo
     return items;
 }
 
+// Adds the name that the line has, if it is that of an operation.
+void AddName(std::string_view line, std::vector<OperationName>& names) {
+    const std::vector<std::string> ids = Split(kOperationIDs, ',');
+    const std::size_t open = line.find('"');
+    const std::size_t close = line.rfind('"');
+    const std::optional<std::string_view> key = KeyOf(line);
+    const auto id = key ? std::find(ids.begin(), ids.end(), TrimBlanks(*key)) : ids.end();
+    if (id == ids.end() || open == close)
+        return;
+    const auto kind =
+        static_cast<int>(OperationKind::ProgramStart) + static_cast<int>(id - ids.begin());
+    names.push_back(
+        {static_cast<OperationKind>(kind), std::string(line.substr(open + 1, close - open - 1))});
+}
+
 }  // namespace
 
 bool OperationWords::IsOperation(std::string_view key) {
@@ -145,16 +161,12 @@ std::vector<OperationWord> OperationWords::LoadOperationKeywords() {
     loggingID_ = ReadLoggingID();
     operations_.clear();
     const mAppCommon& common = around_.common;
-    const std::string languageIni = common.ExpandPath(
-        around_.profile
-            .ReadValue(kConfigurationSection, "LanguageIni", common.NoValueMarker(),
-                       common.CommanderIni(), cProfile::kBufferSize)
-            .value_or(std::string()));
+    const std::string languageIni = LanguageIni();
     if (common.IsNoValue(languageIni))
         return LoadDefaultKeywords();  // the file manager speaks its built-in English
     if (common.FileExists(languageIni))
         return {};
-    const std::string languageFile = common.CommanderFolder() + "Language\\" + languageIni;
+    const std::string languageFile = FileInLanguageFolder(languageIni);
     if (!common.FileExists(languageFile))
         return LoadDefaultKeywords();
     std::vector<std::string> lines;
@@ -165,6 +177,37 @@ std::vector<OperationWord> OperationWords::LoadOperationKeywords() {
         return LoadDefaultKeywords();
     operations_ = CollectKeywords(lines, kOperationIDs);
     return ItemsOf(keywords);
+}
+
+std::string OperationWords::LanguageIni() const {
+    const mAppCommon& common = around_.common;
+    return common.ExpandPath(around_.profile
+                                 .ReadValue(kConfigurationSection, "LanguageIni",
+                                            common.NoValueMarker(), common.CommanderIni(),
+                                            cProfile::kBufferSize)
+                                 .value_or(std::string()));
+}
+
+std::string OperationWords::FileInLanguageFolder(std::string_view languageIni) const {
+    return around_.common.CommanderFolder() + "Language\\" + std::string(languageIni);
+}
+
+std::vector<OperationName> OperationWords::NamesOfTheLog() const {
+    std::vector<OperationName> names;
+    const std::string languageIni = LanguageIni();
+    if (!around_.common.IsNoValue(languageIni)) {
+        const std::string file = around_.common.FileExists(languageIni)
+                                     ? languageIni
+                                     : FileInLanguageFolder(languageIni);
+        // A file that cannot be read leaves the English names.
+        Attempt([&] {
+            for (const std::string& line : KeywordLines(file))
+                AddName(line, names);
+        });
+    }
+    for (const std::string& line : Split(EnglishKeywords(), ','))
+        AddName(line, names);
+    return names;
 }
 
 // The trimmed lines of the file that have a key.

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "log/Operation.h"
 #include "platform/Platform.h"
 
 namespace ordalyn {
@@ -53,6 +54,10 @@ class OperationWords {
     // The words of all operations, in the language of those that were loaded last (English before
     // that), whether LoggingID has them or not. A language file need not have all of them.
     std::vector<std::string> Operations() const;
+    // The names of the operations for reading the log: in the language that the file manager uses,
+    // then in English, which older lines can be in. Unlike the items they are read from a
+    // LanguageIni that names an existing file, too, and whole, and nothing is written.
+    std::vector<OperationName> NamesOfTheLog() const;
     // The items for a keyword text, in the order of LoggingID. A word that the text or LoggingID
     // holds more than once comes more than once, under the same key. Words are cut out by position:
     // one without quotes comes with its id and without its last character, one with a comma ends a
@@ -64,6 +69,8 @@ class OperationWords {
 
   private:
     std::string ReadLoggingID();
+    std::string LanguageIni() const;
+    std::string FileInLanguageFolder(std::string_view languageIni) const;
     std::vector<std::string> KeywordLines(std::string_view languageFile) const;
 
     Surroundings around_;

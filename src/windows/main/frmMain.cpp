@@ -33,6 +33,10 @@ frmMain::frmMain(SharedObjects& shared)
       SourceListView(Get<ListView>("SourceListView")),
       TargetListView(Get<ListView>("TargetListView")),
       StatusBar1(Get<toolkit::StatusBar>("StatusBar1")),
+      operations_({.common = shared.common,
+                   .profile = *shared.profile,
+                   .files = shared.services.files,
+                   .codePages = shared.services.codePages}),
       title_(*this),
       columns_(shared, SourceListView, TargetListView),
       copy_(shared.services.clipboard, SourceListView, entries_),
@@ -188,6 +192,7 @@ void frmMain::FindLog() {
     // Both can show dialogs, which handle messages; a later activation does nothing by now.
     Attempt([this] { locator_.FindCommanderFolder(); });
     Attempt([this] { locator_.FindCommanderIni(); });
+    operations_.Forget();
     if (Unloaded())
         return;
     std::string logFile;

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "hostconfig/LogOperations.h"
 #include "hostconfig/TotalCommanderLocator.h"
 #include "log/EntryLists.h"
 #include "search/FilterChoice.h"
@@ -74,6 +75,7 @@ class frmMain : public toolkit::Form {
     toolkit::StatusBar& StatusBar1;
 
     EntryLists entries_;
+    LogOperations operations_;
     FilterChoice filter_;
     MainTitle title_;
     PanelColumns columns_;
