@@ -14,6 +14,11 @@ import check_includes  # noqa: E402
 
 LONGEST_FILE = 450
 
+# What a newcomer sees first. Anything else there was left by a tool.
+TOP = {".ci", ".clang-format", ".clang-tidy", ".gitattributes", ".gitignore", "CMakeLists.txt",
+       "CMakePresets.json", "README.md", "build.sh", "cmake", "docs", "help", "languages", "packaging",
+       "run.sh", "samples", "src", "test.sh", "tests", "tools"}
+
 # Headers of the system that only src/win32 may know.
 SYSTEM_HEADERS = re.compile(
     r"^\s*#\s*include\s*<((?:windows|winsock2?|ws2tcpip|commctrl|commdlg|shellapi|shlobj|shlwapi|"
@@ -51,6 +56,10 @@ def without_comments(source):
 
 def test_there_is_code_to_check():
     assert len(code("src")) > 10
+
+
+def test_nothing_lies_about_at_the_top():
+    assert {file.relative_to(PROJECT).parts[0] for file in tracked()} == TOP
 
 
 def test_only_the_windows_room_includes_system_headers():
