@@ -2,10 +2,13 @@
 # Builds the ready program folders dist/x64 and dist/x86 (or only those that are named), and checks
 # that what is in them runs on a Windows that has nothing installed.
 #
-#   ./build.sh [x64] [x86]
+#   ./build.sh [x64] [x86] [release]
+#
+# release builds both, and packs them into dist/ordalyn-VERSION-x64.zip, -x86.zip and -setup.exe with
+# their SHA256SUMS. The same commit gives the same bytes on any day, in any folder, for any user.
 set -euo pipefail
 cd "$(dirname "$0")"
-tools/setup.sh build
+case " $* " in *" release "*) tools/setup.sh build release ;; *) tools/setup.sh build ;; esac
 # shellcheck source=tools/environment.sh
 . tools/environment.sh
 
@@ -14,13 +17,33 @@ fail() {
     exit 1
 }
 
+# The moment that everything in a package is from: that of the commit.
+commit_seconds() { git log -1 --format=%ct 2>/dev/null || echo 1767225600; }
+
+# The help compiler writes the time of day, and what happens to be in its memory, into the help file.
+# It asks the kernel itself, so that the time is put into the answers of these calls, and its memory
+# is laid out the same each time. Where a program must not be watched, the help file is as good, but
+# not the same twice.
+compile_help() {
+    local seconds time_of_day
+    seconds=$(commit_seconds)
+    time_of_day=$(/usr/bin/python3 -c 'import struct, sys; print(struct.pack("<qq", int(sys.argv[1]), 0).hex())' "$seconds")
+    if command -v strace >/dev/null && setarch -R strace -qq -o /dev/null true 2>/dev/null; then
+        env -i PATH="$PATH" setarch -R strace -f -qq -o /dev/null -e trace=time,gettimeofday \
+            -e inject=time:retval="$seconds" -e inject=gettimeofday:poke_exit=@arg1="$time_of_day" \
+            chmcmd "$1"
+    else
+        chmcmd "$1"
+    fi
+}
+
 # Compiles the help sources, when the tree has them: help/NAME.hhp becomes NAME.chm.
 build_help() {
     local target=$1 project name
     for project in help/*.hhp help/*/*.hhp; do
         [ -e "$project" ] || continue
         name=$(sed -n 's/^Compiled file=\(.*\)\r\?$/\1/Ip' "$project" | tr -d '\r')
-        (cd "$(dirname "$project")" && chmcmd "$(basename "$project")" >/dev/null) ||
+        (cd "$(dirname "$project")" && compile_help "$(basename "$project")" >/dev/null 2>&1) ||
             fail "the help file of $project does not compile"
         mv "$(dirname "$project")/$name" "$target/"
     done
@@ -35,7 +58,8 @@ build_folder() {
     [ -n "$program" ] || fail "the build has made no Ordalyn.exe"
     # Settings that a user of the folder has made stay.
     mkdir -p "$target"
-    "$tools-strip" -o "$target/Ordalyn.exe" "$program"
+    # It would write the time of day into the program.
+    SOURCE_DATE_EPOCH=$(commit_seconds) "$tools-strip" -o "$target/Ordalyn.exe" "$program"
     /usr/bin/python3 -B tools/check_program.py "$target/Ordalyn.exe" "$architecture" ||
         fail "$target/Ordalyn.exe is not fit to be given to anybody"
     rm -rf "$target/Languages"
@@ -43,7 +67,7 @@ build_folder() {
         mkdir "$target/Languages"
         cp languages/*.lng "$target/Languages/"
     fi
-    for file in packaging/README.txt LICENSE LICENSE.txt; do
+    for file in packaging/Readme.txt LICENSE LICENSE.txt; do
         if [ -e "$file" ]; then cp "$file" "$target/"; fi
     done
     build_help "$target"
@@ -55,6 +79,11 @@ for bits in "$@"; do
     case $bits in
         x64) build_folder x64 amd64 x86_64-w64-mingw32 ;;
         x86) build_folder x86 x86 i686-w64-mingw32 ;;
+        release)
+            build_folder x64 amd64 x86_64-w64-mingw32
+            build_folder x86 x86 i686-w64-mingw32
+            /usr/bin/python3 -B tools/make_release.py dist "$(commit_seconds)"
+            ;;
         *) fail "no such folder: $bits" ;;
     esac
 done

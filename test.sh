@@ -2,7 +2,7 @@
 # Runs every test of the project, or the kinds that are named, and ends with the count. Benchmarks run
 # only when they are named: a limit that a busy machine misses is no failed test.
 #
-#   ./test.sh [lint] [unit] [wine] [clang] [contract] [e2e] [x86] [fuzz] [bench]
+#   ./test.sh [lint] [unit] [wine] [clang] [contract] [e2e] [x86] [release] [fuzz] [bench]
 #
 #   lint      layout, static analysis, and rules of this code base
 #   unit      unit tests and the in-memory side of the contract suite, with sanitizers
@@ -11,6 +11,7 @@
 #   contract  both sides of the contract suite only
 #   e2e       the real program in a real window
 #   x86       wine and e2e with the 32-bit program, in a small Debian of its own (tools/x86_wine.sh)
+#   release   whether the packages are the same bytes when they are built elsewhere
 #   fuzz      every fuzz target for a bounded time
 #   bench     benchmarks; a missed limit is a failure
 #
@@ -113,11 +114,17 @@ kind_x86() {
     build_tests mingw-x86
     programs_in build/mingw-x86/tests/{unit,contract} | grep '\.exe$' |
         tools/x86_wine.sh /usr/bin/python3 tools/run_googletest.py wine $COUNTS
-    ./build.sh x86
+    # The setup program is tested here, too: it is a 32-bit one.
+    ./build.sh release
     build_agent mingw-x86
     UNDER=(tools/x86_wine.sh)
     # shellcheck disable=SC2086
     run_pytest x86 -n 2 tests/e2e ${ORDALYN_E2E:-}
+}
+
+kind_release() {
+    ./build.sh release
+    run_pytest release tests/release
 }
 
 # targets PRESET PREFIX: the names of a build folder's targets that start so.
@@ -159,13 +166,13 @@ bench_real_program() {
 }
 
 if [ $# -eq 0 ]; then
-    set -- lint unit wine clang e2e x86 fuzz
+    set -- lint unit wine clang e2e x86 release fuzz
     # It says what is missing. Whoever names this kind gets a failure instead.
-    tools/x86_wine.sh --check || set -- lint unit wine clang e2e fuzz
+    tools/x86_wine.sh --check || set -- lint unit wine clang e2e release fuzz
 fi
 for kind in "$@"; do
     case $kind in
-        lint | unit | wine | clang | contract | e2e | x86 | fuzz | bench) ;;
+        lint | unit | wine | clang | contract | e2e | x86 | release | fuzz | bench) ;;
         *)
             echo "test.sh: no such kind of test: $kind" >&2
             exit 2

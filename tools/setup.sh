@@ -2,7 +2,7 @@
 # Installs what is missing of the packages that a task needs. It first says what it is about to do,
 # and that it uses sudo when it is not run as root.
 #
-#   tools/setup.sh build|run|test ...
+#   tools/setup.sh build|release|run|test ...
 #
 # Works as root or with sudo on Debian 12; with nothing missing it is done in a moment. The i386
 # architecture is never added: 32-bit programs run in a Debian of their own (x86_wine.sh).
@@ -19,6 +19,10 @@ packages_for() {
                 compgen -G "$(dirname "$0")/../help/*/*.hhp" >/dev/null; then
                 echo fp-utils
             fi
+            ;;
+        release)
+            # strace keeps the time of day out of the help file.
+            echo nsis strace
             ;;
         run)
             echo wine wine64 xvfb xdotool imagemagick fonts-wine fonts-liberation python3
