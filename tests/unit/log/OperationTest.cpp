@@ -51,6 +51,7 @@ class Operations : public testing::Test {
                             {Move, "Přesun          "},
                             {OperationKind::Test, ""},
                             {Pack, "Packen (neu)"},
+                            {Unpack, "解"},
                             {ProgramStart, "Program start"},
                             {ProgramShutdown, "Program shutdown"},
                             {Copy, "Copy"},
@@ -122,6 +123,10 @@ TEST_F(Operations, OfEqualWordsTheFirstCounts) {
     Expect("Move: C:\\x", Move, "Move", "", "C:\\x");
 }
 
+TEST_F(Operations, AWordCanBeASingleCharacter) {
+    Expect("解: C:\\x", Unpack, "解", "", "C:\\x");
+}
+
 TEST_F(Operations, AWordEndsWhereItEnds) {
     Expect("Copying: C:\\x", Other, "Copying", "", "C:\\x");
     Expect("DeleteAll: C:\\x", Other, "DeleteAll", "", "C:\\x");
@@ -185,6 +190,9 @@ TEST_F(Operations, WhatIsNoOperationIsNotGuessedAt) {
     ExpectUnreadable("10:15:30: C:\\a.txt");
     ExpectUnreadable("10:15:30: : C:\\a.txt");
     ExpectUnreadable("10:15:30: 12:30 C:\\a.txt");
+    ExpectUnreadable("10:15:30: 0x: C:\\a.txt");
+    ExpectUnreadable("10:15:30: 9x: C:\\a.txt");
+    ExpectUnreadable("ax1:Copy C:\\a.txt");
 }
 
 TEST_F(Operations, ADriveLetterIsNoPartOfALongerWord) {
@@ -194,6 +202,9 @@ TEST_F(Operations, ADriveLetterIsNoPartOfALongerWord) {
 
 TEST(WholePaths, AreThoseOnADriveInTheNetworkOrOfAPlugin) {
     EXPECT_TRUE(IsWholePath("C:\\"));
+    EXPECT_TRUE(IsWholePath("A:\\"));
+    EXPECT_TRUE(IsWholePath("Z:\\"));
+    EXPECT_TRUE(IsWholePath("a:\\"));
     EXPECT_TRUE(IsWholePath("z:\\a"));
     EXPECT_TRUE(IsWholePath("\\\\server\\share"));
     EXPECT_TRUE(IsWholePath("\\\\\\plugin\\x"));
