@@ -77,12 +77,36 @@ struct FileStamp {
     }
 };
 
+// Notices what becomes of the files in a folder: new ones, and changes of names, sizes and times.
+class FolderWatch {
+  public:
+    virtual ~FolderWatch() = default;
+    // Whether there was a change since the last time that this was asked. Never waits; the system
+    // takes a moment to tell, and nothing is told of what a program writes into a file that it
+    // keeps open.
+    virtual bool Changed() = 0;
+};
+
+enum class DriveKind {
+    None,  // there is no drive of that letter
+    Fixed,
+    Removable,
+    Network,  // a look at it can take a long time
+};
+
 class Files {
   public:
     virtual ~Files() = default;
+    // Of the drive or the network that a full path begins with. Never waits: neither a medium nor a
+    // server is asked.
+    virtual DriveKind DriveOf(std::string_view path) = 0;
     // Nothing when there is neither a file nor a folder of that name. The file is not opened, so
     // that one that others hold has a stamp too.
     virtual std::optional<FileStamp> Stamp(std::string_view path) = 0;
+    // How large the file is now; nothing when there is none. A stamp can lag behind as long as
+    // another program has the file open and writes; this does not. Whoever holds the file, or opens
+    // it just then, with or without sharing, does not notice.
+    virtual std::optional<std::uint64_t> SizeNow(std::string_view path) = 0;
     // Others may go on reading, writing, renaming and deleting the file. Throws FileError (missing,
     // locked, a folder, ...).
     virtual std::unique_ptr<ReadableFile> OpenForReading(std::string_view path) = 0;
@@ -92,6 +116,8 @@ class Files {
     // pattern, hidden and system files included, in alphabetical order ignoring case. Empty when
     // there is no such folder.
     virtual std::vector<std::string> List(std::string_view folder, std::string_view pattern) = 0;
+    // Nothing when there is no such folder, or it cannot be watched.
+    virtual std::unique_ptr<FolderWatch> Watch(std::string_view folder) = 0;
     // Writes the whole file so that a crash leaves either the old or the new bytes. Throws
     // FileError.
     virtual void Replace(std::string_view path, std::string_view bytes) = 0;
@@ -146,8 +172,9 @@ using WindowHandle = std::uintptr_t;
 class Shell {
   public:
     virtual ~Shell() = default;
-    // Opens a document or address with the program that the user has chosen for it. Failures are
-    // not reported.
+    // Opens a document or address with the program that the user has chosen for it, starts the file
+    // manager, or has a file selected, whichever the target is. Does not wait for what that takes.
+    // Failures are not reported.
     virtual void Open(WindowHandle owner, const ShellTarget& target) = 0;
 };
 

@@ -1,7 +1,5 @@
 #include "platform/ShellTarget.h"
 
-#include <algorithm>
-
 #include "base/Errors.h"
 #include "base/FileNames.h"
 #include "base/Text.h"
@@ -15,15 +13,15 @@ bool IsFullPath(std::string_view path) {
     return ofDrive || path.starts_with("\\\\");
 }
 
-// Signs that no path has, but that mean something in a command or in an address; ":" is one behind
-// the drive, where it names a part of a file.
-bool HasForeignSign(std::string_view path) {
-    constexpr std::string_view kForeign = "\"<>|*?/";
-    return path.find(':', 2) != std::string_view::npos ||
-           std::any_of(path.begin(), path.end(), [&](char sign) {
-               return static_cast<unsigned char>(sign) < ' ' ||
-                      kForeign.find(sign) != std::string_view::npos;
-           });
+// One argument of a command line. Programs differ in what a backslash before a quotation mark
+// means: for some it takes the mark's meaning away, and what follows would belong to the argument.
+// So none stands there: the one that ends a drive's root is left without marks, which it does not
+// need.
+std::string Argument(std::string_view path) {
+    const std::string_view bare = WithoutEndingBackslash(path);
+    if (bare.empty() || bare.back() == '\\')
+        return std::string(bare.empty() ? path : bare);
+    return "\"" + std::string(bare) + "\"";
 }
 
 }  // namespace
@@ -36,6 +34,28 @@ ShellTarget ShellTarget::HelpFile(std::string_view path) {
         !EqualsIgnoreCase(GetFileExtension(GetFileName(path)), "chm"))
         throw InvalidPropertyValue("help file");
     return ShellTarget(path);
+}
+
+ShellTarget ShellTarget::FileManager(std::string_view program, std::string_view path) {
+    const std::string name = GetFileName(program);
+    const bool known =
+        EqualsIgnoreCase(name, "TOTALCMD64.EXE") || EqualsIgnoreCase(name, "TOTALCMD.EXE");
+    if (!known || !IsFullPath(program) || HasForeignSign(program))
+        throw InvalidPropertyValue("file manager");
+    if (FormOfPath(path) == PathForm::None || HasForeignSign(path))
+        throw InvalidPropertyValue("path for the file manager");
+    ShellTarget target(program);
+    target.arguments_ = "/O /A /S /L=" + Argument(path);
+    return target;
+}
+
+ShellTarget ShellTarget::Selected(std::string_view path) {
+    const PathForm form = FormOfPath(path);
+    if ((form != PathForm::Drive && form != PathForm::Network) || HasForeignSign(path))
+        throw InvalidPropertyValue("path for the shell");
+    ShellTarget target(WithoutEndingBackslash(path));
+    target.deed_ = Deed::Select;
+    return target;
 }
 
 }  // namespace ordalyn::platform

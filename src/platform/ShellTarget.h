@@ -1,5 +1,5 @@
-// What the shell can be asked to open. It would start whatever it is given: so it takes no text,
-// only one of these, and there is no other way to make one.
+// What the shell can be asked to open or to show. It would start whatever it is given: so it takes
+// no text, only one of these, and there is no other way to make one.
 #pragma once
 
 #include <string>
@@ -27,11 +27,26 @@ class ShellTarget {
     // else.
     static ShellTarget HelpFile(std::string_view path);
 
+    // The file manager, by the full path of its program, which has one of two names, and told to
+    // show a path: that is one argument, whatever it holds. Throws InvalidPropertyValue for another
+    // program, and for a path that no argument can hold (see HasForeignSign) or that does not say
+    // all of its way.
+    static ShellTarget FileManager(std::string_view program, std::string_view path);
+    // A file or folder that is to be selected in the shell's window of the folder that it lies in.
+    // It is not opened. Throws InvalidPropertyValue for what is neither on a drive nor in a
+    // network.
+    static ShellTarget Selected(std::string_view path);
+
+    enum class Deed { Open, Select };
+    Deed What() const { return deed_; }
     const std::string& Text() const { return text_; }
+    const std::string& Arguments() const { return arguments_; }
 
   private:
     explicit ShellTarget(std::string_view text) : text_(text) {}
+    Deed deed_ = Deed::Open;
     std::string text_;
+    std::string arguments_;
 };
 
 }  // namespace ordalyn::platform

@@ -8,7 +8,10 @@ namespace ordalyn::bench {
 
 class NativeFiles : public platform::Files {
   public:
+    platform::DriveKind DriveOf(std::string_view) override { return platform::DriveKind::Fixed; }
     std::optional<platform::FileStamp> Stamp(std::string_view path) override;
+    std::optional<std::uint64_t> SizeNow(std::string_view) override { return std::nullopt; }
+    std::unique_ptr<platform::FolderWatch> Watch(std::string_view) override { return nullptr; }
     std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;

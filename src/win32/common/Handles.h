@@ -40,7 +40,9 @@ class Owned {
 };
 
 using FileHandle = Owned<HANDLE, CloseHandle>;
+using ThreadHandle = Owned<HANDLE, CloseHandle>;
 using SearchHandle = Owned<HANDLE, FindClose>;
+using ChangeHandle = Owned<HANDLE, FindCloseChangeNotification>;
 using KeyHandle = Owned<HKEY, RegCloseKey>;
 using Library = Owned<HMODULE, FreeLibrary>;
 using GlobalBlock = Owned<HGLOBAL, GlobalFree>;

@@ -5,6 +5,7 @@
 
 #include "base/Attempt.h"
 #include "base/Errors.h"
+#include "base/FileNames.h"
 #include "base/Text.h"
 #include "platform/Wildcard.h"
 #include "win32/common/Handles.h"
@@ -44,6 +45,25 @@ class Win32ReadableFile : public ReadableFile {
   private:
     std::string path_;
     FileHandle handle_;
+};
+
+class Win32FolderWatch : public FolderWatch {
+  public:
+    explicit Win32FolderWatch(ChangeHandle handle) : handle_(std::move(handle)) {}
+
+    bool Changed() override {
+        bool changed = false;
+        // One at a time is told of; what comes meanwhile is kept.
+        while (handle_ && WaitForSingleObject(handle_.Get(), 0) == WAIT_OBJECT_0) {
+            changed = true;
+            if (!FindNextChangeNotification(handle_.Get()))
+                handle_.Reset();
+        }
+        return changed;
+    }
+
+  private:
+    ChangeHandle handle_;
 };
 
 void WriteAll(HANDLE file, std::string_view bytes, const std::string& path) {
@@ -149,6 +169,26 @@ bool HasRights(const std::wstring& path, DWORD rights, DWORD flags) {
 
 }  // namespace
 
+DriveKind Win32Files::DriveOf(std::string_view path) {
+    const PathForm form = FormOfPath(path);
+    if (form == PathForm::Network)
+        return DriveKind::Network;
+    if (form != PathForm::Drive)
+        return DriveKind::None;
+    switch (GetDriveTypeW(ToWide(path.substr(0, 3)).c_str())) {
+        case DRIVE_UNKNOWN:
+        case DRIVE_NO_ROOT_DIR:
+            return DriveKind::None;
+        case DRIVE_REMOTE:
+            return DriveKind::Network;
+        case DRIVE_REMOVABLE:
+        case DRIVE_CDROM:
+            return DriveKind::Removable;
+        default:
+            return DriveKind::Fixed;
+    }
+}
+
 std::optional<FileStamp> Win32Files::Stamp(std::string_view path) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
     if (!GetFileAttributesExW(ToPath(path).c_str(), GetFileExInfoStandard, &data))
@@ -160,6 +200,25 @@ std::optional<FileStamp> Win32Files::Stamp(std::string_view path) {
                      .written = written,
                      .created = Number(data.ftCreationTime),
                      .settled = Number(now) - written >= kCoarsestClock};
+}
+
+// A handle that is for the attributes alone takes no part in sharing.
+std::optional<std::uint64_t> Win32Files::SizeNow(std::string_view path) {
+    const FileHandle opened(CreateFileW(ToPath(path).c_str(), FILE_READ_ATTRIBUTES, kFullSharing,
+                                        nullptr, OPEN_EXISTING, 0, nullptr));
+    LARGE_INTEGER size{};
+    if (!opened || !GetFileSizeEx(opened.Get(), &size))
+        return std::nullopt;
+    return static_cast<std::uint64_t>(size.QuadPart);
+}
+
+std::unique_ptr<FolderWatch> Win32Files::Watch(std::string_view folder) {
+    constexpr DWORD kChanges =
+        FILE_NOTIFY_CHANGE_FILE_NAME | FILE_NOTIFY_CHANGE_SIZE | FILE_NOTIFY_CHANGE_LAST_WRITE;
+    ChangeHandle handle(FindFirstChangeNotificationW(ToPath(folder).c_str(), FALSE, kChanges));
+    if (!handle)
+        return nullptr;
+    return std::make_unique<Win32FolderWatch>(std::move(handle));
 }
 
 std::unique_ptr<ReadableFile> Win32Files::OpenForReading(std::string_view path) {

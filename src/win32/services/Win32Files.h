@@ -7,10 +7,13 @@ namespace ordalyn::win32 {
 
 class Win32Files : public platform::Files {
   public:
+    platform::DriveKind DriveOf(std::string_view path) override;
     std::optional<platform::FileStamp> Stamp(std::string_view path) override;
+    std::optional<std::uint64_t> SizeNow(std::string_view path) override;
     std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
+    std::unique_ptr<platform::FolderWatch> Watch(std::string_view folder) override;
     void Replace(std::string_view path, std::string_view bytes) override;
     bool CanWrite(std::string_view path) override;
     void MakeFolder(std::string_view path) override;

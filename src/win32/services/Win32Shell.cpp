@@ -1,8 +1,14 @@
 #include "win32/services/Win32Shell.h"
 
+#include <memory>
+#include <string>
+
+#include "base/FileNames.h"
+#include "win32/common/Handles.h"
 #include "win32/common/WideText.h"
 // after windows.h
 #include <objbase.h>
+#include <shlobj.h>
 
 namespace ordalyn::win32 {
 
@@ -24,12 +30,42 @@ class ComScope {
     HRESULT result_;
 };
 
+DWORD WINAPI SelectItem(LPVOID parameter) noexcept {
+    const std::unique_ptr<const std::wstring> path(static_cast<const std::wstring*>(parameter));
+    const ComScope com;
+    PIDLIST_ABSOLUTE item = nullptr;
+    if (SUCCEEDED(SHParseDisplayName(path->c_str(), nullptr, &item, 0, nullptr))) {
+        SHOpenFolderAndSelectItems(item, 0, nullptr, 0);
+        CoTaskMemFree(item);
+    }
+    return 0;
+}
+
+// The shell looks for the file, and on a network whose server does not answer that takes it as long
+// as it pleases. The windows do not wait for it.
+void Select(const std::string& path) {
+    auto parameter = std::make_unique<const std::wstring>(ToWide(path));
+    const ThreadHandle thread(CreateThread(nullptr, 0, SelectItem,
+                                           const_cast<std::wstring*>(parameter.get()), 0, nullptr));
+    if (thread)
+        parameter.release();  // SelectItem has it
+}
+
 }  // namespace
 
 void Win32Shell::Open(platform::WindowHandle owner, const platform::ShellTarget& target) {
+    if (target.What() == platform::ShellTarget::Deed::Select) {
+        Select(target.Text());
+        return;
+    }
     const ComScope com;
-    ShellExecuteW(reinterpret_cast<HWND>(owner), L"open", ToWide(target.Text()).c_str(), nullptr,
-                  nullptr, SW_SHOWNORMAL);
+    const std::wstring arguments = ToWide(target.Arguments());
+    const std::wstring folder = ToWide(GetFilePath(target.Text()));
+    // A program starts in its own folder, and keeps nobody from removing the one that this is in.
+    const bool isProgram = !arguments.empty();
+    ShellExecuteW(reinterpret_cast<HWND>(owner), L"open", ToWide(target.Text()).c_str(),
+                  isProgram ? arguments.c_str() : nullptr, isProgram ? folder.c_str() : nullptr,
+                  SW_SHOWNORMAL);
 }
 
 }  // namespace ordalyn::win32

@@ -1,4 +1,4 @@
-// Opening documents.
+// Opening documents, starting the file manager, showing files.
 #pragma once
 
 #include "platform/Platform.h"

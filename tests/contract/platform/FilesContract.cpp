@@ -339,6 +339,48 @@ TEST_P(FilesContract, PathsLongerThanTheOrdinaryLimitWork) {
     EXPECT_THAT(Files().List(System().Path(folder), "*.log"), ElementsAre("x.log"));
 }
 
+TEST_P(FilesContract, ADriveIsKnownByItsLetter) {
+    EXPECT_EQ(Files().DriveOf(System().Path("none\\none.txt")), platform::DriveKind::Fixed);
+    EXPECT_EQ(Files().DriveOf("\\\\server\\share\\a.txt"), platform::DriveKind::Network);
+    EXPECT_EQ(Files().DriveOf("Q:\\a.txt"), platform::DriveKind::None);
+    EXPECT_EQ(Files().DriveOf("a.txt"), platform::DriveKind::None);
+    EXPECT_EQ(Files().DriveOf("\\\\\\plugin\\a.txt"), platform::DriveKind::None);
+}
+
+TEST_P(FilesContract, TheSizeIsTheOneOfNow) {
+    System().SetBytes("a.log", "text");
+    EXPECT_EQ(Files().SizeNow(System().Path("a.log")), 4U);
+    System().Append("a.log", "more");
+    EXPECT_EQ(Files().SizeNow(System().Path("a.log")), 8U);
+    EXPECT_EQ(Files().SizeNow(System().Path("none.log")), std::nullopt);
+    EXPECT_EQ(Files().SizeNow(""), std::nullopt);
+    const std::shared_ptr<void> lock = System().Lock("a.log");
+    EXPECT_EQ(Files().SizeNow(System().Path("a.log")), 8U);
+}
+
+TEST_P(FilesContract, AWatchNoticesWhatBecomesOfTheFilesInItsFolder) {
+    System().SetBytes("a.log", "one");
+    const std::unique_ptr<platform::FolderWatch> watch = Files().Watch(System().Folder());
+    ASSERT_TRUE(watch);
+    EXPECT_FALSE(watch->Changed());
+    const auto noticed = [&](const char* what) {
+        EXPECT_TRUE(System().Eventually([&] { return watch->Changed(); })) << what;
+    };
+    System().Append("a.log", "two");
+    noticed("appended");
+    System().Rename("a.log", "a.1.log");
+    noticed("renamed");
+    System().SetBytes("a.log", "new");
+    noticed("made");
+    System().Delete("a.log");
+    noticed("deleted");
+}
+
+TEST_P(FilesContract, WhatIsNoFolderIsNotWatched) {
+    EXPECT_FALSE(Files().Watch(System().Path("none")));
+    EXPECT_FALSE(Files().Watch(""));
+}
+
 INSTANTIATE_TEST_SUITE_P(, FilesContract, AllSubjects(), KindName);
 
 }  // namespace ordalyn::contract

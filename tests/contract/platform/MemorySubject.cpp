@@ -14,6 +14,7 @@ class MemorySubject : public Subject {
     const platform::Services& Services() override { return system_.services; }
     unsigned CodePage() override { return system_.codePages.systemCodePage; }
 
+    bool Eventually(const std::function<bool()>& isTrue) override { return isTrue(); }
     std::string Folder() override { return kFolder; }
     void SetBytes(std::string_view name, std::string_view bytes) override {
         system_.files.Set(Path(name), bytes);

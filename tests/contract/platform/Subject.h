@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -20,6 +21,9 @@ class Subject {
 
     // The number of the system code page.
     virtual unsigned CodePage() = 0;
+
+    // Whether it comes true within a time that nothing takes.
+    virtual bool Eventually(const std::function<bool()>& isTrue) = 0;
 
     // An empty folder of this test's own, without a backslash at its end, and what other programs
     // do in it. Names are relative to it.

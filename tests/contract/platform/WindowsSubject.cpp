@@ -62,6 +62,14 @@ class WindowsSubject : public Subject {
     unsigned CodePage() override { return GetACP(); }
 
     std::string Folder() override { return FromWide(folder_); }
+    bool Eventually(const std::function<bool()>& isTrue) override {
+        for (int poll = 0; poll < 1000; ++poll) {
+            if (isTrue())
+                return true;
+            Sleep(10);
+        }
+        return false;
+    }
     void SetBytes(std::string_view name, std::string_view bytes) override {
         Write(name, bytes, CREATE_ALWAYS);
     }

@@ -1,9 +1,11 @@
 #include "support/platform/MemoryFiles.h"
 
 #include <algorithm>
+#include <cctype>
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/FileNames.h"
 #include "base/Text.h"
 #include "platform/Wildcard.h"
 
@@ -50,6 +52,16 @@ class MemoryFiles::Reader : public platform::ReadableFile {
     std::string path_;
     std::shared_ptr<Content> content_;
     std::size_t at_ = 0;
+};
+
+class MemoryFiles::FolderWatch : public platform::FolderWatch {
+  public:
+    explicit FolderWatch(const int& changes) : changes_(changes), seen_(changes) {}
+    bool Changed() override { return std::exchange(seen_, changes_) != changes_; }
+
+  private:
+    const int& changes_;
+    int seen_;
 };
 
 MemoryFiles::MemoryFiles() {
@@ -104,12 +116,43 @@ bool MemoryFiles::IsProtected(std::string_view fullFolder) const {
     return protectedFolders_.count(Key(fullFolder)) > 0;
 }
 
+platform::DriveKind MemoryFiles::DriveOf(std::string_view path) {
+    const PathForm form = FormOfPath(path);
+    if (form == PathForm::Network)
+        return platform::DriveKind::Network;
+    if (form != PathForm::Drive)
+        return platform::DriveKind::None;
+    const auto letter = static_cast<char>(std::toupper(static_cast<unsigned char>(path[0])));
+    if (const auto found = drives.find(letter); found != drives.end())
+        return found->second;
+    return IsFolder(path.substr(0, 3)) ? platform::DriveKind::Fixed : platform::DriveKind::None;
+}
+
+std::optional<std::uint64_t> MemoryFiles::SizeNow(std::string_view path) {
+    looks.emplace_back(path);
+    const File* file = path.empty() ? nullptr : Find(path);
+    return file == nullptr ? std::nullopt
+                           : std::optional<std::uint64_t>(file->content->bytes.size());
+}
+
+std::string MemoryFiles::FolderOf(std::string_view path) const {
+    return SplitPath(FullPath(path)).folder;
+}
+
+std::unique_ptr<platform::FolderWatch> MemoryFiles::Watch(std::string_view folder) {
+    looks.emplace_back(folder);
+    if (unwatchable || folder.empty() || !IsFolder(folder))
+        return nullptr;
+    return std::make_unique<FolderWatch>(changes_[Key(FullPath(folder))]);
+}
+
 std::optional<platform::FileStamp> MemoryFiles::Stamp(std::string_view path) {
+    looks.emplace_back(path);
     if (path.empty())
         return std::nullopt;
     if (const File* file = Find(path)) {
         const std::int64_t written = file->content->written;
-        return platform::FileStamp{file->content->bytes.size(), written, 0,
+        return platform::FileStamp{file->content->listedSize, written, 0,
                                    !clockStopped_ || written < clock_};
     }
     if (IsFolder(path))
@@ -118,6 +161,7 @@ std::optional<platform::FileStamp> MemoryFiles::Stamp(std::string_view path) {
 }
 
 std::unique_ptr<platform::ReadableFile> MemoryFiles::OpenForReading(std::string_view path) {
+    looks.emplace_back(path);
     if (path.empty())
         throw FileError("", kPathNotFound);
     if (onOpen)
@@ -135,6 +179,7 @@ std::unique_ptr<platform::ReadableFile> MemoryFiles::OpenForReading(std::string_
 }
 
 bool MemoryFiles::Exists(std::string_view path) {
+    looks.emplace_back(path);
     // The system's search finds entries of folders: neither a name that ends in a backslash nor the
     // root of a drive is one.
     if (path.empty() || path.back() == '\\' || path.back() == '/')
@@ -167,6 +212,7 @@ bool MemoryFiles::ExistsMatching(std::string_view folder, std::string_view patte
 }
 
 std::vector<std::string> MemoryFiles::List(std::string_view folder, std::string_view pattern) {
+    looks.emplace_back(folder);
     const std::string fullFolder = FullPath(folder);
     std::vector<std::string> names;
     for (const auto& [key, file] : files_) {
@@ -224,21 +270,33 @@ void MemoryFiles::Set(std::string_view path, std::string_view bytes) {
     if (file.path.empty())
         file.path = fullPath;
     // A fresh content: whoever has the file open goes on reading the old one.
-    file.content = std::make_shared<Content>(Content{std::string(bytes), std::nullopt, Now()});
+    file.content =
+        std::make_shared<Content>(Content{std::string(bytes), std::nullopt, Now(), bytes.size()});
+    FolderChanged(path);
 }
 
 void MemoryFiles::Append(std::string_view path, std::string_view bytes) {
     if (Find(path) == nullptr)
         Set(path, "");
+    Content& content = *Find(path)->content;
+    content.bytes += bytes;
+    content.written = Now();
+    content.listedSize = content.bytes.size();
+    FolderChanged(path);
+}
+
+void MemoryFiles::AppendUnnoticed(std::string_view path, std::string_view bytes) {
     Find(path)->content->bytes += bytes;
-    Find(path)->content->written = Now();
 }
 
 void MemoryFiles::Delete(std::string_view path) {
+    FolderChanged(path);
     files_.erase(Key(FullPath(path)));
 }
 
 void MemoryFiles::Rename(std::string_view from, std::string_view to) {
+    FolderChanged(from);
+    FolderChanged(to);
     auto node = files_.extract(Key(FullPath(from)));
     if (node.empty())
         throw FileError(std::string(from), kFileNotFound);

@@ -133,7 +133,12 @@ std::optional<std::string> MemoryLocale::LongDate(std::string_view text) {
 }
 
 void MemoryShell::Open(platform::WindowHandle owner, const platform::ShellTarget& target) {
-    opened.emplace_back(owner, target.Text());
+    if (target.What() == platform::ShellTarget::Deed::Select)
+        selected.push_back(target.Text());
+    else if (!target.Arguments().empty())
+        started.push_back(target.Text() + " " + target.Arguments());
+    else
+        opened.emplace_back(owner, target.Text());
 }
 
 bool MemoryClipboard::Clear() {

@@ -33,7 +33,10 @@ class ScriptedFiles : public platform::Files {
     int openNow = 0;
     int opened = 0;
 
+    platform::DriveKind DriveOf(std::string_view) override { return platform::DriveKind::Fixed; }
     std::optional<platform::FileStamp> Stamp(std::string_view) override { return std::nullopt; }
+    std::optional<std::uint64_t> SizeNow(std::string_view) override { return std::nullopt; }
+    std::unique_ptr<platform::FolderWatch> Watch(std::string_view) override { return nullptr; }
     std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override {
         const auto found = files_.find(std::string(path));
         if (found == files_.end())
