@@ -41,7 +41,7 @@ count_file() {
 # What drives the real program in its window.
 build_agent() {
     cmake --build --preset "$1" --target ordalyn_e2e_agent ordalyn_e2e_launch ordalyn_e2e_hold \
-        ordalyn_e2e_planted
+        ordalyn_e2e_planted ordalyn_e2e_file_manager
 }
 
 # What pytest is started with, when it is not by itself.

@@ -43,6 +43,8 @@ inline constexpr TextId kTwoPanels{"4021"};
 inline constexpr TextId kCopySource{"4022"};
 inline constexpr TextId kCopyTarget{"4023"};
 inline constexpr TextId kFilterItem{"4030"};
+inline constexpr TextId kShowSource{"5175"};
+inline constexpr TextId kShowTarget{"5176"};
 
 // The find dialog and its message.
 inline constexpr TextId kFindTitle{"253"};
@@ -105,6 +107,10 @@ inline constexpr TextId kLinesPassedOver{"4051"};
 inline constexpr TextId kFirstPassedOver{"4052"};
 inline constexpr TextId kNotEnoughMemory{"4053"};
 inline constexpr TextId kSettingsNotKept{"5104"};
+inline constexpr TextId kPathMissing{"5177"};
+inline constexpr TextId kShowInstead{"5178"};
+inline constexpr TextId kPathUnusable{"5179"};
+inline constexpr TextId kOnlyFileManager{"5180"};
 
 // The main window: columns, lists and status bar.
 inline constexpr TextId kTime{"4000"};

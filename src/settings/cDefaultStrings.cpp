@@ -93,6 +93,12 @@ constexpr std::string_view kTable[] = {
     "5102=Condition",
     "5103=Language file",
     "5104=The settings could not be kept in this file:",
+    "5175=Show Source in the &File Manager",
+    "5176=Show Target in the File &Manager",
+    "5177=This path does not exist:",
+    "5178=Show %i instead?",
+    "5179=This path holds a sign that no path can have:",
+    "5180=Only the file manager can show this path, and its program was not found:",
 };
 // clang-format on
 

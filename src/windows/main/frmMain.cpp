@@ -40,6 +40,10 @@ frmMain::frmMain(SharedObjects& shared)
       title_(*this),
       columns_(shared, SourceListView, TargetListView),
       copy_(shared.services.clipboard, SourceListView, entries_),
+      fileManager_(shared,
+                   {*this, SourceListView, TargetListView, Menu("mnuContextShowSource"),
+                    Menu("mnuContextShowTarget")},
+                   entries_, operations_),
       panels_({*this, cboDate, SourceListView, TargetListView, StatusBar1, Menu("mnuContext"),
                Menu("mnuContextCopyTarget")},
               entries_, filter_, *shared.settings, shared.services.locale, shared.Texts()),
@@ -149,11 +153,14 @@ void frmMain::WireMenus() {
     on("mnuHelpAbout", [this] { ShowAbout(); });
     on("mnuContextCopySource", [this] { copy_.CopySource(); });
     on("mnuContextCopyTarget", [this] { copy_.CopyTarget(); });
+    on("mnuContextShowSource", [this] { fileManager_.ShowSource(); });
+    on("mnuContextShowTarget", [this] { fileManager_.ShowTarget(); });
 }
 
 void frmMain::WireParts() {
     panels_.RowShown.Subscribe(
         [this](int row) { title_.ShowFile(entries_.FileOf(SourceListView.Tag(row))); });
+    panels_.ContextMenuOpens.Subscribe([this] { fileManager_.PrepareMenu(); });
     layout_.RowMoved.Subscribe([this](int row) { panels_.SourceRowClicked(row); });
     reading_.WindowsEnabled.Subscribe([this](bool enabled) { find_.EnableDialogs(enabled); });
     reading_.FileOpened.Subscribe([this](const std::string& path) {

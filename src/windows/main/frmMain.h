@@ -14,6 +14,7 @@
 #include "windows/common/SharedObjects.h"
 #include "windows/dialogs/SettingsFileDialog.h"
 #include "windows/main/CopyCommands.h"
+#include "windows/main/FileManagerCommands.h"
 #include "windows/main/FindCommands.h"
 #include "windows/main/LogFileReading.h"
 #include "windows/main/LogFileSet.h"
@@ -80,6 +81,7 @@ class frmMain : public toolkit::Form {
     MainTitle title_;
     PanelColumns columns_;
     CopyCommands copy_;
+    FileManagerCommands fileManager_;
     DayPanels panels_;
     ProgressWindow progress_;
     LogFileReading reading_;

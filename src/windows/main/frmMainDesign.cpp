@@ -78,6 +78,9 @@ constexpr toolkit::MenuDesign kMenus[] = {
     {0, "mnuContext", "", {}, "", false},
     {1, "mnuContextCopySource", text_id::kCopySource.tag, {}, "Ctrl+C"},
     {1, "mnuContextCopyTarget", text_id::kCopyTarget.tag, {}, "Ctrl+Alt+C"},
+    {1, "mnuContextAnswersSeparator", "-"},
+    {1, "mnuContextShowSource", text_id::kShowSource.tag, {}},
+    {1, "mnuContextShowTarget", text_id::kShowTarget.tag, {}},
 };
 
 }  // namespace

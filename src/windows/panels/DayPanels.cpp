@@ -203,6 +203,7 @@ bool DayPanels::PrepareContextMenu() {
         hasTarget = !entries_.EntryTargets().List(controls_.SourceListView.Tag(row)).empty();
     });
     controls_.mnuContextCopyTarget.SetEnabled(hasTarget);
+    Attempt([this] { ContextMenuOpens.Raise(); });
     return true;
 }
 

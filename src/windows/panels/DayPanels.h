@@ -47,6 +47,9 @@ class DayPanels : public EntryDisplay {
     toolkit::Event<> DayShown;
     // A row of SourceListView is the one that is looked at now.
     toolkit::Event<int> RowShown;
+    // The context menu is about to open for the selected row: what cannot be chosen is disabled
+    // now.
+    toolkit::Event<> ContextMenuOpens;
 
     // Rebuilds cboDate and the day index from the entries, then selects the last or the first item,
     // which fills the panels. A log without any dated entry empties cboDate and leaves the panels

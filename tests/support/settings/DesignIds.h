@@ -42,6 +42,8 @@ inline constexpr DesignId kDesignIds[] = {
     {"frmMain", "mnuHelpAbout", "163"},
     {"frmMain", "mnuContextCopySource", "4022"},
     {"frmMain", "mnuContextCopyTarget", "4023"},
+    {"frmMain", "mnuContextShowSource", "5175"},
+    {"frmMain", "mnuContextShowTarget", "5176"},
     {"frmSearchFor", "", "253"},
     {"frmSearchFor", "Label1", "254"},
     {"frmSearchFor", "cmdFindNext", "252"},

@@ -247,6 +247,29 @@ std::string NoHelp(Speaker& speaker) {
     return speaker.LastMessage();
 }
 
+// What the selected row's source is answered with; no file manager is there.
+std::string ShownSource(Speaker& speaker, const char* source) {
+    Speaker other(speaker.Language());
+    other.system.files.AddFolder("E:\\Projekt");
+    other.SetLog("C:\\logs\\tc.log",
+                 {std::string("01.03.2024 10:15:30: Copy: ") + source + " -> E:\\Projekt\\b.txt"});
+    other.Start();
+    other.Choose("mnuContextShowSource");
+    return other.LastMessage();
+}
+
+std::string PathThatIsGone(Speaker& speaker) {
+    return ShownSource(speaker, "E:\\Projekt\\alt\\a.txt");
+}
+
+std::string PathWithAForeignSign(Speaker& speaker) {
+    return ShownSource(speaker, "E:\\Projekt\\a\".txt");
+}
+
+std::string PathOfAPlugin(Speaker& speaker) {
+    return ShownSource(speaker, "\\\\\\FTP\\a.txt");
+}
+
 std::string ClearRecentFiles(Speaker& speaker) {
     speaker.Main().Menu("mnuFileRecentGroup").Items().back()->Choose();
     return speaker.LastMessage();
@@ -277,6 +300,18 @@ const std::vector<Situation>& Situations() {
          {"[Wincmd.ini]"},
          NoSettingsOfTheFileManager},
         {Kind::Message, "There is no help file", {}, NoHelp},
+        {Kind::Message,
+         "What is to be shown in the file manager is gone",
+         {"E:\\Projekt\\alt\\a.txt", "E:\\Projekt"},
+         PathThatIsGone},
+        {Kind::Message,
+         "A path that is to be shown has a quotation mark",
+         {"E:\\Projekt\\a\".txt"},
+         PathWithAForeignSign},
+        {Kind::Message,
+         "A path of a plugin, and no file manager",
+         {"\\\\\\FTP\\a.txt"},
+         PathOfAPlugin},
         {Kind::Count, "Rows", {"1", "2", "5", "21"}, Counts},
         {Kind::Window, "While logs are read", {"totalcmd.1.log"}, Progress},
         {Kind::Window, "The menus", {"[Ctrl+C]", "[F3]"}, Menus},
