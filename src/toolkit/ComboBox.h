@@ -45,6 +45,8 @@ class ComboBox : public Control {
     bool NeedsKey(int key) const override;
     Event<> Change;
 
+    bool IsDroppedDown() const { return peer_->IsDroppedDown(); }  // its list is open
+
     // For the peer.
     void UserSelected(int index);
     // Enter has closed the open list of an editable box on this item, which is chosen by that; with

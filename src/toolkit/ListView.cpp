@@ -95,6 +95,14 @@ void ListView::ReplaceRows(Tags tags, int selectedRow) {
     SelectRow(selectedRow >= 0 && selectedRow < RowCount() ? selectedRow : -1);
 }
 
+void ListView::GrowRows(std::shared_ptr<const RowSource> source, Tags tags, int firstChanged) {
+    source_ = std::move(source);
+    tags_ = std::move(tags);
+    if (selectedRow_ >= RowCount())
+        selectedRow_ = -1;
+    peer_->GrowRows(RowCount(), firstChanged);
+}
+
 void ListView::ClearRows() {
     Fill(nullptr, NoRows());
 }

@@ -48,6 +48,10 @@ class ListView : public Control {
     // Shows fewer or more rows of the same source and selects the row with this place number when
     // there is one, otherwise nothing. Raises nothing.
     void ReplaceRows(Tags tags, int selectedRow);
+    // Shows the rows from this one on anew, of which there may be more than before, with a source
+    // that has the same texts for the rows in front of it. These, the selection and what is
+    // scrolled to stay as they are. Raises nothing.
+    void GrowRows(std::shared_ptr<const RowSource> source, Tags tags, int firstChanged);
     void ClearRows();
     int RowCount() const;
     std::int32_t Tag(int row) const;

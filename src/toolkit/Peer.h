@@ -88,6 +88,9 @@ class ListViewPeer : public ControlPeer {
     // Rows were appended or removed, or their texts changed; selection and scroll position stay as
     // near as they can.
     virtual void UpdateRows(int count) = 0;
+    // Rows were appended behind this one, or it and those behind it have other texts. Selection and
+    // scroll position stay, and nothing else is painted.
+    virtual void GrowRows(int count, int firstChanged) = 0;
     virtual void SelectRow(int row) = 0;  // -1: none
     virtual void EnsureVisible(int row) = 0;
     // The part of the row that can be seen, from the screen's top left corner.
@@ -126,6 +129,15 @@ class ToolBarPeer : public ControlPeer {
     // Shows the button's menu and waits until an entry is chosen (which has been reported then) or
     // the menu is dismissed. Messages are handled meanwhile.
     virtual void OpenMenu(int index) = 0;
+};
+
+// Calls the timer's SystemElapsed about every so many milliseconds, from the message loop, unless
+// the user has a menu open or holds something with the mouse.
+class TimerPeer {
+  public:
+    virtual ~TimerPeer() = default;
+    virtual void Start(int milliseconds) = 0;
+    virtual void Stop() = 0;
 };
 
 // Shows a form's menus. The tree is read from the form's menu items.

@@ -21,6 +21,7 @@ class ListView;
 class StatusBar;
 class ProgressBar;
 class TabStrip;
+class Timer;
 class ToolBar;
 struct FormStyle;
 
@@ -57,6 +58,8 @@ class Toolkit {
                                                          ControlPeer& container) = 0;
     virtual std::unique_ptr<ToolBarPeer> CreateToolBar(ToolBar& control,
                                                        ControlPeer& container) = 0;
+
+    virtual std::unique_ptr<TimerPeer> CreateTimer(Timer& timer, FormPeer& form) = 0;
 
     // The screen. TwipsPerPixel are exact; users that want whole numbers round them.
     virtual double TwipsPerPixelX() = 0;

@@ -219,6 +219,17 @@ void ListViewWindow::UpdateRows(int count) {
     InvalidateRect(handle(), nullptr, TRUE);
 }
 
+void ListViewWindow::GrowRows(int count, int firstChanged) {
+    if (handle() == nullptr)
+        return;
+    const ScopedFlag byCode(changingByCode_);
+    if (selectedRow_ >= count)
+        ClearSelection(kSelection);
+    Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+    if (firstChanged < count)
+        Send(LVM_REDRAWITEMS, static_cast<WPARAM>(firstChanged), count - 1);
+}
+
 void ListViewWindow::SelectRow(int row) {
     const ScopedFlag byCode(changingByCode_);
     ClearSelection(kSelection);

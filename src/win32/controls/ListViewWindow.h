@@ -25,6 +25,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     int ColumnPosition(int index) override;
     void ResetRows(int count) override;
     void UpdateRows(int count) override;
+    void GrowRows(int count, int firstChanged) override;
     void SelectRow(int row) override;
     void EnsureVisible(int row) override;
     toolkit::Rect RowOnScreen(int row) override;

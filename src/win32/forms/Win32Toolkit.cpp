@@ -11,6 +11,7 @@
 #include "win32/controls/TextBoxWindow.h"
 #include "win32/controls/ToolBarWindow.h"
 #include "win32/controls/WindowClasses.h"
+#include "win32/forms/FormTimer.h"
 #include "win32/forms/FormWindow.h"
 #include "win32/forms/FormsBlocked.h"
 #include "win32/forms/MessageLoop.h"
@@ -94,6 +95,10 @@ std::unique_ptr<TabStripPeer> Win32Toolkit::CreateTabStrip(TabStrip& control,
 
 std::unique_ptr<ToolBarPeer> Win32Toolkit::CreateToolBar(ToolBar& control, ControlPeer& container) {
     return std::make_unique<ToolBarWindow>(desktop_, control, container);
+}
+
+std::unique_ptr<TimerPeer> Win32Toolkit::CreateTimer(Timer& timer, FormPeer& form) {
+    return std::make_unique<FormTimer>(desktop_, timer, dynamic_cast<FormWindow&>(form));
 }
 
 Rect Win32Toolkit::WorkArea() {

@@ -45,6 +45,8 @@ class Win32Toolkit : public toolkit::Toolkit {
                                                           toolkit::ControlPeer& container) override;
     std::unique_ptr<toolkit::ToolBarPeer> CreateToolBar(toolkit::ToolBar& control,
                                                         toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TimerPeer> CreateTimer(toolkit::Timer& timer,
+                                                    toolkit::FormPeer& form) override;
 
     double TwipsPerPixelX() override { return desktop_.scale.TwipsPerPixelX(); }
     double TwipsPerPixelY() override { return desktop_.scale.TwipsPerPixelY(); }

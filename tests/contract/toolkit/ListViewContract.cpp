@@ -198,6 +198,59 @@ TEST_P(ListViews, ReplacingWithFewerRowsForgetsASelectionThatIsGone) {
     EXPECT_THAT(clicks, testing::IsEmpty());
 }
 
+TEST_P(ListViews, RowsGrowWithoutMovingAnything) {
+    Fill(500);
+    list.SelectRow(300);
+    list.EnsureVisible(300);
+    Settle();
+    const int top = User().TopRow(list);
+    EXPECT_GT(top, 100);
+    const auto other = std::make_shared<CountedRows>();
+    list.GrowRows(other, TagsFrom(100, 502), 499);
+    Settle();
+    EXPECT_EQ(User().RowCount(list), 502);
+    EXPECT_EQ(User().TopRow(list), top);
+    EXPECT_EQ(User().SelectedRow(list), 300);
+    EXPECT_EQ(list.SelectedRow(), 300);
+    EXPECT_EQ(User().Cell(list, 501, 0), "row 601 field 3");
+    EXPECT_EQ(list.Source(), other);
+    EXPECT_THAT(clicks, testing::IsEmpty());
+    // The keyboard goes on from where it was, and reaches what is new.
+    list.SetFocus();
+    Key(key::Down);
+    Key(key::End);
+    EXPECT_THAT(clicks, ElementsAre(301, 501));
+}
+
+TEST_P(ListViews, GrowingPaintsNothingThatStays) {
+    Fill(500);
+    list.Refresh();
+    Settle();
+    rows->asked = 0;
+    list.GrowRows(rows, TagsFrom(100, 600), 500);
+    Settle();
+    EXPECT_EQ(rows->asked, 0);
+    // Where the new row can be seen, it is painted, and hardly more.
+    Fill(3);
+    list.Refresh();
+    Settle();
+    rows->asked = 0;
+    list.GrowRows(rows, TagsFrom(100, 4), 3);
+    Settle();
+    EXPECT_EQ(User().Cell(list, 3, 0), "row 103 field 3");
+    EXPECT_LE(rows->asked, 10);
+}
+
+TEST_P(ListViews, WhatIsSelectedAmongChangedRowsGoesWithThem) {
+    Fill(5);
+    list.SelectRow(4);
+    list.GrowRows(rows, TagsFrom(100, 4), 4);
+    Settle();
+    EXPECT_EQ(User().RowCount(list), 4);
+    EXPECT_EQ(list.SelectedRow(), -1);
+    EXPECT_EQ(User().SelectedRow(list), -1);
+}
+
 TEST_P(ListViews, TellWhereARowIsOnTheScreen) {
     Fill(5);
     Settle();

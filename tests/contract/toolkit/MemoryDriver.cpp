@@ -34,6 +34,7 @@ class MemoryDriver : public ToolkitDriver {
     }
     Toolkit& Kit() override { return kit_; }
     void Settle() override { kit_.DoEvents(); }
+    void PassTime(int milliseconds) override { kit_.PassTime(milliseconds); }
     void Later(std::function<void()> work) override { kit_.Later(std::move(work)); }
 
     void Choose(ComboBox& box, int index) override {

@@ -45,6 +45,8 @@ class ToolkitDriver {
     virtual toolkit::Toolkit& Kit() = 0;
     // Handles all messages that wait.
     virtual void Settle() = 0;
+    // Handles messages for that long.
+    virtual void PassTime(int milliseconds) = 0;
     // Runs `work` when messages are handled next; in the order of these calls.
     virtual void Later(std::function<void()> work) = 0;
 

@@ -54,6 +54,14 @@ std::vector<MenuSeen> Seen(HMENU menu) {
 
 }  // namespace
 
+void Win32Sight::PassTime(int milliseconds) {
+    const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
+    do {
+        Settle();
+        Sleep(1);
+    } while (GetTickCount64() < end);
+}
+
 void Win32Sight::Settle() {
     kit_.DoEvents();
     kit_.DoEvents();  // what was posted last

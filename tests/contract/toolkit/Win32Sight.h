@@ -13,6 +13,7 @@ class Win32Sight : public ToolkitDriver {
   public:
     toolkit::Toolkit& Kit() override { return kit_; }
     void Settle() override;
+    void PassTime(int milliseconds) override;
     void Later(std::function<void()> work) override { later_.Add(std::move(work)); }
 
     bool IsVisible(const toolkit::Control& control) override;

@@ -230,6 +230,12 @@ class MemoryListView : public Peer<toolkit::ListViewPeer> {
         shown.rowCount = count;
         shown.updatesInSight += shown.visible ? 1 : 0;
     }
+    void GrowRows(int count, int) override {
+        shown.rowCount = count;
+        if (shown.selectedRow >= count)
+            shown.selectedRow = -1;
+        ++shown.growths;
+    }
     void SelectRow(int row) override { shown.selectedRow = row; }
     void EnsureVisible(int row) override { shown.visibleRow = row; }
     // The row that was brought into view last is the list's first, below its column headers.

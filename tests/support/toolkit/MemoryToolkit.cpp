@@ -6,6 +6,7 @@
 
 #include "support/toolkit/MemoryPeers.h"
 #include "toolkit/FormKeyboard.h"
+#include "toolkit/Timer.h"
 
 namespace ordalyn::test {
 
@@ -96,7 +97,13 @@ class MemoryForm : public Peer<FormPeer> {
         if (ShownMenu* found = Find(menus, item))
             ShowState(*found, item);
     }
+    // A form that waits for a modal one or for a box is disabled.
+    bool CanTakeInput() const override {
+        const bool waits = toolkit_.modalForm != nullptr && toolkit_.modalForm != &form_;
+        return !waits && !toolkit_.boxIsOpen && Peer::CanTakeInput();
+    }
     void PopUp(MenuItem& item, const Rect* below) override {
+        const ScopedFlag open(toolkit_.menuIsOpen);
         toolkit_.poppedUpMenus.push_back(item.Name());
         toolkit_.poppedUpBelow.reset();
         if (below != nullptr) {
@@ -175,6 +182,27 @@ class MemoryForm : public Peer<FormPeer> {
     bool closed_ = false;
     Rect normal_;
     std::shared_ptr<int> alive_ = std::make_shared<int>(0);
+};
+
+class MemoryTimer : public TimerPeer {
+  public:
+    MemoryTimer(MemoryToolkit& toolkit, Timer& timer, const int& now)
+        : toolkit_(toolkit), timer_(timer), now_(now) {}
+    ~MemoryTimer() override { Forget(); }
+    void Start(int milliseconds) override {
+        Forget();
+        toolkit_.timers.push_back({&timer_, milliseconds, now_ + milliseconds});
+    }
+    void Stop() override { Forget(); }
+
+  private:
+    void Forget() {
+        std::erase_if(toolkit_.timers, [&](const auto& other) { return other.timer == &timer_; });
+    }
+
+    MemoryToolkit& toolkit_;
+    Timer& timer_;
+    const int& now_;
 };
 
 template <typename PeerType, typename ControlType>
@@ -261,6 +289,28 @@ void MemoryToolkit::DoLaterWork() {
     }
 }
 
+void MemoryToolkit::PassTime(int milliseconds) {
+    const int end = now_ + milliseconds;
+    const auto isSooner = [](const RunningTimer& a, const RunningTimer& b) {
+        return a.due < b.due;
+    };
+    while (true) {
+        const auto next = std::min_element(timers.begin(), timers.end(), isSooner);
+        if (next == timers.end() || next->due > end)
+            break;
+        now_ = next->due;
+        next->due += next->interval;
+        Timer& timer = *next->timer;
+        if (!menuIsOpen)
+            AsTheMessageLoop([&] { timer.SystemElapsed(); });
+    }
+    now_ = end;
+}
+
+std::unique_ptr<TimerPeer> MemoryToolkit::CreateTimer(Timer& timer, FormPeer&) {
+    return std::make_unique<MemoryTimer>(*this, timer, now_);
+}
+
 std::vector<Rect> MemoryToolkit::WorkAreas() {
     std::vector<Rect> areas = {workArea};
     areas.insert(areas.end(), otherWorkAreas.begin(), otherWorkAreas.end());
@@ -276,6 +326,7 @@ Answer MemoryToolkit::ShowMessage(Form* owner, std::string_view text, std::strin
                                   MessageIcon icon, MessageButtons buttons, Answer defaultAnswer) {
     messages.push_back({std::string(text), std::string(title), icon, buttons,
                         buttons == MessageButtons::Ok ? Answer::Ok : defaultAnswer, owner});
+    const ScopedFlag open(boxIsOpen);
     if (onMessage)
         return onMessage(messages.back());
     return messages.back().defaultAnswer;

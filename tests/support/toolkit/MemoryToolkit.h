@@ -49,6 +49,7 @@ struct Shown {
     std::vector<int> columnPositions;
     int rowCount = 0, selectedRow = -1, visibleRow = -1;
     int fills = 0;
+    int growths = 0;
     int updatesInSight = 0;  // rows that went or came while the list was visible
     bool gridLines = false, flatHeaders = false;
     struct Panel {
@@ -146,6 +147,16 @@ class MemoryToolkit : public toolkit::Toolkit {
     // Work that the message loop does after the current event, and doing all that waits.
     void Later(std::function<void()> work) { later_.push_back(std::move(work)); }
     void DoLaterWork();
+    // Lets so much time pass: timers do what they do meanwhile.
+    void PassTime(int milliseconds);
+    struct RunningTimer {
+        toolkit::Timer* timer;
+        int interval;
+        int due;
+    };
+    std::vector<RunningTimer> timers;
+    bool menuIsOpen = false;
+    bool boxIsOpen = false;
 
     // toolkit::Toolkit
     std::unique_ptr<toolkit::FormPeer> CreateForm(toolkit::Form& form,
@@ -176,6 +187,8 @@ class MemoryToolkit : public toolkit::Toolkit {
                                                           toolkit::ControlPeer& container) override;
     std::unique_ptr<toolkit::ToolBarPeer> CreateToolBar(toolkit::ToolBar& control,
                                                         toolkit::ControlPeer& container) override;
+    std::unique_ptr<toolkit::TimerPeer> CreateTimer(toolkit::Timer& timer,
+                                                    toolkit::FormPeer& form) override;
     double TwipsPerPixelX() override { return twipsPerPixelX; }
     double TwipsPerPixelY() override { return twipsPerPixelY; }
     toolkit::Rect WorkArea() override { return workArea; }
@@ -195,6 +208,7 @@ class MemoryToolkit : public toolkit::Toolkit {
 
   private:
     std::deque<std::function<void()>> later_;
+    int now_ = 0;  // in milliseconds
 };
 
 }  // namespace ordalyn::test
