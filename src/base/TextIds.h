@@ -43,6 +43,7 @@ inline constexpr TextId kTwoPanels{"4021"};
 inline constexpr TextId kCopySource{"4022"};
 inline constexpr TextId kCopyTarget{"4023"};
 inline constexpr TextId kFilterItem{"4030"};
+inline constexpr TextId kFollowLog{"5181"};
 inline constexpr TextId kShowSource{"5175"};
 inline constexpr TextId kShowTarget{"5176"};
 

@@ -58,6 +58,8 @@ constexpr Setting kSettings[] = {
      MainWindow},
     {"SkipMalformedLines", kOrdalynSection, Flag, &V::SkipMalformedLines, "0",
      "lines that no log has are passed over and counted, instead of ending the read", Nobody},
+    {"FollowLog", kOrdalynSection, Flag, &V::FollowLog, "0",
+     "what is added to the log appears by itself", MainWindow},
 };
 
 // Entries that the rooms below read and write by keys of their own.

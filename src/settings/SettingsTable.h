@@ -35,6 +35,7 @@ struct SettingsValues {
     std::int32_t HSplitPosition = 0;
     std::int32_t StatusBarVisible = 0;
     std::int32_t SkipMalformedLines = 0;
+    std::int32_t FollowLog = 0;
 };
 
 // Bits of FontStyle.

@@ -99,6 +99,7 @@ constexpr std::string_view kTable[] = {
     "5178=Show %i instead?",
     "5179=This path holds a sign that no path can have:",
     "5180=Only the file manager can show this path, and its program was not found:",
+    "5181=Follow the &Log",
 };
 // clang-format on
 

@@ -10,7 +10,7 @@ import time
 import pytest
 
 from harness.folder import tools_folder
-from harness.second import held
+from harness.second import Busy, held
 from harness.waiting import wait_until
 from harness.wine import windows_path
 
@@ -113,33 +113,6 @@ def test_the_log_is_rotated_and_deleted_while_it_is_shown(folder, wine):
     cmd(wine, f"echo {line('next')}>>{path}")
     app.keys("F5")
     assert operations(app) == ["new.txt", "next.txt"]
-
-
-class Busy:
-    """A second process that repeats commands until it is stopped."""
-
-    def __init__(self, folder, wine, *commands):
-        self.stop_file = folder.path / "stop"
-        self.failures = folder.path / "failures"
-        self.rounds = folder.path / "rounds"
-        name = {key: folder.windows(key) for key in ("stop", "failures", "rounds", "busy.bat")}
-        batch = ["@echo off", ":again", *commands, f"echo x>>{name['rounds']}",
-                 f"if not exist {name['stop']} goto again"]
-        folder.write("busy.bat", batch, encoding="ascii")
-        self.process = subprocess.Popen(["wine", "cmd", "/c", name["busy.bat"]],
-                                        env=wine.environment(), stdin=subprocess.DEVNULL,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(lambda: self.count(self.rounds) > 0, "the second process", 30)
-
-    @staticmethod
-    def count(file):
-        return len(file.read_bytes().splitlines()) if file.exists() else 0
-
-    def stop(self):
-        """Ends it; answers how many rounds it went and how many commands failed."""
-        self.stop_file.touch()
-        self.process.wait(30)
-        return self.count(self.rounds), self.count(self.failures)
 
 
 def test_reading_never_stands_in_another_program_s_way(folder, wine):

@@ -138,7 +138,7 @@ void LogFileReading::ShowSet(Set& set, const std::string& lastFile) {
 
 // A log without any date has no row to show. What is on the screen then stays, and so do its
 // entries: that is what is copied, found and filtered.
-void LogFileReading::Show(EntryLists& entries, bool selectLastDate) {
+void LogFileReading::Show(EntryLists& entries, bool selectLastDate, bool takeFocus) {
     if (!entries.HasDates() && panels_.Days().DayCount() > 0) {
         panels_.ShowNoDays();
         mark_.trace = {};
@@ -146,7 +146,7 @@ void LogFileReading::Show(EntryLists& entries, bool selectLastDate) {
         return;
     }
     entries_.Swap(entries);
-    panels_.BuildDateList(selectLastDate);
+    panels_.BuildDateList(selectLastDate, takeFocus);
 }
 
 LogFileReading::Busy::Busy(LogFileReading& reading) : reading_(reading) {
@@ -227,13 +227,64 @@ void LogFileReading::ReadAnew(PassedOverLines& passedOver) {
         throw ReadAnewFailed(reader.LineNumber(), IsTooLarge(failure));
     }
     passedOver = left;
-    if (fresh.EntrySources().ListCount() < 0)
-        return;
+    if (fresh.EntrySources().ListCount() >= 0)
+        ShowAnother(reader, fresh, true);
+}
+
+void LogFileReading::ShowAnother(const LogReader& reader, EntryLists& fresh, bool takeFocus) {
     fresh.FreeExtraItems();
     mark_ = reader.Mark();
     title_.SetTitle(mark_.path);
-    Show(fresh, true);
+    Show(fresh, true, takeFocus);
     panels_.SelectLastRow();
+}
+
+LogFileReading::Followed LogFileReading::Follow() {
+    if (reading_ || stopped_)
+        return Followed::NotYet;
+    const toolkit::ScopedFlag reading(reading_);
+    try {
+        bool anotherFile = mark_.lineCount == 0;
+        const Followed result = anotherFile ? Followed::Done : FollowOn(anotherFile);
+        return anotherFile ? FollowAnew() : result;
+    } catch (const FileError&) {
+        return Followed::NotYet;
+    } catch (const std::exception&) {
+        // It will not be better before it changes.
+        return Followed::Done;
+    }
+}
+
+// A line that no log has ends a read, but it is not met again: what stands behind it comes next.
+LogFileReading::Followed LogFileReading::FollowOn(bool& anotherFile) {
+    const bool lastMayChange = mark_.lastLine == LogMark::LastLine::UnfinishedEntry;
+    const std::int32_t firstNew = entries_.EntrySources().ListCount() + (lastMayChange ? 0 : 1);
+    PassedOverLines passedOver;
+    AppendedLines appended(shared_.services.files, shared_.services.codePages, entries_,
+                           NotedIn(passedOver));
+    Followed result = Followed::Done;
+    auto found = AppendedLines::Found::Lines;
+    try {
+        found = appended.Read(mark_);
+    } catch (const MalformedText&) {
+        result = Followed::NotYet;
+    }
+    anotherFile = found == AppendedLines::Found::AnotherFile;
+    if (found == AppendedLines::Found::Lines)
+        panels_.EntriesAdded(firstNew);
+    return result;
+}
+
+LogFileReading::Followed LogFileReading::FollowAnew() {
+    EntryLists fresh;
+    PassedOverLines passedOver;
+    LogReader reader(shared_.services.files, shared_.services.codePages, fresh,
+                     NotedIn(passedOver));
+    reader.ReadGrowingFile(mark_.path);
+    if (fresh.EntrySources().ListCount() < 0)
+        return Followed::Done;
+    ShowAnother(reader, fresh, false);
+    return Followed::AnotherFile;
 }
 
 // The message is modal: what events can change may have changed when it returns.

@@ -2,6 +2,7 @@
 // the message when something is wrong with the file, and what follows a read.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "log/AppendedLines.h"
@@ -57,6 +58,17 @@ class LogFileReading {
     // Reads what is new in the file that is shown, then shows the last day and its last row. A file
     // that does not continue what was read is read from its beginning.
     void Refresh();
+    enum class Followed {
+        NotYet,       // it cannot be read just now, or not all of it was
+        Done,         // what there was of new lines is shown
+        AnotherFile,  // it does not continue what was read, and has been read anew
+    };
+    // The same while the log is followed: without waiting and messages, and without anything moving
+    // under the user, who is shown the last row only when it was selected, or when the file is
+    // another one.
+    Followed Follow();
+    // How much of the file has been read; one that has this size has nothing new.
+    std::uint64_t BytesRead() const { return mark_.trace.Size(); }
     // The file that is shown; empty when none is.
     const std::string& CurrentLogFile() const { return mark_.path; }
 
@@ -73,7 +85,10 @@ class LogFileReading {
     void ReadEntries(LogReader& reader);
     void ReadWhatIsNew(AppendedLines& appended, PassedOverLines& passedOver);
     void ReadAnew(PassedOverLines& passedOver);
-    void Show(EntryLists& entries, bool selectLastDate);
+    void ShowAnother(const LogReader& reader, EntryLists& fresh, bool takeFocus);
+    Followed FollowOn(bool& anotherFile);
+    Followed FollowAnew();
+    void Show(EntryLists& entries, bool selectLastDate, bool takeFocus = true);
     void ShowReadError(const std::string& fileName, std::int32_t lineNumber, bool tooLarge);
     void ReportPassedOver(const PassedOverLines& passedOver);
     // Where lines that no log has are noted; nowhere when they are to end the read.

@@ -86,6 +86,13 @@ void LogFileSet::LogOpened() {
     controls_.mnuViewRefresh.SetEnabled(true);
 }
 
+// When a read of all files was left for the live log, Refresh stays disabled; the log can grow.
+bool LogFileSet::ShowsGrowingLog() const {
+    const bool liveLog =
+        controls_.cboFiles.ListCount() > 1 && controls_.cboFiles.ListIndex() == kLiveLogItem;
+    return !reading_.CurrentLogFile().empty() && (controls_.mnuViewRefresh.Enabled() || liveLog);
+}
+
 void LogFileSet::LanguageChanged() {
     // A list of the live log alone does not begin with "All files".
     if (controls_.cboFiles.Visible() && controls_.cboFiles.ListCount() > 1)

@@ -36,6 +36,8 @@ class LogFileSet {
     // settings; the folder is empty when the path there has none.
     const std::string& LiveLogName() const { return liveLogName_; }
     const std::string& LogFolder() const { return logFolder_; }
+    // Whether what is shown is one log that can grow: not all files, nor one that was rotated.
+    bool ShowsGrowingLog() const;
     // The interface language is another one.
     void LanguageChanged();
 

@@ -51,6 +51,7 @@ frmMain::frmMain(SharedObjects& shared)
                 [this] { reading_.CancelReading = true; }),
       reading_(shared, *this, entries_, panels_, progress_, title_),
       files_(shared, {*this, cboFiles, SourceListView, Menu("mnuViewRefresh")}, reading_, title_),
+      following_(shared, {*this, cboDate, cboFiles, Menu("mnuViewFollow")}, reading_, files_),
       layout_({*this, cboDate, Get<toolkit::PictureBox>("picSpliterContainer"),
                Get<toolkit::Frame>("Frame1"), SourceListView, TargetListView, StatusBar1,
                Menu("mnuViewStatusBar"), Menu("mnuViewTwoPanels"), Menu("mnuViewVerticalPanels")},
@@ -144,6 +145,7 @@ void frmMain::WireMenus() {
     on("mnuViewVerticalPanels", [this] { layout_.ToggleVerticalPanels(); });
     on("mnuViewRefresh", [this] { RefreshLog(); });
     on("mnuViewOptions", [this] { ShowOptions(); });
+    on("mnuViewFollow", [this] { following_.Toggle(); });
     on("mnuHelpHelpTopics", [this] {
         ShowHelp({shared_.toolkit, shared_.services.files, shared_.services.shell,
                   shared_.common.ProgramFolder(), shared_.settings->UseDefaultLanguage != 0,
@@ -321,6 +323,7 @@ void frmMain::SaveAndCloseDialogs() {
     Attempt([this] { columns_.SaveWidths(); });
     Attempt([this] { layout_.SaveSplitterSettings(); });
     Attempt([this] { shared_.settings->SaveSetting(&SettingsValues::StatusBarVisible); });
+    Attempt([this] { shared_.settings->SaveSetting(&SettingsValues::FollowLog); });
     Attempt([this] { columns_.SaveOrder(); });
     Attempt([this] { shared_.settings->SaveSetting(&SettingsValues::TwoPanels); });
     Attempt([this] { SaveWindowPosition(*shared_.settings, *this, true); });
@@ -329,6 +332,7 @@ void frmMain::SaveAndCloseDialogs() {
         about_->Unload();
     if (options_ != nullptr)
         options_->Unload();
+    following_.Stop();
     reading_.Stop();
     progress_.HideProgress();
     find_.UnloadFindDialog();

@@ -18,6 +18,7 @@
 #include "windows/main/FindCommands.h"
 #include "windows/main/LogFileReading.h"
 #include "windows/main/LogFileSet.h"
+#include "windows/main/LogFollowing.h"
 #include "windows/main/MainTitle.h"
 #include "windows/main/MainWindowLayout.h"
 #include "windows/main/PanelColumns.h"
@@ -86,6 +87,7 @@ class frmMain : public toolkit::Form {
     ProgressWindow progress_;
     LogFileReading reading_;
     LogFileSet files_;
+    LogFollowing following_;
     MainWindowLayout layout_;
     RecentFilesMenu recentFilesMenu_;
     SettingsFileDialog settingsFileDialog_;

@@ -70,6 +70,8 @@ constexpr toolkit::MenuDesign kMenus[] = {
     {1, "mnuViewRefresh", text_id::kRefresh.tag, {key::F5, {}}},
     {1, "mnuViewOptionsSeparator", "-"},
     {1, "mnuViewOptions", text_id::kOptionsItem.tag},
+    {1, "mnuViewAnswersSeparator", "-"},
+    {1, "mnuViewFollow", text_id::kFollowLog.tag},
     {0, "mnuHelp", text_id::kHelpMenu.tag},
     {1, "mnuHelpHelpTopics", text_id::kHelpTopics.tag, {key::F1, {}}},
     {1, "mnuHelpSeparator", "-"},

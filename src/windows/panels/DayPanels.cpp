@@ -1,5 +1,6 @@
 #include "windows/panels/DayPanels.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -48,7 +49,7 @@ std::string DayPanels::LongDate(std::string_view dateText) const {
     return locale_.LongDate(dateText).value_or(std::string(dateText));
 }
 
-void DayPanels::BuildDateList(bool selectLastDate) {
+void DayPanels::BuildDateList(bool selectLastDate, bool takeFocus) {
     toolkit::ComboBox& cboDate = controls_.cboDate;
     cboDate.Clear();
     std::vector<std::string> dates;
@@ -63,7 +64,92 @@ void DayPanels::BuildDateList(bool selectLastDate) {
     cboDate.AddItems(dates);
     shownDay_ = kNothingShown;
     Attempt([&] { cboDate.SetListIndex(selectLastDate ? cboDate.ListCount() - 1 : 0); });
-    controls_.SourceListView.SetFocus();
+    if (takeFocus)
+        controls_.SourceListView.SetFocus();
+}
+
+bool DayPanels::AtTheEnd() const {
+    const int rows = controls_.SourceListView.RowCount();
+    const bool lastDay = selectedDay_ == kAllDates || selectedDay_ == days_.DayCount() - 1;
+    return lastDay && controls_.SourceListView.SelectedRow() == rows - 1;
+}
+
+void DayPanels::EntriesAdded(std::int32_t firstNew) {
+    const bool atTheEnd = AtTheEnd();
+    const bool anyDay = days_.DayCount() > 0;
+    if (!ListAddedDays()) {
+        // Another beginning of the log than the one that is shown.
+        BuildDateList(true, false);
+        SelectLastRow();
+        return;
+    }
+    const std::int32_t lastDay = days_.DayCount() - 1;
+    if (!anyDay || (atTheEnd && selectedDay_ != kAllDates && selectedDay_ != lastDay))
+        ChooseDay(lastDay);
+    else
+        AddRows(firstNew);
+    if (atTheEnd)
+        SelectLastRow();
+}
+
+std::string DayPanels::DayLabel(std::string_view date) const {
+    return settings_.LongDate != 0 ? LongDate(date) : std::string(date);
+}
+
+// Returns whether the days that were listed are still there, apart from the last one's date, which
+// was that of a line without an end.
+bool DayPanels::ListAddedDays() {
+    toolkit::ComboBox& cboDate = controls_.cboDate;
+    const std::int32_t before = days_.DayCount();
+    const int listed = cboDate.ListCount();
+    const std::vector<std::string> dates = days_.Build(entries_.EntryDates());
+    const auto after = static_cast<std::int32_t>(dates.size());
+    if (after < before || listed == 0)
+        return false;
+    const toolkit::ScopedFlag ignore(ignoreComboClick_);
+    if (before == 1 && after > 1)
+        cboDate.InsertItem(0, text_(text_id::kAllDates));
+    std::vector<std::string> added;
+    for (std::int32_t day = before - 1; day < after; ++day) {
+        std::string label = DayLabel(dates[static_cast<std::size_t>(day)]);
+        if (day >= before)
+            added.push_back(std::move(label));
+        else if (const int item = day + days_.FirstDayItem(); cboDate.List(item) != label)
+            cboDate.SetItem(item, label);
+    }
+    if (!added.empty())
+        cboDate.AddItems(added);
+    return true;
+}
+
+void DayPanels::AddRows(std::int32_t firstNew) {
+    toolkit::ListView& source = controls_.SourceListView;
+    const std::vector<std::int32_t>& shown = *source.RowTags();
+    const auto kept = std::lower_bound(shown.begin(), shown.end(), firstNew);
+    const auto firstChanged = static_cast<int>(kept - shown.begin());
+    const std::vector<std::int32_t> ofDay = DayRows(entries_, days_, selectedDay_);
+    const std::vector<std::int32_t> added =
+        panelFilter_.Passing({std::lower_bound(ofDay.begin(), ofDay.end(), firstNew), ofDay.end()});
+    if (added.empty() && kept == shown.end())
+        return;
+    auto rows = std::make_shared<std::vector<std::int32_t>>();
+    rows->reserve(static_cast<std::size_t>(firstChanged) + added.size());
+    rows->assign(shown.begin(), kept);
+    rows->insert(rows->end(), added.begin(), added.end());
+    // The row of a line that had no end may be gone: another filter's, or another day's.
+    const int selected = source.SelectedRow();
+    const bool deselect =
+        selected >= firstChanged && RowOfEntry(*rows, source.Tag(selected)) != selected;
+    const auto texts = std::make_shared<const EntryRows>(entries_);
+    source.GrowRows(texts, rows, firstChanged);
+    if (deselect)
+        source.SelectRow(-1);
+    if (settings_.TwoPanels != 0) {
+        controls_.TargetListView.GrowRows(texts, rows, firstChanged);
+        if (deselect)
+            controls_.TargetListView.SelectRow(-1);
+    }
+    ShowOperationCount();
 }
 
 void DayPanels::DateComboClicked() {

@@ -54,7 +54,11 @@ class DayPanels : public EntryDisplay {
     // Rebuilds cboDate and the day index from the entries, then selects the last or the first item,
     // which fills the panels. A log without any dated entry empties cboDate and leaves the panels
     // alone. Errors end single steps only.
-    void BuildDateList(bool selectLastDate);
+    void BuildDateList(bool selectLastDate, bool takeFocus = true);
+    // The entries from this one on are new, or the first of them is another than it was. Their days
+    // and rows are shown behind the others, and nothing else changes, unless the user is at the end
+    // of the log: the last day or all dates, and the last row. That remains the last row.
+    void EntriesAdded(std::int32_t firstNew);
     // Empties the list of days; the panels and the index that belongs to them stay.
     void ShowNoDays() { controls_.cboDate.Clear(); }
     // Fills both panels for SelectedDay unless they show it already. Every entry has its row, also
@@ -102,6 +106,10 @@ class DayPanels : public EntryDisplay {
     void TargetRowClicked(int row);
     void RowIsShown(int row);
     bool PrepareContextMenu();
+    bool AtTheEnd() const;
+    std::string DayLabel(std::string_view date) const;
+    bool ListAddedDays();
+    void AddRows(std::int32_t firstNew);
     bool ShowRowOf(std::int32_t entry, std::int32_t firstEntry);
 
     Controls controls_;

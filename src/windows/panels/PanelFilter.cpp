@@ -27,12 +27,17 @@ bool PanelFilter::RemoveRows() {
     const HiddenWhileFilled source(source_);
     const auto target = twoPanels ? std::make_unique<HiddenWhileFilled>(target_)
                                   : std::unique_ptr<HiddenWhileFilled>();
-    const auto kept = std::make_shared<const std::vector<std::int32_t>>(
-        EntriesThatPass(entries_, *source_.RowTags(), filter_));
+    const auto kept =
+        std::make_shared<const std::vector<std::int32_t>>(Passing(*source_.RowTags()));
     Replace(source_, kept);
     if (twoPanels)
         Replace(target_, kept);
     return true;
+}
+
+std::vector<std::int32_t> PanelFilter::Passing(std::vector<std::int32_t> entries) const {
+    return filter_.FilterText.empty() ? std::move(entries)
+                                      : EntriesThatPass(entries_, entries, filter_);
 }
 
 }  // namespace ordalyn

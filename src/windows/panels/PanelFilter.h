@@ -1,6 +1,9 @@
 // PanelFilter takes the rows that the filter does not let pass out of the two panels.
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "log/EntryLists.h"
 #include "search/FilterChoice.h"
 #include "settings/SettingsTable.h"
@@ -22,6 +25,8 @@ class PanelFilter {
     // entry; when that is removed, nothing is selected. Throws SubscriptOutOfRange for a row whose
     // entry is outside the lists.
     bool RemoveRows();
+    // Those of these entries that the filter lets pass: all when there is none.
+    std::vector<std::int32_t> Passing(std::vector<std::int32_t> entries) const;
 
   private:
     toolkit::ListView& source_;

@@ -36,6 +36,7 @@ constexpr Row kRows[] = {
     {"HSplitPosition", "Ordalyn", false, 4000, false},
     {"StatusBarVisible", "Ordalyn", false, 1, false},
     {"SkipMalformedLines", "Ordalyn", false, 0, false},
+    {"FollowLog", "Ordalyn", false, 0, false},
 };
 
 const Setting& RowOf(std::string_view key) {
