@@ -8,6 +8,7 @@
 
 #include "base/CheckedMath.h"
 #include "base/Errors.h"
+#include "base/Text.h"
 #include "log/LineReader.h"
 #include "log/LogLine.h"
 
@@ -51,6 +52,65 @@ class ContinuedFile : public platform::ReadableFile {
     FileTrace& trace_;
 };
 
+// The last line that was read, without its end, as far as it has come; it is to be read again, and
+// what stands in front of it is not. Nothing where that cannot be told from the last bytes alone: a
+// line that is longer, a CR that may be half a line end, characters of 16 bits.
+std::optional<std::string_view> LineToReadAgain(const LogMark& mark) {
+    const std::string_view head = mark.trace.Head();
+    const std::string_view tail = mark.trace.Tail();
+    const std::size_t end = tail.find_last_of("\r\n");
+    if (mark.cutShort || head.starts_with("\xFF\xFE") || head.starts_with("\xFE\xFF") ||
+        end == std::string_view::npos || tail.ends_with('\r'))
+        return std::nullopt;
+    return tail.substr(end + 1);
+}
+
+// Whether the file has these bytes there. It then stands behind them.
+bool HasBytes(platform::ReadableFile& file, std::uint64_t place, std::string_view bytes) {
+    if (!file.Seek(place))
+        return false;
+    std::string found(bytes.size(), '\0');
+    std::size_t count = 0;
+    while (count < found.size()) {
+        const std::size_t more = file.Read(found.data() + count, found.size() - count);
+        if (more == 0)
+            break;
+        count += more;
+    }
+    return count == found.size() && found == bytes;
+}
+
+// What has been added to a file, with the line that it goes on with. A line end stands in front, so
+// that the beginning of that line is not taken for what says how the whole file is encoded.
+class AddedBytes : public platform::ReadableFile {
+  public:
+    // `file` stands where it was read to.
+    AddedBytes(std::unique_ptr<platform::ReadableFile> file, std::string_view line,
+               FileTrace& trace)
+        : file_(std::move(file)), trace_(trace) {
+        if (trace.Head().starts_with(kUtf8Mark))
+            before_ = kUtf8Mark;
+        before_.append("\n").append(line);
+    }
+
+    std::size_t Read(char* buffer, std::size_t capacity) override {
+        if (!before_.empty()) {
+            const std::size_t count = std::min(capacity, before_.size());
+            before_.copy(buffer, count);
+            before_.erase(0, count);
+            return count;
+        }
+        const std::size_t count = file_->Read(buffer, capacity);
+        trace_.Add(buffer, count);
+        return count;
+    }
+
+  private:
+    std::unique_ptr<platform::ReadableFile> file_;
+    FileTrace& trace_;
+    std::string before_;
+};
+
 bool Equal(const LogLine& a, const LogLine& b) {
     return a.date == b.date && a.source == b.source && a.target == b.target;
 }
@@ -58,6 +118,11 @@ bool Equal(const LogLine& a, const LogLine& b) {
 LogLine FieldsOf(const EntryLists& entries, std::int32_t entry) {
     return {entries.EntryDates().List(entry), entries.EntrySources().List(entry),
             entries.EntryTargets().List(entry)};
+}
+
+// The number of the first line that is to be read: one that had no end is read again.
+std::int32_t FirstToRead(const LogMark& mark) {
+    return mark.lineCount - (mark.lastLine != LastLine::Finished ? 1 : 0);
 }
 
 }  // namespace
@@ -73,14 +138,31 @@ AppendedLines::Found AppendedLines::Read(LogMark& mark) {
     PassedOverLines passedOver;
     bool malformed = false;
     try {
-        LineReader lines(std::make_unique<ContinuedFile>(std::move(file), mark.trace, moved.trace),
-                         codePages_);
+        const std::optional<std::string_view> line = LineToReadAgain(mark);
+        const FileTrace& before = mark.trace;
+        // The same bytes that are compared when all of the file is read.
+        const bool goesOn = line && HasBytes(*file, 0, before.Head()) &&
+                            HasBytes(*file, before.Size() - before.Tail().size(), before.Tail());
+        if (goesOn) {
+            moved.trace = before;
+            moved.lineCount = FirstToRead(mark);
+        } else {
+            file->Seek(0);
+        }
+        LineReader lines(
+            goesOn ? std::unique_ptr<platform::ReadableFile>(
+                         std::make_unique<AddedBytes>(std::move(file), *line, moved.trace))
+                   : std::make_unique<ContinuedFile>(std::move(file), before, moved.trace),
+            codePages_);
+        if (goesOn)
+            lines.Skip();
         malformed = !Collect(lines, mark, moved, added, passedOver);
     } catch (const OtherBytes&) {
         return Found::AnotherFile;
     }
     if (moved.trace.Size() < mark.trace.Size())
         return Found::AnotherFile;
+    moved.cutShort = malformed;
     const bool more = moved.lineCount > mark.lineCount;
     const bool changed = Append(added, mark.lastLine == LastLine::UnfinishedEntry);
     mark = std::move(moved);
@@ -94,8 +176,7 @@ AppendedLines::Found AppendedLines::Read(LogMark& mark) {
 // Returns false at a line that is none of a log and ends the read.
 bool AppendedLines::Collect(LineReader& lines, const LogMark& mark, LogMark& moved,
                             EntryLists& added, PassedOverLines& passedOver) const {
-    const bool again = mark.lastLine != LastLine::Finished;
-    const std::int32_t old = mark.lineCount - (again ? 1 : 0);
+    const std::int32_t old = FirstToRead(mark);
     while (moved.lineCount < old && lines.Skip())
         ++moved.lineCount;
     // What was begun as a comment is one: an entry of a whole read.

@@ -25,11 +25,12 @@ class AppendedLines {
                   PassedOverLines* passedOver = nullptr)
         : files_(files), codePages_(codePages), entries_(entries), passedOver_(passedOver) {}
 
-    // Reads on behind the mark, whose entries are the last ones of the lists, and moves it on. A
-    // last line that had no end is read again and its entry replaced; one that is not there yet up
-    // to its first blank is left for later. Deliberately different from reading a whole file: a
-    // line that begins with ";" is split like any other, EntryFiles is not extended, and the lists
-    // keep their spare slots. Throws FileError, with nothing changed, and MalformedText for a line
+    // Reads on behind the mark, whose entries are the last ones of the lists, and moves it on.
+    // Where the file lets it, only what is new is read, besides what the mark knows of it. A last
+    // line that had no end is read again and its entry replaced; one that is not there yet up to
+    // its first blank is left for later. Deliberately different from reading a whole file: a line
+    // that begins with ";" is split like any other, EntryFiles is not extended, and the lists keep
+    // their spare slots. Throws FileError, with nothing changed, and MalformedText for a line
     // without a blank that is not to be passed over: the lines before it have been added, and it is
     // not met again. Closes the file.
     Found Read(LogMark& mark);

@@ -21,6 +21,8 @@ class FileTrace {
 
     void Add(const char* bytes, std::size_t count);
     std::uint64_t Size() const { return size_; }
+    const std::string& Head() const { return head_; }
+    const std::string& Tail() const { return tail_; }
     bool operator==(const FileTrace&) const = default;
 
   private:
@@ -38,6 +40,8 @@ struct LogMark {
     std::string path;            // empty: nothing has been read
     std::int32_t lineCount = 0;  // the lines that have been consumed PLUS ONE
     LastLine lastLine = LastLine::Finished;
+    // A line that no log has ended the read: the trace may go beyond what has been consumed.
+    bool cutShort = false;
     FileTrace trace;
 };
 

@@ -61,6 +61,9 @@ class ReadableFile {
     virtual ~ReadableFile() = default;
     // Reads up to `capacity` bytes; 0 only at the end of the file. Throws FileError.
     virtual std::size_t Read(char* buffer, std::size_t capacity) = 0;
+    // Goes on that many bytes behind the beginning, which may be beyond the end; returns false, and
+    // has changed nothing, where that cannot be done.
+    virtual bool Seek(std::uint64_t) { return false; }
 };
 
 // What tells a file from one that has been changed or has taken its place. Two are equal when size

@@ -41,6 +41,11 @@ class Win32ReadableFile : public ReadableFile {
             throw FileError(path_, GetLastError());
         return count;
     }
+    bool Seek(std::uint64_t place) override {
+        LARGE_INTEGER to{};
+        to.QuadPart = static_cast<LONGLONG>(place);
+        return SetFilePointerEx(handle_.Get(), to, nullptr, FILE_BEGIN) != FALSE;
+    }
 
   private:
     std::string path_;

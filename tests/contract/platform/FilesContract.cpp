@@ -58,6 +58,18 @@ TEST_P(FilesContract, AnEmptyFileIsAtItsEndAtOnce) {
     EXPECT_EQ(platform::ReadAllBytes(Files(), System().Path("a.log")), "");
 }
 
+TEST_P(FilesContract, AFileIsGoneOnWithAtAnyPlace) {
+    System().SetBytes("a.log", "one two three");
+    const auto file = Open("a.log");
+    EXPECT_EQ(ReadSome(*file, 3), "one");
+    EXPECT_TRUE(file->Seek(8));
+    EXPECT_EQ(ReadRest(*file), "three");
+    EXPECT_TRUE(file->Seek(0));
+    EXPECT_EQ(ReadSome(*file, 3), "one");
+    EXPECT_TRUE(file->Seek(100));
+    EXPECT_EQ(ReadRest(*file), "");
+}
+
 TEST_P(FilesContract, WhatCannotBeOpenedIsAnErrorThatNamesTheFile) {
     System().AddFolder("folder");
     EXPECT_EQ(ErrorOfOpening(System().Path("none.log")), 2U);        // not found

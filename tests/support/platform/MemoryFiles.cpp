@@ -37,15 +37,21 @@ class MemoryFiles::Reader : public platform::ReadableFile {
         : path_(std::move(path)), content_(std::move(content)) {}
 
     std::size_t Read(char* buffer, std::size_t capacity) override {
-        std::size_t count = std::min(capacity, content_->bytes.size() - at_);
+        const std::size_t size = content_->bytes.size();
+        std::size_t count = at_ < size ? std::min(capacity, size - at_) : 0;
         if (content_->failAfter) {
             if (at_ >= *content_->failAfter)
                 throw FileError(path_, kReadFault);
             count = std::min(count, *content_->failAfter - at_);
         }
-        content_->bytes.copy(buffer, count, at_);
+        if (count > 0)
+            content_->bytes.copy(buffer, count, at_);
         at_ += count;
         return count;
+    }
+    bool Seek(std::uint64_t place) override {
+        at_ = static_cast<std::size_t>(place);
+        return true;
     }
 
   private:

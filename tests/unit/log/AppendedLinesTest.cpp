@@ -276,5 +276,111 @@ TEST_F(TolerantAppendedLinesTest, NothingIsNotedOfAnotherFile) {
     EXPECT_EQ(passedOver.count, 0);
 }
 
+// Enough that its first and its last bytes are not all of it.
+std::string LongLog(const std::string& begin = "") {
+    std::string bytes = begin;
+    for (int i = 0; bytes.size() < 5 * FileTrace::kKept; ++i)
+        bytes += "d t: line " + std::to_string(i) + "\r\n";
+    return bytes;
+}
+
+TEST_F(AppendedLinesTest, OnlyWhatIsNewIsReadOfALongLog) {
+    const std::string log = LongLog();
+    ReadFile(log);
+    const std::int32_t count = entries.EntrySources().ListCount();
+    const std::int32_t lines = mark.lineCount;
+    files.bytesRead = 0;
+    EXPECT_EQ(Refresh(log + "d t: new\r\nd t: unfin"), Found::Lines);
+    EXPECT_LT(files.bytesRead, 2 * FileTrace::kKept + 100);
+    EXPECT_EQ(mark.lineCount, lines + 2);
+    EXPECT_EQ(Refresh(log + "d t: new\r\nd t: unfinished\r\n\r\n"), Found::Lines);
+    ASSERT_EQ(entries.EntrySources().ListCount(), count + 2);
+    EXPECT_EQ(entries.EntrySources().List(count + 1), "t: new");
+    EXPECT_EQ(entries.EntrySources().List(count + 2), "t: unfinished");
+    EXPECT_EQ(mark.lineCount, lines + 3);
+    EXPECT_EQ(appended.Read(mark), Found::Nothing);
+    EXPECT_EQ(files.openNow, 0);
+}
+
+TEST_F(AppendedLinesTest, ALongLogThatHasChangedIsAnother) {
+    const std::string log = LongLog();
+    for (const std::size_t place :
+         {std::size_t{0}, FileTrace::kKept - 1, log.size() - 1, log.size() - FileTrace::kKept}) {
+        ReadFile(log);
+        std::string other = log + "d t: new\r\n";
+        other[place] = 'x';
+        EXPECT_EQ(Refresh(other), Found::AnotherFile) << place;
+    }
+    ReadFile(log);
+    EXPECT_EQ(Refresh(log.substr(0, log.size() - 9)), Found::AnotherFile);
+    EXPECT_EQ(Refresh("d t: a\r\n"), Found::AnotherFile);
+    EXPECT_EQ(Refresh(""), Found::AnotherFile);
+}
+
+// However a log ends and goes on, and however it is encoded, its entries are those of a whole read,
+// whether or not the file can be gone on with at a place.
+TEST_F(AppendedLinesTest, ALongLogGoesOnAsIfItWereReadWhole) {
+    const std::string marks[] = {"", "\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"};
+    const std::string pieces[] = {"d t: a",
+                                  "\r",
+                                  "\n",
+                                  "\r\n",
+                                  "",
+                                  "\xEF\xBB\xBF"
+                                  "d t: m\r\n",
+                                  "\xFF\xFE"
+                                  "d t: n\n",
+                                  "d t: \xE4\n",
+                                  "d t: \xC3\xA4",
+                                  "d",
+                                  " t: x\n\n",
+                                  std::string(2 * FileTrace::kKept, 'y')};
+    for (const std::string& begin : marks) {
+        for (const std::string& first : pieces) {
+            for (const std::string& second : pieces) {
+                const std::string log = LongLog(begin) + first;
+                files.Put(kLog, log);
+                entries.Clear();
+                PassedOverLines passedOver;
+                LogReader reader(files, codePages, entries, &passedOver);
+                reader.ReadGrowingFile(kLog);
+                mark = reader.Mark();
+                AppendedLines lenient(files, codePages, entries, &passedOver);
+                files.Put(kLog, log + second);
+                EXPECT_NE(lenient.Read(mark), Found::AnotherFile);
+                files.Put(kLog, log + second + "d t: end\n");
+                EXPECT_NE(lenient.Read(mark), Found::AnotherFile);
+                const std::vector<std::string> grown = Sources();
+                entries.Clear();
+                LogReader whole(files, codePages, entries, &passedOver);
+                whole.ReadGrowingFile(kLog);
+                EXPECT_EQ(grown, Sources()) << begin.size() << first << "|" << second;
+            }
+        }
+    }
+}
+
+TEST_F(AppendedLinesTest, AFileThatCannotBeGoneOnWithAtAPlaceIsReadFromItsBeginning) {
+    files.canSeek = false;
+    const std::string log = LongLog();
+    ReadFile(log);
+    const std::int32_t count = entries.EntrySources().ListCount();
+    EXPECT_EQ(Refresh(log + "d t: new\r\n"), Found::Lines);
+    EXPECT_EQ(entries.EntrySources().ListCount(), count + 1);
+}
+
+// The read ended in front of what the trace covers.
+TEST_F(AppendedLinesTest, WhatStandsBehindALineThatNoLogHasIsReadAllTheSame) {
+    const std::string log = LongLog();
+    ReadFile(log);
+    const std::int32_t count = entries.EntrySources().ListCount();
+    files.Put(kLog, log + "garbage\r\nd t: a\r\nrubbish\r\nd t: b\r\n");
+    EXPECT_THROW(appended.Read(mark), MalformedText);
+    EXPECT_THROW(appended.Read(mark), MalformedText);
+    EXPECT_EQ(appended.Read(mark), Found::Lines);
+    EXPECT_EQ(entries.EntrySources().ListCount(), count + 2);
+    EXPECT_EQ(entries.EntrySources().List(count + 2), "t: b");
+}
+
 }  // namespace
 }  // namespace ordalyn

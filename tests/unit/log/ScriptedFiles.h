@@ -32,6 +32,8 @@ class ScriptedFiles : public platform::Files {
     std::size_t failAfter = std::numeric_limits<std::size_t>::max();  // bytes
     int openNow = 0;
     int opened = 0;
+    std::size_t bytesRead = 0;
+    bool canSeek = true;
 
     platform::DriveKind DriveOf(std::string_view) override { return platform::DriveKind::Fixed; }
     std::optional<platform::FileStamp> Stamp(std::string_view) override { return std::nullopt; }
@@ -90,10 +92,18 @@ class ScriptedFiles : public platform::Files {
         std::size_t Read(char* buffer, std::size_t capacity) override {
             if (at_ >= owner_.failAfter)
                 throw FileError(path_, 33);
+            if (at_ >= bytes_.size())
+                return 0;
             const std::size_t count = std::min({capacity, owner_.mostAtOnce, bytes_.size() - at_});
             std::copy_n(bytes_.begin() + static_cast<std::ptrdiff_t>(at_), count, buffer);
             at_ += count;
+            owner_.bytesRead += count;
             return count;
+        }
+        bool Seek(std::uint64_t place) override {
+            if (owner_.canSeek)
+                at_ = static_cast<std::size_t>(place);
+            return owner_.canSeek;
         }
 
       private:
