@@ -35,7 +35,7 @@ def test_texts_of_a_language_are_no_formats_keys_or_lines(folder):
     assert {entry.caption: entry.shortcut for entry in view if not entry.separator
             and ("%" in entry.caption or entry.caption == "-")} == {
         "-": "F5", "%n%s%s%p&Options Ctrl+Q F5": ""}
-    assert [entry.separator for entry in view].count(True) == 2
+    assert [entry.separator for entry in view].count(True) == 3
     # A tab at its start would put the text into the middle or to the right edge.
     assert re.fullmatch(r" *1 %n%s%s R&D *", app.main.status[0])
     assert "\t" not in app.main.status[0]
