@@ -290,6 +290,19 @@ TEST_F(Following, ALogThatDoesNotChangeIsNotOpened) {
     EXPECT_EQ(TimesOpened(), 1);
 }
 
+// Of a large log that would take as long as opening it.
+TEST_F(Following, ALogThatHasJustBeenOpenedIsNotReadAgain) {
+    SetSettings("FollowLog=1");
+    CountOpenings();
+    Start();
+    const int forReading = TimesOpened();
+    EXPECT_GT(forReading, 0);
+    tools.PassTime(3 * kASecond);
+    EXPECT_EQ(TimesOpened(), forReading);
+    AppendAndWait({Line("c")});
+    EXPECT_EQ(TimesOpened(), forReading + 1);
+}
+
 TEST_F(Following, RestsWhileTheWindowIsMinimisedAndCatchesUp) {
     StartFollowing();
     Main().SetState(WindowState::Minimised);
