@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "toolkit/ListView.h"
 
 namespace ordalyn::toolkit {
 
@@ -107,6 +108,9 @@ bool FormKeyboard::KeyUp(Control* focused, int key, Modifiers modifiers) const {
 }
 
 bool FormKeyboard::UseKey(Control* focused, const KeyPress& press) const {
+    auto* const list = dynamic_cast<ListView*>(focused);
+    if (list != nullptr && press.key == 'A' && press.modifiers == Modifiers{.control = true})
+        return list->UserSelectedAll();
     if (press.forMenus || press.modifiers.control || press.modifiers.alt)
         return false;
     if (focused != nullptr && !press.modifiers.shift &&

@@ -1,5 +1,9 @@
 #include "toolkit/ListView.h"
 
+#include <limits>
+
+#include <algorithm>
+
 #include "base/Errors.h"
 
 namespace ordalyn::toolkit {
@@ -86,7 +90,10 @@ void ListView::Fill(std::shared_ptr<const RowSource> source, Tags tags) {
     source_ = std::move(source);
     tags_ = std::move(tags);
     selectedRow_ = -1;
+    anchor_ = -1;
+    selected_.Clear();
     peer_->ResetRows(RowCount());
+    peer_->ShowSelection();
 }
 
 void ListView::ReplaceRows(Tags tags, int selectedRow) {
@@ -100,7 +107,19 @@ void ListView::GrowRows(std::shared_ptr<const RowSource> source, Tags tags, int 
     tags_ = std::move(tags);
     if (selectedRow_ >= RowCount())
         selectedRow_ = -1;
+    if (anchor_ >= RowCount())
+        anchor_ = -1;
+    const RowRanges before = selected_;
+    selected_.Remove(RowCount(), std::numeric_limits<int>::max());
     peer_->GrowRows(RowCount(), firstChanged);
+    if (selected_ != before)
+        peer_->ShowSelection();
+}
+
+void ListView::ReplaceRows(Tags tags, const RowRanges& selected, int selectedRow) {
+    tags_ = std::move(tags);
+    peer_->UpdateRows(RowCount());
+    SelectRows(selected, selectedRow);
 }
 
 void ListView::ClearRows() {
@@ -126,8 +145,17 @@ std::string_view ListView::Text(int row, int column) const {
 void ListView::SelectRow(int row) {
     if (row != -1)
         RequireRow(row);
+    SelectRows(row < 0 ? RowRanges() : RowRanges(row, row + 1), row);
+}
+
+void ListView::SelectRows(const RowRanges& rows, int row) {
+    if (row != -1)
+        RequireRow(row);
     selectedRow_ = row;
+    anchor_ = row;
+    selected_ = rows;
     peer_->SelectRow(row);
+    peer_->ShowSelection();
 }
 
 void ListView::EnsureVisible(int row) {
@@ -145,12 +173,64 @@ void ListView::SetGridLines(bool shown) {
     peer_->SetGridLines(shown);
 }
 
-void ListView::UserSelected(int row) {
+// What the user selects is selected when the events are raised, also in the window.
+void ListView::UserSelected(int row, Choice choice) {
     if (row >= RowCount())
         return;  // the rows have changed since
+    const RowRanges before = selected_;
+    Choose(row, multiSelect_ ? choice : Choice::Only);
+    if (selectedRow_ != row)
+        peer_->SelectRow(selectedRow_);
+    if (selected_ != before) {
+        peer_->ShowSelection();
+        SelectionChanged.Raise();
+    }
+    // Who was notified of that may have selected something else.
+    if (row >= 0 && selectedRow_ >= 0)
+        ItemClick.Raise(selectedRow_);
+}
+
+void ListView::Choose(int row, Choice choice) {
     selectedRow_ = row;
-    if (row >= 0)
-        ItemClick.Raise(row);
+    const bool extends = choice == Choice::Extend || choice == Choice::ExtendMore;
+    if (row >= 0 && extends && anchor_ >= 0 && anchor_ < RowCount()) {
+        if (choice == Choice::Extend)
+            selected_.Clear();
+        selected_.Add(std::min(anchor_, row), std::max(anchor_, row) + 1);
+        return;
+    }
+    anchor_ = row;
+    if (row >= 0 && choice == Choice::Keep && selected_.Contains(row))
+        return;
+    if (row >= 0 && choice == Choice::Toggle) {
+        if (selected_.Contains(row))
+            selected_.Remove(row, row + 1);
+        else
+            selected_.Add(row, row + 1);
+        selectedRow_ = selected_.Nearest(row);
+        return;
+    }
+    selected_ = row < 0 ? RowRanges() : RowRanges(row, row + 1);
+}
+
+bool ListView::UserSelectedAll() {
+    if (!multiSelect_)
+        return false;
+    const RowRanges all(0, RowCount());
+    if (selected_ == all)
+        return true;
+    const bool none = selectedRow_ < 0;
+    selected_ = all;
+    if (none) {
+        selectedRow_ = 0;
+        anchor_ = 0;
+        peer_->SelectRow(0);
+    }
+    peer_->ShowSelection();
+    SelectionChanged.Raise();
+    if (none && selectedRow_ >= 0)
+        ItemClick.Raise(selectedRow_);
+    return true;
 }
 
 bool ListView::UserActivated(int row) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "toolkit/Control.h"
+#include "toolkit/RowRanges.h"
 
 namespace ordalyn::toolkit {
 
@@ -20,7 +21,17 @@ class RowSource {
     virtual std::string_view Text(std::int32_t tag, int field) const = 0;
 };
 
-// Rows and columns are 0-based here; row -1 is none. One row is selected at most. Selecting by code
+// What the user does with a row, by mouse or keyboard.
+enum class Choice {
+    Only,        // selects it and no other
+    Extend,      // selects from the row that was chosen last to this one (Shift)
+    Toggle,      // selects it as well, or no longer (Ctrl)
+    ExtendMore,  // as Extend, beside what is selected (Ctrl and Shift)
+    Keep         // comes to it; when it is one of several that are selected, all of them stay
+};
+
+// Rows and columns are 0-based here; row -1 is none. One row is the selected one, at most: the one
+// that keys go on from. With SetMultiSelect others can be selected beside it. Selecting by code
 // raises nothing; ItemClick is raised when the user selects a row, with mouse or keyboard, or
 // clicks the one that is selected. Indices outside throw SubscriptOutOfRange.
 class ListView : public Control {
@@ -52,6 +63,8 @@ class ListView : public Control {
     // that has the same texts for the rows in front of it. These, the selection and what is
     // scrolled to stay as they are. Raises nothing.
     void GrowRows(std::shared_ptr<const RowSource> source, Tags tags, int firstChanged);
+    // The same with several, of which selectedRow is one.
+    void ReplaceRows(Tags tags, const RowRanges& selected, int selectedRow);
     void ClearRows();
     int RowCount() const;
     std::int32_t Tag(int row) const;
@@ -61,6 +74,14 @@ class ListView : public Control {
 
     int SelectedRow() const { return selectedRow_; }
     void SelectRow(int row);  // -1 for none
+
+    // Several rows, in order of place; SelectedRow is always one of them.
+    void SetMultiSelect(bool several) { multiSelect_ = several; }
+    bool MultiSelect() const { return multiSelect_; }
+    const RowRanges& SelectedRows() const { return selected_; }
+    // `row` is to be one of them, and -1 when there are none.
+    void SelectRows(const RowRanges& rows, int row);
+
     void EnsureVisible(int row);
     Rect RowOnScreen(int row) const;  // what can be seen of it
     void SetGridLines(bool shown);
@@ -71,8 +92,12 @@ class ListView : public Control {
     // A row was double clicked, or Enter was pressed with the focus in the list: what is to happen
     // with it is to happen. As long as nobody listens Enter is the form's.
     Event<int> RowActivated;
-    // For the peer and for FormKeyboard.
-    void UserSelected(int row);
+    // The user has selected other rows, or none; raised before ItemClick.
+    Event<> SelectionChanged;
+    // For the peer and for FormKeyboard: what the user has done with a row; -1 is the place beside
+    // all rows.
+    void UserSelected(int row, Choice choice = Choice::Only);
+    bool UserSelectedAll();       // Ctrl+A; whether the key was used
     bool UserActivated(int row);  // whether that is of any use
 
   private:
@@ -82,11 +107,15 @@ class ListView : public Control {
     };
     void RequireRow(int row) const;
     void RequireColumn(int column) const;
+    void Choose(int row, Choice choice);
     std::unique_ptr<ListViewPeer> peer_;
     std::vector<Column> columns_;
     std::shared_ptr<const RowSource> source_;
     Tags tags_;
     int selectedRow_ = -1;
+    RowRanges selected_;
+    int anchor_ = -1;  // where Shift selects from
+    bool multiSelect_ = false;
     bool gridLines_ = false;
 };
 

@@ -92,6 +92,8 @@ class ListViewPeer : public ControlPeer {
     // scroll position stay, and nothing else is painted.
     virtual void GrowRows(int count, int firstChanged) = 0;
     virtual void SelectRow(int row) = 0;  // -1: none
+    // Which rows are selected beside that one has changed: the control's SelectedRows.
+    virtual void ShowSelection() = 0;
     virtual void EnsureVisible(int row) = 0;
     // The part of the row that can be seen, from the screen's top left corner.
     virtual Rect RowOnScreen(int row) = 0;

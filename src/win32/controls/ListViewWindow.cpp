@@ -239,6 +239,16 @@ void ListViewWindow::SelectRow(int row) {
     selectedRow_ = row;
 }
 
+// The control selects one row: with several it looks at each of a million for every key.
+void ListViewWindow::ShowSelection() {
+    const bool several = list_.SelectedRows().Count() > 1;
+    if ((several || severalShown_) && handle() != nullptr) {
+        InvalidateRect(handle(), nullptr, FALSE);
+        NotifyWinEvent(EVENT_OBJECT_SELECTIONWITHIN, handle(), OBJID_CLIENT, CHILDID_SELF);
+    }
+    severalShown_ = several;
+}
+
 void ListViewWindow::EnsureVisible(int row) {
     Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
@@ -297,7 +307,7 @@ void ListViewWindow::ItemChanged(const NMLISTVIEW& change) {
         selectedRow_ = change.iItem;
         liftedRow_ = -1;
         if (!changingByCode_)
-            list_.UserSelected(change.iItem);
+            list_.UserSelected(change.iItem, choice_);
     } else if (was && !is && (change.iItem < 0 || change.iItem == selectedRow_)) {
         selectedRow_ = -1;
         if (!changingByCode_)
@@ -354,6 +364,72 @@ bool ListViewWindow::ChangesSelection(UINT message, WPARAM wParam, LPARAM lParam
     }
 }
 
+// What programs that speak the screen ask about the rows that the control does not know to be
+// selected.
+std::optional<LRESULT> ListViewWindow::SelectionAsked(UINT message, WPARAM wParam, LPARAM lParam) {
+    constexpr LPARAM kStates = LVNI_FOCUSED | LVNI_SELECTED | LVNI_CUT | LVNI_DROPHILITED;
+    constexpr LPARAM kOneAfterTheOther = LVNI_ABOVE | LVNI_BELOW | LVNI_TOLEFT | LVNI_TORIGHT;
+    const auto row = static_cast<int>(wParam);
+    if (!severalShown_)
+        return std::nullopt;
+    switch (message) {
+        case LVM_GETSELECTEDCOUNT:
+            return list_.SelectedRows().Count();
+        case LVM_GETNEXTITEM:
+            if ((lParam & kStates) != LVNI_SELECTED || (lParam & kOneAfterTheOther) != 0)
+                return std::nullopt;
+            return list_.SelectedRows().From(row + 1);
+        case LVM_GETITEMSTATE: {
+            if ((lParam & LVIS_SELECTED) == 0)
+                return std::nullopt;
+            const LRESULT others = Window::OnMessage(message, wParam, lParam) & ~LVIS_SELECTED;
+            return others | (list_.SelectedRows().Contains(row) ? LVIS_SELECTED : 0);
+        }
+        default:
+            return std::nullopt;
+    }
+}
+
+LRESULT ListViewWindow::PaintRow(NMLVCUSTOMDRAW& draw) const {
+    const auto row = static_cast<int>(draw.nmcd.dwItemSpec);
+    switch (draw.nmcd.dwDrawStage) {
+        case CDDS_PREPAINT:
+            return severalShown_ ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
+        case CDDS_ITEMPREPAINT:
+            // The control paints its own one.
+            if (row != selectedRow_ && list_.SelectedRows().Contains(row)) {
+                const bool focused = GetFocus() == handle();
+                draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+                draw.clrText = GetSysColor(focused ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT);
+                draw.clrTextBk = GetSysColor(focused ? COLOR_HIGHLIGHT : COLOR_BTNFACE);
+            }
+            return CDRF_DODEFAULT;
+        default:
+            return CDRF_DODEFAULT;
+    }
+}
+
+// What the user's choice of a row by this message means for the others.
+Choice ListViewWindow::ChoiceOf(UINT message, WPARAM wParam) const {
+    const bool mouse = message == WM_LBUTTONDOWN;
+    if (message == WM_RBUTTONDOWN)
+        return Choice::Keep;
+    if (!mouse && message != WM_KEYDOWN)
+        return choice_;
+    const bool shift = mouse ? (wParam & MK_SHIFT) != 0 : GetKeyState(VK_SHIFT) < 0;
+    const bool control = mouse && (wParam & MK_CONTROL) != 0;
+    if (shift)
+        return control ? Choice::ExtendMore : Choice::Extend;
+    return control ? Choice::Toggle : Choice::Only;
+}
+
+// A key that has come to no other row leaves the one where it is alone.
+void ListViewWindow::MoveWithoutChange(UINT message, WPARAM wParam, int before) {
+    if (message == WM_KEYDOWN && severalShown_ && choice_ == Choice::Only &&
+        ChangesSelection(message, wParam, 0) && list_.SelectedRow() == before)
+        list_.UserSelected(before);
+}
+
 std::optional<LRESULT> ListViewWindow::OnNotify(NMHDR& header) {
     switch (header.code) {
         case static_cast<UINT>(LVN_GETDISPINFOW):
@@ -367,6 +443,8 @@ std::optional<LRESULT> ListViewWindow::OnNotify(NMHDR& header) {
         case NM_DBLCLK:
             list_.UserActivated(reinterpret_cast<const NMITEMACTIVATE&>(header).iItem);
             return 0;
+        case static_cast<UINT>(NM_CUSTOMDRAW):
+            return PaintRow(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
         default:
             return std::nullopt;
     }
@@ -393,10 +471,26 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         default:
             break;
     }
-    std::optional<LiftedSelection> lifted;
-    if (ChangesSelection(message, wParam, lParam))
-        lifted.emplace(*this);
-    return Window::OnMessage(message, wParam, lParam);
+    if (const std::optional<LRESULT> answer = SelectionAsked(message, wParam, lParam))
+        return *answer;
+    if ((message == WM_SETFOCUS || message == WM_KILLFOCUS) && severalShown_)
+        InvalidateRect(handle(), nullptr, FALSE);
+    const std::weak_ptr<const void> alive = Lifetime();
+    const int before = list_.SelectedRow();
+    const Choice choiceBefore = std::exchange(choice_, ChoiceOf(message, wParam));
+    LRESULT answer = 0;
+    {
+        std::optional<LiftedSelection> lifted;
+        if (ChangesSelection(message, wParam, lParam))
+            lifted.emplace(*this);
+        answer = Window::OnMessage(message, wParam, lParam);
+    }
+    if (alive.expired() || handle() == nullptr)
+        return answer;
+    MoveWithoutChange(message, wParam, before);
+    if (!alive.expired())
+        choice_ = choiceBefore;
+    return answer;
 }
 
 }  // namespace ordalyn::win32

@@ -27,6 +27,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void UpdateRows(int count) override;
     void GrowRows(int count, int firstChanged) override;
     void SelectRow(int row) override;
+    void ShowSelection() override;
     void EnsureVisible(int row) override;
     toolkit::Rect RowOnScreen(int row) override;
     void SetGridLines(bool shown) override;
@@ -51,6 +52,10 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void ItemChanged(const NMLISTVIEW& change);
     void ChangeState(int row, UINT mask, UINT state);
     void ClearSelection(UINT states);
+    std::optional<LRESULT> SelectionAsked(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT PaintRow(NMLVCUSTOMDRAW& draw) const;
+    toolkit::Choice ChoiceOf(UINT message, WPARAM wParam) const;
+    void MoveWithoutChange(UINT message, WPARAM wParam, int before);
     // Whether the message may make the control deselect the selected row and select one.
     bool ChangesSelection(UINT message, WPARAM wParam, LPARAM lParam) const;
 
@@ -64,6 +69,9 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     // and liftedRow_ is the one to select again, unless the control selects another.
     int selectedRow_ = -1;
     int liftedRow_ = -1;
+    // The control knows one selected row; the others are the list's and painted as if they were.
+    bool severalShown_ = false;
+    toolkit::Choice choice_ = toolkit::Choice::Only;  // what the message that is handled stands for
 };
 
 }  // namespace ordalyn::win32

@@ -34,9 +34,14 @@ DayPanels::DayPanels(const Controls& controls, const EntryLists& entries,
         [this](int row) { Attempt([&] { SourceRowClicked(row); }); });
     controls_.TargetListView.ItemClick.Subscribe(
         [this](int row) { Attempt([&] { TargetRowClicked(row); }); });
+    controls_.SourceListView.SelectionChanged.Subscribe(
+        [this] { SelectSameRows(controls_.TargetListView, controls_.SourceListView); });
+    controls_.TargetListView.SelectionChanged.Subscribe(
+        [this] { SelectSameRows(controls_.SourceListView, controls_.TargetListView); });
     controls_.SourceListView.GotFocus.Subscribe([this] { targetWasUsed_ = false; });
     controls_.TargetListView.GotFocus.Subscribe([this] { targetWasUsed_ = true; });
     for (toolkit::ListView* list : {&controls_.SourceListView, &controls_.TargetListView}) {
+        list->SetMultiSelect(true);
         list->MouseUp.Subscribe(
             [this](int button, toolkit::Modifiers, toolkit::Twips, toolkit::Twips) {
                 if (button == toolkit::kRightButton)
@@ -258,16 +263,22 @@ void DayPanels::SelectLastRow() {
         SelectEntryRow(rows - 1);
 }
 
+// A single panel leaves the other one empty.
+void DayPanels::SelectSameRows(toolkit::ListView& list, const toolkit::ListView& as) {
+    if (settings_.TwoPanels != 0)
+        list.SelectRows(as.SelectedRows(), as.SelectedRow());
+}
+
 void DayPanels::SourceRowClicked(int row) {
     if (settings_.TwoPanels != 0) {
-        controls_.TargetListView.SelectRow(row);
+        SelectSameRows(controls_.TargetListView, controls_.SourceListView);
         controls_.TargetListView.EnsureVisible(row);
     }
     RowIsShown(row);
 }
 
 void DayPanels::TargetRowClicked(int row) {
-    controls_.SourceListView.SelectRow(row);
+    SelectSameRows(controls_.SourceListView, controls_.TargetListView);
     controls_.SourceListView.EnsureVisible(row);
     RowIsShown(row);
 }

@@ -104,6 +104,7 @@ class DayPanels : public EntryDisplay {
     void ChooseDay(std::int32_t day);
     void ShowDay(std::int32_t day);
     void TargetRowClicked(int row);
+    void SelectSameRows(toolkit::ListView& list, const toolkit::ListView& as);
     void RowIsShown(int row);
     bool PrepareContextMenu();
     bool AtTheEnd() const;

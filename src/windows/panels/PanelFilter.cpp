@@ -15,7 +15,11 @@ namespace {
 void Replace(toolkit::ListView& list, const toolkit::ListView::Tags& kept) {
     const int row = list.SelectedRow();
     const int selected = row < 0 ? kNoRow : RowOfEntry(*kept, list.Tag(row));
-    list.ReplaceRows(kept, selected);
+    if (selected == kNoRow)
+        list.ReplaceRows(kept, kNoRow);
+    else
+        list.ReplaceRows(kept, RowsOfEntries(*list.RowTags(), list.SelectedRows(), *kept),
+                         selected);
 }
 
 }  // namespace

@@ -22,7 +22,8 @@ class PanelFilter {
           settings_(settings) {}
 
     // Returns whether there is a filter; without one nothing happens. The selection stays with its
-    // entry; when that is removed, nothing is selected. Throws SubscriptOutOfRange for a row whose
+    // entry, and so do the others that are selected beside it; when that is removed, nothing is
+    // selected. Throws SubscriptOutOfRange for a row whose
     // entry is outside the lists.
     bool RemoveRows();
     // Those of these entries that the filter lets pass: all when there is none.

@@ -70,18 +70,24 @@ class MemoryDriver : public ToolkitDriver {
         auto* list = dynamic_cast<ListView*>(const_cast<Control*>(kit_.focus));
         const bool mine = list != nullptr && &FormOf(*list) == &form && CanReach(*list);
         kit_.Press(form, key, modifiers);
-        if (mine && modifiers == Modifiers{})
-            MoveInList(*list, key);
+        if (mine && (modifiers == Modifiers{} || modifiers == Modifiers{.shift = true}))
+            MoveInList(*list, key, modifiers.shift ? Choice::Extend : Choice::Only);
     }
-    void ClickRow(ListView& list, int row) override {
-        Do(list, [&] { Select(list, row); });
+    void ClickRow(ListView& list, int row, Modifiers modifiers) override {
+        Choice choice = modifiers.control ? Choice::Toggle : Choice::Only;
+        if (modifiers.shift)
+            choice = modifiers.control ? Choice::ExtendMore : Choice::Extend;
+        Do(list, [&] { Select(list, row, choice); });
+    }
+    void RightClickRow(ListView& list, int row) override {
+        Do(list, [&] { Select(list, row, Choice::Keep); });
     }
     void DoubleClickRow(ListView& list, int row) override {
-        ClickRow(list, row);
+        ClickRow(list, row, {});
         Do(list, [&] { list.UserActivated(row); });
     }
     void ClickBelowRows(ListView& list) override {
-        Do(list, [&] { Select(list, -1); });
+        Do(list, [&] { Select(list, -1, Choice::Only); });
     }
     void DragDivider(ListView& list, int column, int pixels) override {
         if (CanReach(list))
@@ -224,6 +230,9 @@ class MemoryDriver : public ToolkitDriver {
         return std::string(list.Text(row, column));
     }
     int SelectedRow(const ListView& list) override { return MemoryToolkit::Of(list).selectedRow; }
+    RowRanges SelectedRows(const ListView& list) override {
+        return MemoryToolkit::Of(list).selectedRows;
+    }
     int TopRow(const ListView& list) override {
         const int visible = MemoryToolkit::Of(list).visibleRow;
         return std::max(0, visible - RowsOfPage(list) + 1);
@@ -294,11 +303,15 @@ class MemoryDriver : public ToolkitDriver {
         const auto pixels = static_cast<int>(list.Height() / 15) - 2 * kRowPixels;
         return std::max(1, pixels / kRowPixels);
     }
-    static void Select(ListView& list, int row) {
-        MemoryToolkit::Mutable(list).selectedRow = row;
-        list.UserSelected(row);
+    static bool MovesInList(int key) {
+        return key == key::Down || key == key::Up || key == key::Home || key == key::End ||
+               key == key::PageDown || key == key::PageUp;
     }
-    void MoveInList(ListView& list, int key) {
+    static void Select(ListView& list, int row, Choice choice) {
+        MemoryToolkit::Mutable(list).selectedRow = row;
+        list.UserSelected(row, choice);
+    }
+    void MoveInList(ListView& list, int key, Choice choice) {
         const int last = list.RowCount() - 1;
         const int now = MemoryToolkit::Of(list).selectedRow;
         int row = now;
@@ -325,11 +338,12 @@ class MemoryDriver : public ToolkitDriver {
                 break;
         }
         row = std::clamp(row, 0, std::max(last, 0));
-        if (row == now || last < 0)
+        const bool several = list.SelectedRows().Count() > 1 && choice == Choice::Only;
+        if ((row == now && !(several && MovesInList(key))) || last < 0)
             return;
         kit_.AsTheMessageLoop([&] {
             MemoryToolkit::Mutable(list).visibleRow = row;
-            Select(list, row);
+            Select(list, row, choice);
         });
     }
     static std::vector<MenuSeen> Seen(const std::vector<ShownMenu>& menus) {

@@ -63,7 +63,8 @@ class ToolkitDriver {
     virtual void PressTwice(toolkit::Control& button) = 0;
     // The control with the focus gets it, when its form leaves it to that.
     virtual void PressKey(toolkit::Form& form, int key, toolkit::Modifiers modifiers = {}) = 0;
-    virtual void ClickRow(toolkit::ListView& list, int row) = 0;
+    virtual void ClickRow(toolkit::ListView& list, int row, toolkit::Modifiers modifiers = {}) = 0;
+    virtual void RightClickRow(toolkit::ListView& list, int row) = 0;
     virtual void DoubleClickRow(toolkit::ListView& list, int row) = 0;
     virtual void ClickBelowRows(toolkit::ListView& list) = 0;
     virtual void DragDivider(toolkit::ListView& list, int column, int pixels) = 0;
@@ -111,7 +112,8 @@ class ToolkitDriver {
     virtual int SelectedItem(const toolkit::ComboBox& box) = 0;
     virtual int RowCount(const toolkit::ListView& list) = 0;
     virtual std::string Cell(const toolkit::ListView& list, int row, int column) = 0;
-    virtual int SelectedRow(const toolkit::ListView& list) = 0;
+    virtual int SelectedRow(const toolkit::ListView& list) = 0;  // the first
+    virtual toolkit::RowRanges SelectedRows(const toolkit::ListView& list) = 0;
     virtual int TopRow(const toolkit::ListView& list) = 0;
     virtual std::string ColumnCaption(const toolkit::ListView& list, int column) = 0;
     virtual int ColumnPixels(const toolkit::ListView& list, int column) = 0;

@@ -173,10 +173,29 @@ class Win32Driver : public Win32Sight {
                      static_cast<LPARAM>(0xC0000001) | place | alt);
         Settle();
     }
-    void ClickRow(ListView& list, int row) override { ClickList(list, InRow(list, row)); }
+    void ClickRow(ListView& list, int row, Modifiers modifiers) override {
+        std::vector<int> keys;
+        if (modifiers.shift)
+            keys.push_back(VK_SHIFT);
+        if (modifiers.control)
+            keys.push_back(VK_CONTROL);
+        const Held held(keys);
+        ClickList(list, InRow(list, row), WM_LBUTTONDOWN,
+                  static_cast<WPARAM>((modifiers.shift ? MK_SHIFT : 0) |
+                                      (modifiers.control ? MK_CONTROL : 0)));
+    }
     void DoubleClickRow(ListView& list, int row) override {
-        ClickRow(list, row);
+        ClickRow(list, row, {});
         ClickList(list, InRow(list, row), WM_LBUTTONDBLCLK);
+    }
+    void RightClickRow(ListView& list, int row) override {
+        const HWND window = HandleOf(list);
+        if (!CanReach(window))
+            return;
+        const POINT at = InRow(list, row);
+        PostMessageW(window, WM_RBUTTONDOWN, MK_RBUTTON, At(at));
+        PostMessageW(window, WM_RBUTTONUP, 0, At(at));
+        Settle();
     }
     void ClickBelowRows(ListView& list) override {
         RECT inside = {};
@@ -362,20 +381,20 @@ class Win32Driver : public Win32Sight {
         if (IsWindow(window))
             Ask(window, WM_LBUTTONUP, 0, At(at));
     }
-    // A list waits for the release inside of the press to tell a click from a drag.
-    static POINT InRow(ListView& list, int row) {
+    static POINT InRow(const ListView& list, int row) {
         RECT cell = {};
         cell.left = LVIR_LABEL;
         Ask(HandleOf(list), LVM_GETITEMRECT, static_cast<WPARAM>(row),
             reinterpret_cast<LPARAM>(&cell));
         return {cell.left + 4, (cell.top + cell.bottom) / 2};
     }
-    void ClickList(ListView& list, POINT at, UINT down = WM_LBUTTONDOWN) {
+    // A list waits for the release inside of the press to tell a click from a drag.
+    void ClickList(ListView& list, POINT at, UINT down = WM_LBUTTONDOWN, WPARAM keys = 0) {
         const HWND window = HandleOf(list);
         if (!CanReach(window))
             return;
-        PostMessageW(window, down, MK_LBUTTON, At(at));
-        PostMessageW(window, WM_LBUTTONUP, 0, At(at));
+        PostMessageW(window, down, MK_LBUTTON | keys, At(at));
+        PostMessageW(window, WM_LBUTTONUP, keys, At(at));
         Settle();
     }
     void Drag(HWND window, int button, const std::vector<POINT>& points) {

@@ -155,6 +155,15 @@ int Win32Sight::SelectedRow(const ListView& list) {
         Ask(HandleOf(list), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
+RowRanges Win32Sight::SelectedRows(const ListView& list) {
+    RowRanges rows;
+    LRESULT row = -1;
+    while ((row = Ask(HandleOf(list), LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >=
+           0)
+        rows.Add(static_cast<int>(row), static_cast<int>(row) + 1);
+    return rows;
+}
+
 int Win32Sight::TopRow(const ListView& list) {
     return static_cast<int>(Ask(HandleOf(list), LVM_GETTOPINDEX));
 }

@@ -29,6 +29,7 @@ class Win32Sight : public ToolkitDriver {
     int RowCount(const toolkit::ListView& list) override;
     std::string Cell(const toolkit::ListView& list, int row, int column) override;
     int SelectedRow(const toolkit::ListView& list) override;
+    toolkit::RowRanges SelectedRows(const toolkit::ListView& list) override;
     int TopRow(const toolkit::ListView& list) override;
     std::string ColumnCaption(const toolkit::ListView& list, int column) override;
     int ColumnPixels(const toolkit::ListView& list, int column) override;

@@ -237,6 +237,10 @@ class MemoryListView : public Peer<toolkit::ListViewPeer> {
         ++shown.growths;
     }
     void SelectRow(int row) override { shown.selectedRow = row; }
+    void ShowSelection() override {
+        shown.selectedRows = static_cast<toolkit::ListView&>(control_).SelectedRows();
+        ++shown.selections;
+    }
     void EnsureVisible(int row) override { shown.visibleRow = row; }
     // The row that was brought into view last is the list's first, below its column headers.
     toolkit::Rect RowOnScreen(int row) override {

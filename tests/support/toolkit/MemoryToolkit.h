@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "toolkit/Form.h"
+#include "toolkit/RowRanges.h"
 #include "toolkit/Toolkit.h"
 
 namespace ordalyn::test {
@@ -48,6 +49,8 @@ struct Shown {
     std::vector<Column> columns;
     std::vector<int> columnPositions;
     int rowCount = 0, selectedRow = -1, visibleRow = -1;
+    toolkit::RowRanges selectedRows;
+    int selections = 0;  // how often others were selected
     int fills = 0;
     int growths = 0;
     int updatesInSight = 0;  // rows that went or came while the list was visible
