@@ -128,6 +128,20 @@ inline constexpr TextId kLogFileName{"5101"};
 inline constexpr TextId kConditionName{"5102"};
 inline constexpr TextId kLanguageFileName{"5103"};
 
+// Taking rows along.
+inline constexpr TextId kSaveRows{"5155"};
+inline constexpr TextId kCopyRows{"5156"};
+inline constexpr TextId kSaveRowsTitle{"5157"};
+inline constexpr TextId kTabSeparated{"5158"};
+inline constexpr TextId kCommaSeparated{"5159"};
+inline constexpr TextId kSavingRows{"5160"};
+inline constexpr TextId kRowsNotSaved{"5161"};
+inline constexpr TextId kDiskFull{"5162"};
+inline constexpr TextId kNoRightToWrite{"5163"};
+inline constexpr TextId kFileInUse{"5164"};
+inline constexpr TextId kIsLogFile{"5165"};
+inline constexpr TextId kOperationName{"5166"};
+
 }  // namespace text_id
 
 }  // namespace ordalyn

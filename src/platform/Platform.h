@@ -66,6 +66,16 @@ class ReadableFile {
     virtual bool Seek(std::uint64_t) { return false; }
 };
 
+// A file that is being written to take the place of another, or to be a new one. Nobody sees it
+// before it does: until then, and when it never does, what was there is there, and nothing else.
+class NewFile {
+  public:
+    virtual ~NewFile() = default;
+    // Both throw FileError; what has been written goes with the object then.
+    virtual void Write(std::string_view bytes) = 0;
+    virtual void TakePlace() = 0;
+};
+
 // What tells a file from one that has been changed or has taken its place. Two are equal when size
 // and times are.
 struct FileStamp {
@@ -121,9 +131,11 @@ class Files {
     virtual std::vector<std::string> List(std::string_view folder, std::string_view pattern) = 0;
     // Nothing when there is no such folder, or it cannot be watched.
     virtual std::unique_ptr<FolderWatch> Watch(std::string_view folder) = 0;
-    // Writes the whole file so that a crash leaves either the old or the new bytes. Throws
-    // FileError.
-    virtual void Replace(std::string_view path, std::string_view bytes) = 0;
+    // A crash leaves either the old or the new bytes. Throws FileError when the file cannot be
+    // replaced, or made where there is none.
+    virtual std::unique_ptr<NewFile> BeginReplacing(std::string_view path) = 0;
+    // The same with all its bytes.
+    void Replace(std::string_view path, std::string_view bytes);
     // Whether this user can write the file, or make it where there is none: neither it nor its
     // folder is protected. One that another program only holds for the moment can be written.
     // Nothing is left behind, and a file that is there is not touched.
@@ -251,7 +263,13 @@ class Dialogs {
         int weight = 400;
         bool italic = false, strikethrough = false, underline = false;
     };
+    struct SaveAnswer {
+        std::string path;
+        int filter = 0;  // which pair of the request's filter was chosen, from 0
+    };
     virtual std::optional<std::string> OpenFile(const OpenRequest& request) = 0;
+    // A name without an extension is given that of the chosen pattern.
+    virtual std::optional<SaveAnswer> SaveFile(const OpenRequest& request) = 0;
     // The 16 custom colours are edited in place, also when the user cancels.
     virtual std::optional<std::uint32_t> ChooseColor(const ColorRequest& request,
                                                      std::uint32_t (&customColors)[16]) = 0;

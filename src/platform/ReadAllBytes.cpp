@@ -22,4 +22,10 @@ std::optional<std::string> ReadAllBytes(Files& files, std::string_view path) {
     return bytes;
 }
 
+void Files::Replace(std::string_view path, std::string_view bytes) {
+    const std::unique_ptr<NewFile> file = BeginReplacing(path);
+    file->Write(bytes);
+    file->TakePlace();
+}
+
 }  // namespace ordalyn::platform

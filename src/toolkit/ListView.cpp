@@ -1,8 +1,7 @@
 #include "toolkit/ListView.h"
 
-#include <limits>
-
 #include <algorithm>
+#include <limits>
 
 #include "base/Errors.h"
 

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "base/Errors.h"
 
@@ -30,6 +31,34 @@ class NativeFile : public platform::ReadableFile {
     std::string path_;
 };
 
+class NativeNewFile : public platform::NewFile {
+  public:
+    explicit NativeNewFile(const std::string& path)
+        : path_(path), file_(std::fopen((path + ".tmp").c_str(), "wb")) {
+        if (file_ == nullptr)
+            throw FileError(path_, 5);
+        std::setvbuf(file_, nullptr, _IONBF, 0);
+    }
+    ~NativeNewFile() override {
+        if (file_ != nullptr)
+            std::fclose(file_);
+    }
+    NativeNewFile(const NativeNewFile&) = delete;
+    NativeNewFile& operator=(const NativeNewFile&) = delete;
+    void Write(std::string_view bytes) override {
+        if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size())
+            throw FileError(path_, 112);
+    }
+    void TakePlace() override {
+        std::fclose(std::exchange(file_, nullptr));
+        std::filesystem::rename(path_ + ".tmp", path_);
+    }
+
+  private:
+    std::string path_;
+    std::FILE* file_;
+};
+
 }  // namespace
 
 std::unique_ptr<platform::ReadableFile> NativeFiles::OpenForReading(std::string_view path) {
@@ -48,8 +77,8 @@ std::vector<std::string> NativeFiles::List(std::string_view, std::string_view) {
     return {};
 }
 
-void NativeFiles::Replace(std::string_view path, std::string_view) {
-    throw FileError(std::string(path), 5);
+std::unique_ptr<platform::NewFile> NativeFiles::BeginReplacing(std::string_view path) {
+    return std::make_unique<NativeNewFile>(std::string(path));
 }
 
 std::optional<platform::FileStamp> NativeFiles::Stamp(std::string_view) {

@@ -1,5 +1,5 @@
 // NativeFiles: the files of whatever system a measurement runs on, without any buffer between.
-// Reading is all it can.
+// Reading and writing a file is all it can.
 #pragma once
 
 #include "platform/Platform.h"
@@ -15,7 +15,7 @@ class NativeFiles : public platform::Files {
     std::unique_ptr<platform::ReadableFile> OpenForReading(std::string_view path) override;
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
-    void Replace(std::string_view path, std::string_view bytes) override;
+    std::unique_ptr<platform::NewFile> BeginReplacing(std::string_view path) override;
     bool CanWrite(std::string_view path) override;
     void MakeFolder(std::string_view path) override;
 };

@@ -20,11 +20,11 @@ BRACKETED_KEYS = {"Chinese (Simplified)", "Japanese"}
 # The texts that the keyboard can choose between at one moment.
 TOGETHER = {
     "menu bar": {101, 250, 141, 161},
-    "file menu": {103, 107, 110},
+    "file menu": {103, 107, 110, 5155},
     "search menu": {251, 252, 4030},
     "view menu": {143, 4021, 145, 4020, 150, 5181},
     "help menu": {162, 163},
-    "context menu": {4022, 4023, 5175, 5176},
+    "context menu": {4022, 4023, 5175, 5176, 5156},
     "find dialog": {253, 254, 255, 252, 1009, 109, 258, 4003, 4004, 4016},
     "filter dialog": {1009},
     "options, layout": {1002, 1006, 1008, 1009, 1010, 1021, 1024, 1025, 1026, 4015, 1051, 1052,

@@ -30,29 +30,62 @@ LOGFONTW ToLogFont(const Dialogs::FontRequest& request) {
     return font;
 }
 
+// The record of the dialogs for files, and the memory that it points at.
+struct FileDialog {
+    explicit FileDialog(const Dialogs::OpenRequest& request)
+        : filter(ToWide(request.filter) + L'\0'),
+          folder(ToWide(request.initialFolder)),
+          title(ToWide(request.title)),
+          chosen(ToWide(request.fileName)) {
+        chosen.resize(std::max(request.bufferSize, chosen.size() + 1));
+        record.lStructSize = request.recordSize < kRecordWithLaterFields
+                                 ? OPENFILENAME_SIZE_VERSION_400W
+                                 : sizeof(OPENFILENAMEW);
+        record.hwndOwner = reinterpret_cast<HWND>(request.owner);
+        record.lpstrFilter = filter.c_str();
+        record.lpstrFile = chosen.data();
+        record.nMaxFile = static_cast<DWORD>(chosen.size());
+        record.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
+        record.lpstrTitle = title.empty() ? nullptr : title.c_str();
+        record.Flags = request.flags;
+    }
+    FileDialog(const FileDialog&) = delete;
+    FileDialog& operator=(const FileDialog&) = delete;
+
+    std::string Chosen() const { return FromWide(chosen.substr(0, chosen.find(L'\0'))); }
+
+    std::wstring filter, folder, title, chosen;
+    OPENFILENAMEW record{};
+};
+
+// "*.txt" of the first pair gives "txt".
+std::wstring FirstExtension(const std::wstring& filter) {
+    const std::size_t pattern = filter.find(L'\0');
+    const std::size_t dot = pattern == std::wstring::npos ? pattern : filter.find(L'.', pattern);
+    if (dot == std::wstring::npos)
+        return {};
+    return filter.substr(dot + 1,
+                         filter.find_first_of(std::wstring_view(L"\0;", 2), dot) - dot - 1);
+}
+
 }  // namespace
 
 std::optional<std::string> Win32Dialogs::OpenFile(const OpenRequest& request) {
-    const std::wstring filter = ToWide(request.filter) + L'\0';
-    const std::wstring folder = ToWide(request.initialFolder);
-    const std::wstring title = ToWide(request.title);
-    std::wstring chosen = ToWide(request.fileName);
-    chosen.resize(std::max(request.bufferSize, chosen.size() + 1));
-
-    OPENFILENAMEW record{};
-    record.lStructSize = request.recordSize < kRecordWithLaterFields
-                             ? OPENFILENAME_SIZE_VERSION_400W
-                             : sizeof(OPENFILENAMEW);
-    record.hwndOwner = reinterpret_cast<HWND>(request.owner);
-    record.lpstrFilter = filter.c_str();
-    record.lpstrFile = chosen.data();
-    record.nMaxFile = static_cast<DWORD>(chosen.size());
-    record.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
-    record.lpstrTitle = title.empty() ? nullptr : title.c_str();
-    record.Flags = request.flags;
-    if (!GetOpenFileNameW(&record))
+    FileDialog dialog(request);
+    if (!GetOpenFileNameW(&dialog.record))
         return std::nullopt;
-    return FromWide(chosen.substr(0, chosen.find(L'\0')));
+    return dialog.Chosen();
+}
+
+std::optional<Dialogs::SaveAnswer> Win32Dialogs::SaveFile(const OpenRequest& request) {
+    FileDialog dialog(request);
+    // Any one makes the dialog use that of the chosen pattern.
+    const std::wstring extension = FirstExtension(dialog.filter);
+    dialog.record.lpstrDefExt = extension.c_str();
+    dialog.record.nFilterIndex = 1;
+    if (!GetSaveFileNameW(&dialog.record))
+        return std::nullopt;
+    return SaveAnswer{dialog.Chosen(), static_cast<int>(dialog.record.nFilterIndex) - 1};
 }
 
 std::optional<std::uint32_t> Win32Dialogs::ChooseColor(const ColorRequest& request,

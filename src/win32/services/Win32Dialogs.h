@@ -8,6 +8,7 @@ namespace ordalyn::win32 {
 class Win32Dialogs : public platform::Dialogs {
   public:
     std::optional<std::string> OpenFile(const OpenRequest& request) override;
+    std::optional<SaveAnswer> SaveFile(const OpenRequest& request) override;
     std::optional<std::uint32_t> ChooseColor(const ColorRequest& request,
                                              std::uint32_t (&customColors)[16]) override;
     std::optional<FontAnswer> ChooseFont(const FontRequest& request) override;

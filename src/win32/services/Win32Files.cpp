@@ -79,12 +79,10 @@ void WriteAll(HANDLE file, std::string_view bytes, const std::string& path) {
             throw FileError(path, GetLastError());
         bytes.remove_prefix(count);
     }
-    if (!FlushFileBuffers(file))
-        throw FileError(path, GetLastError());
 }
 
 // A new file beside the one that it is to replace. Deleted unless it has taken that one's place.
-class Replacement {
+class Replacement : public NewFile {
   public:
     Replacement(const std::wstring& target, const std::string& path, DWORD attributes)
         : target_(target), path_(path) {
@@ -99,7 +97,7 @@ class Replacement {
                 throw FileError(path, error);
         }
     }
-    ~Replacement() {
+    ~Replacement() override {
         handle_.Reset();
         if (!placed_)
             DeleteFileW(name_.c_str());
@@ -107,9 +105,11 @@ class Replacement {
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
-    void Write(std::string_view bytes) { WriteAll(handle_.Get(), bytes, path_); }
+    void Write(std::string_view bytes) override { WriteAll(handle_.Get(), bytes, path_); }
 
-    void TakePlace() {
+    void TakePlace() override {
+        if (!FlushFileBuffers(handle_.Get()))
+            throw FileError(path_, GetLastError());
         handle_.Reset();
         CopyRights();
         // Moving is one step: whoever is killed leaves the old file or the new one. An old Windows
@@ -266,14 +266,12 @@ std::vector<std::string> Win32Files::List(std::string_view folder, std::string_v
     return names;
 }
 
-void Win32Files::Replace(std::string_view path, std::string_view bytes) {
+std::unique_ptr<NewFile> Win32Files::BeginReplacing(std::string_view path) {
     const std::string name(path);
     const std::wstring target = ToFullPath(path);
     if (target.empty())
         throw FileError(name, ERROR_PATH_NOT_FOUND);
-    Replacement replacement(target, name, AttributesOfReplaceable(target, name));
-    replacement.Write(bytes);
-    replacement.TakePlace();
+    return std::make_unique<Replacement>(target, name, AttributesOfReplaceable(target, name));
 }
 
 bool Win32Files::CanWrite(std::string_view path) {

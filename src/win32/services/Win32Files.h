@@ -14,7 +14,7 @@ class Win32Files : public platform::Files {
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
     std::unique_ptr<platform::FolderWatch> Watch(std::string_view folder) override;
-    void Replace(std::string_view path, std::string_view bytes) override;
+    std::unique_ptr<platform::NewFile> BeginReplacing(std::string_view path) override;
     bool CanWrite(std::string_view path) override;
     void MakeFolder(std::string_view path) override;
 };

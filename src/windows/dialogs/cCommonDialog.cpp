@@ -44,6 +44,10 @@ constexpr std::uint32_t kOverwritePrompt = 0x2, kHideReadOnly = 0x4, kNoChangeDi
 constexpr std::uint32_t kOpenFlags = kOverwritePrompt | kHideReadOnly | kNoChangeDir |
                                      kExtensionDifferent | kExplorer | kEnableSizing |
                                      kForceShowHidden;
+// A folder that is there, and the user can make files in.
+constexpr std::uint32_t kPathMustExist = 0x800, kNoReadOnlyReturn = 0x8000;
+constexpr std::uint32_t kSaveFlags = kOverwritePrompt | kHideReadOnly | kNoChangeDir |
+                                     kPathMustExist | kNoReadOnlyReturn | kExplorer | kEnableSizing;
 constexpr std::uint32_t kRgbInit = 0x1, kSolidColor = 0x80, kAnyColor = 0x100;
 constexpr std::uint32_t kScreenFonts = 0x1, kInitToLogFont = 0x40, kEffects = 0x100,
                         kLimitSize = 0x2000, kForceFontExist = 0x10000;
@@ -74,6 +78,11 @@ cCommonDialog::cCommonDialog(const platform::Services& services, const mAppCommo
                              const cRegistry& registry, TextSource text)
     : dialogs_(services.dialogs), common_(common), registry_(registry), text_(std::move(text)) {}
 
+std::size_t cCommonDialog::RecordSize() const {
+    return dialogs_.LibraryMajorVersion() >= kFirstVersionWithLongRecord ? kLongRecord
+                                                                         : kShortRecord;
+}
+
 void cCommonDialog::ShowOpenDialog(platform::WindowHandle lngOwnerFormHwnd,
                                    std::string_view strInitDir, std::string_view strFileName,
                                    std::int32_t lngFilter, std::string_view strTitle,
@@ -89,8 +98,7 @@ void cCommonDialog::ShowOpenDialog(platform::WindowHandle lngOwnerFormHwnd,
     request.title = strTitle.empty() ? text_(text_id::kOpenTitle) : std::string(strTitle);
     request.flags = kOpenFlags | (blnFileMustExist ? kFileMustExist : 0);
     request.bufferSize = CharacterCount(strFileName) + kRoomForPath;
-    request.recordSize =
-        dialogs_.LibraryMajorVersion() >= kFirstVersionWithLongRecord ? kLongRecord : kShortRecord;
+    request.recordSize = RecordSize();
     std::optional<std::string> chosen = dialogs_.OpenFile(request);
     Confirmed = chosen.has_value();
     if (!chosen)
@@ -98,6 +106,28 @@ void cCommonDialog::ShowOpenDialog(platform::WindowHandle lngOwnerFormHwnd,
     std::string path = UpToNul(*std::move(chosen));
     if (!path.empty())
         FileName = std::move(path);
+    lastFolder_ = mAppCommon::FolderPart(FileName);
+}
+
+void cCommonDialog::ShowSaveDialog(platform::WindowHandle lngOwnerFormHwnd,
+                                   std::string_view strFileName, std::string_view strTitle,
+                                   std::string_view filter) {
+    Confirmed = false;
+    platform::Dialogs::OpenRequest request;
+    request.owner = lngOwnerFormHwnd;
+    request.filter = filter;
+    request.fileName = strFileName;
+    request.initialFolder = lastFolder_;
+    request.title = strTitle;
+    request.flags = kSaveFlags;
+    request.bufferSize = CharacterCount(strFileName) + kRoomForPath;
+    request.recordSize = RecordSize();
+    std::optional<platform::Dialogs::SaveAnswer> chosen = dialogs_.SaveFile(request);
+    Confirmed = chosen.has_value() && !UpToNul(chosen->path).empty();
+    if (!Confirmed)
+        return;
+    FileName = UpToNul(std::move(chosen->path));
+    FilterIndex = chosen->filter;
     lastFolder_ = mAppCommon::FolderPart(FileName);
 }
 

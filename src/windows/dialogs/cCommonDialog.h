@@ -41,6 +41,7 @@ class cCommonDialog {
     std::int32_t FontStyle = 0;
     std::int32_t FontSize = 8;  // points
     std::string FileName;       // full path
+    int FilterIndex = 0;        // of the save dialog
     std::int32_t Color = 0;     // 0x00BBGGRR
     bool Confirmed = false;     // the last dialog was closed with OK
 
@@ -49,6 +50,11 @@ class cCommonDialog {
     void ShowOpenDialog(platform::WindowHandle lngOwnerFormHwnd, std::string_view strInitDir = {},
                         std::string_view strFileName = {}, std::int32_t lngFilter = kAllFiles,
                         std::string_view strTitle = {}, bool blnFileMustExist = false);
+    // For a file to be written; the question before one that exists is overwritten is the dialog's.
+    // `filter` is as the system's dialogs take it; which of its pairs was chosen is left in
+    // FilterIndex, from 0.
+    void ShowSaveDialog(platform::WindowHandle lngOwnerFormHwnd, std::string_view strFileName,
+                        std::string_view strTitle, std::string_view filter);
     // A negative initial colour stands for a system colour. `strRegName` is that one's name in the
     // user's settings; the dialog then starts with the colour that they hold.
     void ShowColorDialog(platform::WindowHandle lngOwnerFormHwnd, std::int32_t lngIntialColor,
@@ -58,6 +64,7 @@ class cCommonDialog {
     void ShowFontDialog(platform::WindowHandle lngOwnerFormHwnd);
 
   private:
+    std::size_t RecordSize() const;
     std::int32_t RegisteredColor(std::string_view name, std::int32_t otherwise) const;
 
     platform::Dialogs& dialogs_;

@@ -61,6 +61,18 @@ void LogFileSet::BuildLogFileList() {
     });
 }
 
+std::vector<std::string> LogFileSet::LogFiles() const {
+    std::vector<std::string> paths;
+    Attempt([&] {
+        const RotatedLogs logs(shared_.services.files, ReadRotationSettings(), "");
+        paths.push_back(logs.LogFolder() + logs.LiveLogName());
+        for (const std::string& name : logs.Items())
+            if (!name.empty())
+                paths.push_back(logs.LogFolder() + name);
+    });
+    return paths;
+}
+
 void LogFileSet::SelectWithoutReading(int index) {
     const toolkit::ScopedFlag ignore(ignoreComboClick_);
     lastFilesIndex_ = kHandleNext;

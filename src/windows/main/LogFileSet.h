@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "log/RotatedLogs.h"
 #include "toolkit/Form.h"
@@ -38,6 +39,9 @@ class LogFileSet {
     const std::string& LogFolder() const { return logFolder_; }
     // Whether what is shown is one log that can grow: not all files, nor one that was rotated.
     bool ShowsGrowingLog() const;
+    // Full paths of the live log and of what can be told to be one of its siblings, as the folder
+    // is now.
+    std::vector<std::string> LogFiles() const;
     // The interface language is another one.
     void LanguageChanged();
 

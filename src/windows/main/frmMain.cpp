@@ -52,6 +52,7 @@ frmMain::frmMain(SharedObjects& shared)
       reading_(shared, *this, entries_, panels_, progress_, title_),
       files_(shared, {*this, cboFiles, SourceListView, Menu("mnuViewRefresh")}, reading_, title_),
       following_(shared, {*this, cboDate, cboFiles, Menu("mnuViewFollow")}, reading_, files_),
+      rows_({shared, *this, SourceListView, entries_, operations_, reading_, files_, progress_}),
       layout_({*this, cboDate, Get<toolkit::PictureBox>("picSpliterContainer"),
                Get<toolkit::Frame>("Frame1"), SourceListView, TargetListView, StatusBar1,
                Menu("mnuViewStatusBar"), Menu("mnuViewTwoPanels"), Menu("mnuViewVerticalPanels")},
@@ -157,6 +158,8 @@ void frmMain::WireMenus() {
     on("mnuContextCopyTarget", [this] { copy_.CopyTarget(); });
     on("mnuContextShowSource", [this] { fileManager_.ShowSource(); });
     on("mnuContextShowTarget", [this] { fileManager_.ShowTarget(); });
+    on("mnuContextCopyRows", [this] { rows_.CopyRows(); });
+    on("mnuFileSaveRows", [this] { rows_.SaveRows(); });
 }
 
 void frmMain::WireParts() {

@@ -23,6 +23,7 @@
 #include "windows/main/MainWindowLayout.h"
 #include "windows/main/PanelColumns.h"
 #include "windows/main/RecentFilesMenu.h"
+#include "windows/main/RowCommands.h"
 #include "windows/panels/DayPanels.h"
 #include "windows/progress/ProgressWindow.h"
 
@@ -88,6 +89,7 @@ class frmMain : public toolkit::Form {
     LogFileReading reading_;
     LogFileSet files_;
     LogFollowing following_;
+    RowCommands rows_;
     MainWindowLayout layout_;
     RecentFilesMenu recentFilesMenu_;
     SettingsFileDialog settingsFileDialog_;

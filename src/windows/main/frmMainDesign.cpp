@@ -48,6 +48,7 @@ constexpr toolkit::ControlDesign kControls[] = {
 };
 
 constexpr Modifiers kControl{.control = true};
+constexpr Modifiers kControlShift{.shift = true, .control = true};
 
 // Captions are string ids until the interface language has given the texts.
 constexpr toolkit::MenuDesign kMenus[] = {
@@ -57,6 +58,8 @@ constexpr toolkit::MenuDesign kMenus[] = {
     {2, "mnuFileRecentFiles", text_id::kNoRecentFiles.tag},
     {1, "mnuFileSeparator", "-"},
     {1, "mnuFileExit", text_id::kExit.tag, {}, "Alt+F4"},
+    {1, "mnuFileAnswersSeparator", "-"},
+    {1, "mnuFileSaveRows", text_id::kSaveRows.tag, {'S', kControl}},
     {0, "mnuSearch", text_id::kSearchMenu.tag},
     {1, "mnuSearchFind", text_id::kFind.tag, {'F', kControl}},
     {1, "mnuSearchFindNext", text_id::kFindNext.tag, {key::F3, {}}},
@@ -81,6 +84,7 @@ constexpr toolkit::MenuDesign kMenus[] = {
     {1, "mnuContextCopySource", text_id::kCopySource.tag, {}, "Ctrl+C"},
     {1, "mnuContextCopyTarget", text_id::kCopyTarget.tag, {}, "Ctrl+Alt+C"},
     {1, "mnuContextAnswersSeparator", "-"},
+    {1, "mnuContextCopyRows", text_id::kCopyRows.tag, {'R', kControlShift}},
     {1, "mnuContextShowSource", text_id::kShowSource.tag, {}},
     {1, "mnuContextShowTarget", text_id::kShowTarget.tag, {}},
 };

@@ -175,6 +175,21 @@ TEST_F(DialogsOnWindows, AConfirmedFileDialogAnswersTheFullPath) {
     }
 }
 
+TEST_F(DialogsOnWindows, ASaveDialogAnswersAPathThatNeedNotExist) {
+    auto request = OpenRequest();
+    request.filter = std::string("Text\0*.txt\0Values\0*.csv\0", 24);
+    request.fileName = "rows";
+    {
+        const Presser confirm(IDOK);
+        const auto answer = Dialogs().SaveFile(request);
+        ASSERT_TRUE(answer.has_value());
+        EXPECT_EQ(answer->path, System().Path("rows.txt"));
+        EXPECT_EQ(answer->filter, 0);
+    }
+    const Presser cancel(IDCANCEL);
+    EXPECT_FALSE(Dialogs().SaveFile(request).has_value());
+}
+
 TEST_F(DialogsOnWindows, AColourDialogAnswersItsInitialColourWhenConfirmed) {
     platform::Dialogs::ColorRequest request;
     request.initial = 0x00804020;

@@ -247,6 +247,28 @@ TEST_P(FilesContract, AFailedReplaceLeavesTheOldBytesAndNothingElse) {
     EXPECT_THAT(Files().List(System().Folder(), "*"), ElementsAre("a.ini"));
 }
 
+TEST_P(FilesContract, ANewFileIsNotSeenBeforeItTakesThePlace) {
+    System().SetBytes("a.txt", "old");
+    const auto file = Files().BeginReplacing(System().Path("a.txt"));
+    file->Write("new ");
+    file->Write("bytes");
+    EXPECT_EQ(System().Bytes("a.txt"), "old");
+    file->TakePlace();
+    EXPECT_EQ(System().Bytes("a.txt"), "new bytes");
+    EXPECT_THAT(Files().List(System().Folder(), "*"), ElementsAre("a.txt"));
+}
+
+TEST_P(FilesContract, ANewFileThatNeverTakesThePlaceLeavesNothing) {
+    System().SetBytes("a.txt", "old");
+    {
+        const auto file = Files().BeginReplacing(System().Path("a.txt"));
+        file->Write("half");
+        Files().BeginReplacing(System().Path("b.txt"))->Write("half");
+    }
+    EXPECT_EQ(System().Bytes("a.txt"), "old");
+    EXPECT_THAT(Files().List(System().Folder(), "*"), ElementsAre("a.txt"));
+}
+
 TEST_P(FilesContract, ReplaceCannotWriteIntoAMissingFolderOrOverAFolder) {
     System().AddFolder("folder");
     EXPECT_THROW(Files().Replace(System().Path("none\\a.ini"), "x"), FileError);

@@ -233,20 +233,45 @@ std::vector<std::string> MemoryFiles::List(std::string_view folder, std::string_
     return names;
 }
 
-void MemoryFiles::Replace(std::string_view path, std::string_view bytes) {
+// Where the file can be written is looked at when it is begun and when it takes its place.
+class MemoryFiles::Writer : public platform::NewFile {
+  public:
+    Writer(MemoryFiles& files, std::string path) : files_(files), path_(std::move(path)) {
+        files_.RequireReplaceable(path_);
+    }
+    void Write(std::string_view bytes) override {
+        bytes_ += bytes;
+        if (files_.roomOnDisk && bytes_.size() > *files_.roomOnDisk)
+            throw FileError(path_, kDiskFull);
+    }
+    void TakePlace() override {
+        files_.RequireReplaceable(path_);
+        files_.Set(path_, bytes_);
+    }
+
+  private:
+    MemoryFiles& files_;
+    std::string path_;
+    std::string bytes_;
+};
+
+std::unique_ptr<platform::NewFile> MemoryFiles::BeginReplacing(std::string_view path) {
+    return std::make_unique<Writer>(*this, std::string(path));
+}
+
+void MemoryFiles::RequireReplaceable(const std::string& path) const {
     if (path.empty())
         throw FileError("", kPathNotFound);
     if (IsFolder(path))
-        throw FileError(std::string(path), kAccessDenied);
+        throw FileError(path, kAccessDenied);
     const std::string fullPath = FullPath(path);
     if (!IsFolder(SplitPath(fullPath).folder))
-        throw FileError(std::string(path), kPathNotFound);
+        throw FileError(path, kPathNotFound);
     const File* file = Find(path);
     if (file != nullptr && file->locked)
-        throw FileError(std::string(path), kSharingViolation);
+        throw FileError(path, kSharingViolation);
     if ((file != nullptr && file->readOnly) || IsProtected(SplitPath(fullPath).folder))
-        throw FileError(std::string(path), kAccessDenied);
-    Set(path, bytes);
+        throw FileError(path, kAccessDenied);
 }
 
 bool MemoryFiles::CanWrite(std::string_view path) {

@@ -20,7 +20,7 @@ class MemoryFiles : public platform::Files {
   public:
     // The system's error numbers that tests meet in FileError::Code().
     static constexpr unsigned long kFileNotFound = 2, kPathNotFound = 3, kAccessDenied = 5,
-                                   kSharingViolation = 32, kReadFault = 30;
+                                   kSharingViolation = 32, kReadFault = 30, kDiskFull = 112;
 
     MemoryFiles();
     platform::DriveKind DriveOf(std::string_view path) override;
@@ -30,7 +30,7 @@ class MemoryFiles : public platform::Files {
     bool Exists(std::string_view path) override;
     std::vector<std::string> List(std::string_view folder, std::string_view pattern) override;
     std::unique_ptr<platform::FolderWatch> Watch(std::string_view folder) override;
-    void Replace(std::string_view path, std::string_view bytes) override;
+    std::unique_ptr<platform::NewFile> BeginReplacing(std::string_view path) override;
     bool CanWrite(std::string_view path) override;
     void MakeFolder(std::string_view path) override;
 
@@ -64,6 +64,8 @@ class MemoryFiles : public platform::Files {
     bool unwatchable = false;
     // Each path that was asked for, opened or listed: all that may take the system a while.
     std::vector<std::string> looks;
+    // A new file that is larger cannot be written.
+    std::optional<std::size_t> roomOnDisk;
     // Called with the full path just before a file is opened, so that a test can change it between
     // two openings.
     std::function<void(const std::string& path)> onOpen;
@@ -85,11 +87,13 @@ class MemoryFiles : public platform::Files {
     };
     class Reader;
     class FolderWatch;
+    class Writer;
 
     static std::string Key(std::string_view fullPath);
     File* Find(std::string_view path);
     const File* Find(std::string_view path) const;
     bool IsFolder(std::string_view path) const;
+    void RequireReplaceable(const std::string& path) const;
     bool IsProtected(std::string_view fullFolder) const;
     void FolderChanged(std::string_view path) { ++changes_[Key(FolderOf(path))]; }
     std::string FolderOf(std::string_view path) const;

@@ -162,6 +162,11 @@ std::optional<std::string> MemoryDialogs::OpenFile(const OpenRequest& request) {
     return onOpenFile ? onOpenFile(request) : std::nullopt;
 }
 
+std::optional<platform::Dialogs::SaveAnswer> MemoryDialogs::SaveFile(const OpenRequest& request) {
+    saveRequests.push_back(request);
+    return onSaveFile ? onSaveFile(request) : std::nullopt;
+}
+
 std::optional<std::uint32_t> MemoryDialogs::ChooseColor(const ColorRequest& request,
                                                         std::uint32_t (&customColors)[16]) {
     colorRequests.push_back(request);

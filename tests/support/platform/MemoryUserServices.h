@@ -66,15 +66,18 @@ class MemoryClipboard : public platform::Clipboard {
 class MemoryDialogs : public platform::Dialogs {
   public:
     std::function<std::optional<std::string>(const OpenRequest&)> onOpenFile;
+    std::function<std::optional<SaveAnswer>(const OpenRequest&)> onSaveFile;
     std::function<std::optional<std::uint32_t>(const ColorRequest&, std::uint32_t (&)[16])>
         onChooseColor;
     std::function<std::optional<FontAnswer>(const FontRequest&)> onChooseFont;
     int libraryMajorVersion = 6;
     std::vector<OpenRequest> openRequests;
+    std::vector<OpenRequest> saveRequests;
     std::vector<ColorRequest> colorRequests;
     std::vector<FontRequest> fontRequests;
 
     std::optional<std::string> OpenFile(const OpenRequest& request) override;
+    std::optional<SaveAnswer> SaveFile(const OpenRequest& request) override;
     std::optional<std::uint32_t> ChooseColor(const ColorRequest& request,
                                              std::uint32_t (&customColors)[16]) override;
     std::optional<FontAnswer> ChooseFont(const FontRequest& request) override;

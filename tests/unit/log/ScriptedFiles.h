@@ -75,8 +75,8 @@ class ScriptedFiles : public platform::Files {
         });
         return names;
     }
-    void Replace(std::string_view path, std::string_view bytes) override {
-        Put(std::string(path), std::string(bytes));
+    std::unique_ptr<platform::NewFile> BeginReplacing(std::string_view path) override {
+        throw FileError(std::string(path), 5);
     }
     bool CanWrite(std::string_view) override { return true; }
     void MakeFolder(std::string_view path) override { AddFolder(std::string(path)); }

@@ -123,7 +123,8 @@ std::string Menus(Speaker& speaker) {
     Lines lines;
     AddMenu(lines, "", MemoryToolkit::MenusOf(speaker.Main()));
     for (const auto& item : speaker.Main().Menu("mnuContext").Items())
-        lines.Add(item->Caption() + " [" + item->KeyHint() + "]");
+        if (!item->IsSeparator())
+            lines.Add(item->Caption() + " [" + item->KeyText() + "]");
     return lines.All();
 }
 
@@ -168,6 +169,15 @@ std::string Filter(Speaker& speaker) {
     return speaker.Status().PanelText(3);
 }
 
+std::string SavingRows(Speaker& speaker) {
+    ProgressWindow progress(speaker.tools, speaker.Main(), speaker.Shared().FormTexts(), [] {});
+    progress.PrepareCompact();
+    progress.ShowProgress(speaker.Text(text_id::kSavingRows), 1000);
+    std::string shown = WindowLines(*progress.Window());
+    progress.HideProgress();
+    return shown;
+}
+
 std::string Progress(Speaker& speaker) {
     ProgressWindow progress(speaker.tools, speaker.Main(), speaker.Shared().FormTexts(), [] {});
     progress.PrepareTall("totalcmd.1.log");
@@ -210,6 +220,70 @@ std::string SettingsNotKept(Speaker& speaker) {
     other.system.files.FailWriting("C:\\Ordalyn\\Ordalyn.ini");
     other.Main().UserClosed();
     return other.LastMessage();
+}
+
+constexpr const char* kSaved = "D:\\Archiv\\rows.txt";
+
+// What becomes of the rows when they are saved as that file.
+std::string RowsSavedAs(Speaker& speaker, const std::string& path) {
+    speaker.system.dialogs.onSaveFile = [path](const auto&) {
+        return platform::Dialogs::SaveAnswer{path, 0};
+    };
+    const std::size_t before = speaker.tools.messages.size();
+    speaker.Choose("mnuFileSaveRows");
+    return speaker.tools.messages.size() > before ? speaker.LastMessage() : "";
+}
+
+std::string DiskIsFull(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.Start();
+    other.system.files.AddFolder("D:\\Archiv");
+    other.system.files.roomOnDisk = 10;
+    return RowsSavedAs(other, kSaved);
+}
+
+std::string FolderIsProtected(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.Start();
+    other.system.files.AddFolder("D:\\Archiv");
+    other.system.files.ProtectFolder("D:\\Archiv");
+    return RowsSavedAs(other, kSaved);
+}
+
+std::string FileIsInUse(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.Start();
+    other.system.files.Set(kSaved, "");
+    other.system.files.Lock(kSaved);
+    return RowsSavedAs(other, kSaved);
+}
+
+std::string RowsOverTheLog(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.Start();
+    return RowsSavedAs(other, "C:\\logs\\tc.log");
+}
+
+std::string SaveDialog(Speaker& speaker) {
+    RowsSavedAs(speaker, "");
+    const auto& requests = speaker.system.dialogs.saveRequests;
+    if (requests.empty())
+        return "";
+    Lines lines;
+    lines.Add(requests.back().title);
+    for (const std::string& part : Split(requests.back().filter, '\0'))
+        if (!part.starts_with("*"))
+            lines.Add(part);
+    return lines.All();
+}
+
+std::string FirstLineOfSavedRows(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    other.Start();
+    other.system.files.AddFolder("D:\\Archiv");
+    RowsSavedAs(other, kSaved);
+    const std::string text = other.system.files.Get(kSaved).value_or("");
+    return text.substr(0, text.find('\r'));
 }
 
 std::string MissingRecentFile(Speaker& speaker) {
@@ -291,6 +365,12 @@ const std::vector<Situation>& Situations() {
          "The settings cannot be written",
          {"C:\\Ordalyn\\Ordalyn.ini"},
          SettingsNotKept},
+        {Kind::Message, "There is no room for the rows", {kSaved}, DiskIsFull},
+        {Kind::Message, "Rows cannot be saved in that folder", {kSaved}, FolderIsProtected},
+        {Kind::Message, "Rows are saved as a file that is in use", {kSaved}, FileIsInUse},
+        {Kind::Message, "Rows are saved over a log", {"C:\\logs\\tc.log"}, RowsOverTheLog},
+        {Kind::Title, "The dialog that saves rows", {"(*.txt)", "(*.csv)"}, SaveDialog},
+        {Kind::Title, "The first line of saved rows", {}, FirstLineOfSavedRows},
         {Kind::Message, "Before a list is cleared or a read is left", {}, ClearRecentFiles},
         {Kind::Message, "A recent file is gone", {kGone}, MissingRecentFile},
         {Kind::Message, "Nothing is found", {"\"" + std::string(kSought) + "\""}, NothingFound},
@@ -314,6 +394,7 @@ const std::vector<Situation>& Situations() {
          PathOfAPlugin},
         {Kind::Count, "Rows", {"1", "2", "5", "21"}, Counts},
         {Kind::Window, "While logs are read", {"totalcmd.1.log"}, Progress},
+        {Kind::Window, "While rows are saved", {}, SavingRows},
         {Kind::Window, "The menus", {"[Ctrl+C]", "[F3]"}, Menus},
         {Kind::Window, "The main window's lists and columns", {}, MainWindow},
         {Kind::Window,

@@ -50,6 +50,33 @@ class CommonDialog : public testing::Test {
                          }};
 };
 
+TEST_F(CommonDialog, SavePassesWhatTheCallerSaysAndStartsInTheLastFolder) {
+    Choose("D:\\logs\\a.log");
+    dialog.ShowOpenDialog(kOwner);
+    dialog.ShowSaveDialog(kOwner, "rows", "Save", "Text\0*.txt\0"sv);
+    const Dialogs::OpenRequest& request = system.dialogs.saveRequests.back();
+    EXPECT_EQ(request.owner, kOwner);
+    EXPECT_EQ(request.initialFolder, "D:\\logs\\");
+    EXPECT_EQ(request.fileName, "rows");
+    EXPECT_EQ(request.title, "Save");
+    EXPECT_EQ(request.filter, "Text\0*.txt\0"sv);
+    EXPECT_EQ(request.flags, 0x88880EU);
+    EXPECT_EQ(request.recordSize, 88U);
+    EXPECT_FALSE(dialog.Confirmed);
+    EXPECT_EQ(dialog.FileName, "D:\\logs\\a.log");
+}
+
+TEST_F(CommonDialog, SaveLeavesPathAndChosenType) {
+    system.dialogs.onSaveFile = [](const auto&) {
+        return Dialogs::SaveAnswer{"E:\\out\\rows.csv\0more"s, 1};
+    };
+    dialog.ShowSaveDialog(kOwner, "", "", "");
+    EXPECT_TRUE(dialog.Confirmed);
+    EXPECT_EQ(dialog.FileName, "E:\\out\\rows.csv");
+    EXPECT_EQ(dialog.FilterIndex, 1);
+    EXPECT_EQ(Opened(0).initialFolder, "E:\\out\\");
+}
+
 TEST_F(CommonDialog, OpenPassesWhatTheCallerSays) {
     dialog.ShowOpenDialog(kOwner, "C:\\tc\\", "Wincmd.ini", 1, "Where is it?", true);
     const Dialogs::OpenRequest& request = system.dialogs.openRequests.back();
