@@ -112,6 +112,12 @@ class Photographer:
         self.app.keys("Ctrl+Tab")
         self.take(options, "options-language")
         self.close(options)
+        # All that went wrong, with several rows selected.
+        main.dates.choose(main.dates.items[0])
+        self.app.keys("Ctrl+E")
+        main.source.click_row(1)
+        self.app.keys("Shift+Down", "Shift+Down")
+        self.take(main, "failed")
 
     def close(self, window):
         self.app.keys("Escape")

@@ -142,6 +142,10 @@ inline constexpr TextId kFileInUse{"5164"};
 inline constexpr TextId kIsLogFile{"5165"};
 inline constexpr TextId kOperationName{"5166"};
 
+// What went wrong.
+inline constexpr TextId kFailedOnly{"5167"};
+inline constexpr TextId kFailedOperations{"5168"};
+
 }  // namespace text_id
 
 }  // namespace ordalyn

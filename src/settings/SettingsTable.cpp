@@ -58,6 +58,8 @@ constexpr Setting kSettings[] = {
      MainWindow},
     {"SkipMalformedLines", kOrdalynSection, Flag, &V::SkipMalformedLines, "0",
      "lines that no log has are passed over and counted, instead of ending the read", Nobody},
+    {"FailedColor", kOrdalynSection, Color, &V::FailedColor, "-1",
+     "text colour of failed operations; -1 a red that can be read on the background", Nobody},
     {"FollowLog", kOrdalynSection, Flag, &V::FollowLog, "0",
      "what is added to the log appears by itself", MainWindow},
 };

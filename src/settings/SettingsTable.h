@@ -22,6 +22,7 @@ struct SettingsValues {
     std::int32_t TwoPanels = 0;
     std::int32_t ForegroundColor = 0;
     std::int32_t BackgroundColor = 0;
+    std::int32_t FailedColor = 0;
     std::string FontName;
     std::int32_t FontScript = 0;
     std::int32_t FontSize = 0;

@@ -167,6 +167,16 @@ Rect ListView::RowOnScreen(int row) const {
     return peer_->RowOnScreen(row);
 }
 
+void ListView::SetMarkColor(Color color) {
+    markColor_ = color;
+    peer_->SetMarkColor(color);
+}
+
+bool ListView::IsMarked(int row) const {
+    RequireRow(row);
+    return source_->IsMarked((*tags_)[static_cast<std::size_t>(row)]);
+}
+
 void ListView::SetGridLines(bool shown) {
     gridLines_ = shown;
     peer_->SetGridLines(shown);

@@ -12,6 +12,9 @@
 
 namespace ordalyn::toolkit {
 
+// A mark's colour that follows the background.
+inline constexpr Color kReadableRed = -1;
+
 // Where the texts of rows come from. A row is known by its tag; a column shows one of the source's
 // fields. The text stays valid as long as the source lives. Nothing throws: a tag that the source
 // does not know has empty texts.
@@ -19,6 +22,8 @@ class RowSource {
   public:
     virtual ~RowSource() = default;
     virtual std::string_view Text(std::int32_t tag, int field) const = 0;
+    // Whether the row is one of those that have a colour of their own.
+    virtual bool IsMarked(std::int32_t /*tag*/) const { return false; }
 };
 
 // What the user does with a row, by mouse or keyboard.
@@ -86,6 +91,11 @@ class ListView : public Control {
     Rect RowOnScreen(int row) const;  // what can be seen of it
     void SetGridLines(bool shown);
     bool GridLines() const { return gridLines_; }
+    // The text colour of the marked rows; kReadableRed as long as none was chosen. With high
+    // contrast, and while they are selected, they look like the others.
+    void SetMarkColor(Color color);
+    Color MarkColor() const { return markColor_; }
+    bool IsMarked(int row) const;
     void FlattenColumnHeaders() { peer_->FlattenColumnHeaders(); }
 
     Event<int> ItemClick;
@@ -117,6 +127,7 @@ class ListView : public Control {
     int anchor_ = -1;  // where Shift selects from
     bool multiSelect_ = false;
     bool gridLines_ = false;
+    Color markColor_ = kReadableRed;
 };
 
 }  // namespace ordalyn::toolkit

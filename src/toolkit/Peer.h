@@ -98,6 +98,7 @@ class ListViewPeer : public ControlPeer {
     // The part of the row that can be seen, from the screen's top left corner.
     virtual Rect RowOnScreen(int row) = 0;
     virtual void SetGridLines(bool shown) = 0;
+    virtual void SetMarkColor(Color color) = 0;
     // Headers that do not look like push buttons and cannot be clicked.
     virtual void FlattenColumnHeaders() = 0;
 };

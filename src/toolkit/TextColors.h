@@ -24,4 +24,11 @@ constexpr TextColors ReadableColors(const TextColors& wanted, bool highContrast)
     return {kWindowText, kWindowBackground};
 }
 
+// How much two colours 0x00BBGGRR differ in brightness, from 1 to 21, as the guidelines for
+// accessible content measure it.
+double Contrast(Color a, Color b);
+
+// A dark red, made as much lighter as it takes to be read on that background, a colour 0x00BBGGRR.
+Color RedOn(Color background);
+
 }  // namespace ordalyn::toolkit

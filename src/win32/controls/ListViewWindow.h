@@ -31,6 +31,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void EnsureVisible(int row) override;
     toolkit::Rect RowOnScreen(int row) override;
     void SetGridLines(bool shown) override;
+    void SetMarkColor(toolkit::Color color) override;
     void FlattenColumnHeaders() override;
 
     void KeepBeforeRescaling() override;
@@ -53,6 +54,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void ChangeState(int row, UINT mask, UINT state);
     void ClearSelection(UINT states);
     std::optional<LRESULT> SelectionAsked(UINT message, WPARAM wParam, LPARAM lParam);
+    bool IsMarked(int row) const;
     LRESULT PaintRow(NMLVCUSTOMDRAW& draw) const;
     toolkit::Choice ChoiceOf(UINT message, WPARAM wParam) const;
     void MoveWithoutChange(UINT message, WPARAM wParam, int before);

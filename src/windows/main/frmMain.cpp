@@ -46,7 +46,8 @@ frmMain::frmMain(SharedObjects& shared)
                    entries_, operations_),
       panels_({*this, cboDate, SourceListView, TargetListView, StatusBar1, Menu("mnuContext"),
                Menu("mnuContextCopyTarget")},
-              entries_, filter_, *shared.settings, shared.services.locale, shared.Texts()),
+              entries_, filter_, *shared.settings, shared.services.locale, shared.Texts(),
+              [this]() -> const OperationReader& { return operations_.Reader(); }),
       progress_(shared.toolkit, *this, shared.FormTexts(),
                 [this] { reading_.CancelReading = true; }),
       reading_(shared, *this, entries_, panels_, progress_, title_),
@@ -117,6 +118,7 @@ void frmMain::ApplySettings() {
         list->SetGridLines(settings.GridLines != 0);
         list->SetForeColor(settings.ForegroundColor);
         list->SetBackColor(settings.BackgroundColor);
+        list->SetMarkColor(settings.FailedColor);
     }
     for (toolkit::ComboBox* box : {&cboDate, &cboFiles}) {
         box->SetLook(look);
@@ -146,6 +148,11 @@ void frmMain::WireMenus() {
     on("mnuViewVerticalPanels", [this] { layout_.ToggleVerticalPanels(); });
     on("mnuViewRefresh", [this] { RefreshLog(); });
     on("mnuViewOptions", [this] { ShowOptions(); });
+    on("mnuViewFailedOnly", [this] {
+        const bool only = !panels_.FailedOnly();
+        Menu("mnuViewFailedOnly").SetChecked(only);
+        panels_.ShowFailedOnly(only);
+    });
     on("mnuViewFollow", [this] { following_.Toggle(); });
     on("mnuHelpHelpTopics", [this] {
         ShowHelp({shared_.toolkit, shared_.services.files, shared_.services.shell,

@@ -20,14 +20,16 @@ namespace ordalyn {
 
 DayPanels::DayPanels(const Controls& controls, const EntryLists& entries,
                      const FilterChoice& filter, const SettingsValues& settings,
-                     platform::Locale& locale, TextSource text)
+                     platform::Locale& locale, TextSource text, ReaderSource reader)
     : controls_(controls),
       entries_(entries),
       filter_(filter),
       settings_(settings),
       locale_(locale),
       text_(std::move(text)),
-      panelFilter_(controls.SourceListView, controls.TargetListView, entries, filter, settings) {
+      reader_(std::move(reader)),
+      panelFilter_(controls.SourceListView, controls.TargetListView, entries, filter, settings,
+                   reader_) {
     controls_.cboDate.Click.Subscribe([this] { DateComboClicked(); });
     // A reaction that fails is nothing to report for each arrow key.
     controls_.SourceListView.ItemClick.Subscribe(
@@ -145,7 +147,7 @@ void DayPanels::AddRows(std::int32_t firstNew) {
     const int selected = source.SelectedRow();
     const bool deselect =
         selected >= firstChanged && RowOfEntry(*rows, source.Tag(selected)) != selected;
-    const auto texts = std::make_shared<const EntryRows>(entries_);
+    const auto texts = std::make_shared<const EntryRows>(entries_, reader_);
     source.GrowRows(texts, rows, firstChanged);
     if (deselect)
         source.SelectRow(-1);
@@ -185,7 +187,7 @@ void DayPanels::FillPanels() {
         const HiddenWhileFilled hiddenTarget(target);
         source.ClearRows();
         target.ClearRows();
-        const auto texts = std::make_shared<const EntryRows>(entries_);
+        const auto texts = std::make_shared<const EntryRows>(entries_, reader_);
         const auto tags = std::make_shared<const std::vector<std::int32_t>>(
             DayRows(entries_, days_, selectedDay_));
         source.Fill(texts, tags);
@@ -213,10 +215,24 @@ void DayPanels::ApplyFilter(bool blnPreShow) {
         ShowOperationCount();
 }
 
+void DayPanels::ShowFailedOnly(bool only) {
+    const toolkit::ListView& source = controls_.SourceListView;
+    const bool chosen = source.SelectedRow() >= 0;
+    const std::int32_t entry = chosen ? source.Tag(source.SelectedRow()) : 0;
+    panelFilter_.SetFailedOnly(only);
+    ApplyFilter(!only);
+    ShowOperationCount();
+    // What was selected among few rows is to be seen among the many around it.
+    if (chosen && !only)
+        ShowEntry(entry);
+}
+
 void DayPanels::ShowOperationCount() {
     const std::string count = std::to_string(controls_.SourceListView.RowCount());
-    ShowStatus(controls_.StatusBar1, kCountPanel,
-               ReplaceIgnoreCase(text_(text_id::kOperations), "%i", count));
+    ShowStatus(
+        controls_.StatusBar1, kCountPanel,
+        ReplaceIgnoreCase(text_(FailedOnly() ? text_id::kFailedOperations : text_id::kOperations),
+                          "%i", count));
 }
 
 void DayPanels::ShowFilterInStatusBar() {
@@ -345,12 +361,12 @@ void DayPanels::ChooseDay(std::int32_t day) {
     }
 }
 
-// Selects the entry's row. Without a filter the rows are the entries from the first one on, so its
-// place is known.
+// Selects the entry's row. When everything passes the rows are the entries from the first one on,
+// so its place is known.
 bool DayPanels::ShowRowOf(std::int32_t entry, std::int32_t firstEntry) {
     // The row is what was looked for: it stays found when there is no file to name in the title.
     const auto select = [this](int row) { Attempt([&] { SelectEntryRow(row); }); };
-    if (filter_.FilterText.empty()) {
+    if (panelFilter_.IsOpen()) {
         select(entry - firstEntry);
         return true;
     }

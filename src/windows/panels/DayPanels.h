@@ -41,7 +41,8 @@ class DayPanels : public EntryDisplay {
     static constexpr std::int32_t kNothingShown = -2;
 
     DayPanels(const Controls& controls, const EntryLists& entries, const FilterChoice& filter,
-              const SettingsValues& settings, platform::Locale& locale, TextSource text);
+              const SettingsValues& settings, platform::Locale& locale, TextSource text,
+              ReaderSource reader = {});
 
     // A day was chosen, or all dates, and its rows are there.
     toolkit::Event<> DayShown;
@@ -67,6 +68,10 @@ class DayPanels : public EntryDisplay {
     // Narrows the panels to the filter. With blnPreShow they are filled for their day first, so
     // that rows which an earlier filter removed come back.
     void ApplyFilter(bool blnPreShow);
+    // Whether only operations that failed are shown, of what day and filter let through. The
+    // selection stays with its entry.
+    void ShowFailedOnly(bool only);
+    bool FailedOnly() const { return panelFilter_.FailedOnly(); }
     // Labels cboDate again without filling the panels; non-zero means long dates.
     void ApplyNewDateFormat(std::int32_t lngLd);
 
@@ -119,6 +124,7 @@ class DayPanels : public EntryDisplay {
     const SettingsValues& settings_;
     platform::Locale& locale_;
     TextSource text_;
+    ReaderSource reader_;
     PanelFilter panelFilter_;
     DayIndex days_;
     std::int32_t selectedDay_ = kAllDates;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "search/EntryFilter.h"
+#include "search/FailedEntries.h"
 #include "windows/panels/HiddenWhileFilled.h"
 #include "windows/panels/RowOfEntry.h"
 
@@ -25,7 +26,7 @@ void Replace(toolkit::ListView& list, const toolkit::ListView::Tags& kept) {
 }  // namespace
 
 bool PanelFilter::RemoveRows() {
-    if (filter_.FilterText.empty())
+    if (IsOpen())
         return false;
     const bool twoPanels = settings_.TwoPanels != 0;
     const HiddenWhileFilled source(source_);
@@ -40,8 +41,11 @@ bool PanelFilter::RemoveRows() {
 }
 
 std::vector<std::int32_t> PanelFilter::Passing(std::vector<std::int32_t> entries) const {
-    return filter_.FilterText.empty() ? std::move(entries)
-                                      : EntriesThatPass(entries_, entries, filter_);
+    if (!filter_.FilterText.empty())
+        entries = EntriesThatPass(entries_, entries, filter_);
+    if (failedOnly_)
+        entries = EntriesThatFailed(entries_, entries, reader_());
+    return entries;
 }
 
 }  // namespace ordalyn

@@ -38,6 +38,7 @@ inline constexpr DesignId kDesignIds[] = {
     {"frmMain", "mnuViewVerticalPanels", "145"},
     {"frmMain", "mnuViewRefresh", "4020"},
     {"frmMain", "mnuViewOptions", "150"},
+    {"frmMain", "mnuViewFailedOnly", "5167"},
     {"frmMain", "mnuViewFollow", "5181"},
     {"frmMain", "mnuHelp", "161"},
     {"frmMain", "mnuHelpHelpTopics", "162"},

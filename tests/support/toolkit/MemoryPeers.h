@@ -256,6 +256,7 @@ class MemoryListView : public Peer<toolkit::ListViewPeer> {
         return {list.left, list.top + below, std::min(width, list.width), seen};
     }
     void SetGridLines(bool gridLines) override { shown.gridLines = gridLines; }
+    void SetMarkColor(toolkit::Color color) override { shown.markColor = color; }
     void FlattenColumnHeaders() override { shown.flatHeaders = true; }
 };
 

@@ -54,6 +54,7 @@ struct Shown {
     int fills = 0;
     int growths = 0;
     int updatesInSight = 0;  // rows that went or came while the list was visible
+    toolkit::Color markColor = toolkit::kReadableRed;
     bool gridLines = false, flatHeaders = false;
     struct Panel {
         std::string text;

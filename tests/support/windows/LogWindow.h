@@ -144,6 +144,7 @@ class LogWindow : public testing::Test {
     toolkit::MenuItem& mnuContextCopyTarget = form.Menu("mnuContextCopyTarget");
 
     EntryLists entries;
+    OperationReader reader{{{OperationKind::Copy, "Copy"}, {OperationKind::Move, "Move"}}};
     FilterChoice filter;
     std::vector<int> shownRows;
     std::vector<std::int32_t> daysShown;
@@ -153,7 +154,8 @@ class LogWindow : public testing::Test {
                      filter,
                      settings,
                      system.locale,
-                     shared.Texts()};
+                     shared.Texts(),
+                     [this]() -> const OperationReader& { return reader; }};
     FakeProgress progress;
     MainTitle title{form};
     std::vector<std::string> remembered;

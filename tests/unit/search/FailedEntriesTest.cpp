@@ -22,12 +22,11 @@ OperationReader Reader() {
 TEST(FailedEntries, AreThoseWithAnOutcome) {
     const OperationReader reader = Reader();
     EntryLists entries;
-    for (const char* source :
-         {"10:00:00: Copy: C:\\a ", "10:00:00: Copy(Error: Disk full): C:\\a ",
-          "10:00:00: Copy: Skipped: C:\\a ", "10:00:00: Copy C:\\a ",
-          "10:00:00: Program start: me@here", "; Copy: Skipped: C:\\a",
-          "10:00:00: Kopieren: Fehler: Lesefehler: \\\\\\FTP\\a ",
-          "10:00:00: Ordner l\xC3\xB6schen: C:\\a", "no time"})
+    for (const char* source : {"10:00:00: Copy: C:\\a ", "10:00:00: Copy(Error: Disk full): C:\\a ",
+                               "10:00:00: Copy: Skipped: C:\\a ", "10:00:00: Copy C:\\a ",
+                               "10:00:00: Program start: me@here", "; Copy: Skipped: C:\\a",
+                               "10:00:00: Kopieren: Fehler: Lesefehler: \\\\\\FTP\\a ",
+                               "10:00:00: Ordner l\xC3\xB6schen: C:\\a", "no time"})
         entries.Add({"1", source, ""});
     EXPECT_THAT(EntriesThatFailed(entries, {0, 1, 2, 3, 4, 5, 6, 7, 8}, reader),
                 ElementsAre(1, 2, 6));
@@ -51,7 +50,7 @@ TEST(FailedEntries, AreThoseThatReadingSaysWhateverTheLine) {
         ASSERT_EQ(HasFailed(reader, source, ""), read) << source;
         failed += read ? 1 : 0;
     }
-    EXPECT_GT(failed, 1000);
+    EXPECT_GT(failed, 300);
 }
 
 }  // namespace

@@ -152,6 +152,8 @@ constexpr Expected kExpected[] = {
     {5164, "Another program is using the file."},
     {5165, "This file is one of the file manager's logs and stays as it is. Choose another name:"},
     {5166, "Operation"},
+    {5167, "Failed Operations O&nly"},
+    {5168, "%i failed operation(s)"},
     {5175, "Show Source in the &File Manager"},
     {5176, "Show Target in the File &Manager"},
     {5177, "This path does not exist:"},

@@ -36,6 +36,7 @@ constexpr Row kRows[] = {
     {"HSplitPosition", "Ordalyn", false, 4000, false},
     {"StatusBarVisible", "Ordalyn", false, 1, false},
     {"SkipMalformedLines", "Ordalyn", false, 0, false},
+    {"FailedColor", "Ordalyn", false, -1, false},
     {"FollowLog", "Ordalyn", false, 0, false},
 };
 

@@ -106,6 +106,21 @@ TEST_F(ListViewTest, AColumnsCaptionCanChange) {
     EXPECT_EQ(On(list).columns[0].caption, "Zeit");
 }
 
+TEST_F(ListViewTest, TheSourceSaysWhichRowsAreMarked) {
+    class Even : public NumberedRows {
+        bool IsMarked(std::int32_t tag) const override { return tag % 20 == 0; }
+    };
+    Fill();
+    EXPECT_FALSE(list.IsMarked(1));
+    list.Fill(std::make_shared<Even>(), TagsOf({10, 20, 30}));
+    EXPECT_FALSE(list.IsMarked(0));
+    EXPECT_TRUE(list.IsMarked(1));
+    EXPECT_THROW(list.IsMarked(3), SubscriptOutOfRange);
+    EXPECT_EQ(list.MarkColor(), kReadableRed);
+    list.SetMarkColor(0x123456);
+    EXPECT_EQ(On(list).markColor, 0x123456);
+}
+
 TEST_F(ListViewTest, SelectingByCodeRaisesNothing) {
     Fill();
     list.SelectRow(2);

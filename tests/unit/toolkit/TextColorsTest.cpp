@@ -8,6 +8,27 @@ namespace {
 constexpr Color kRed = 0x000000FF, kBlue = 0x00FF0000;
 constexpr Color kHighlight = SystemColor(13);
 
+TEST(TextColors, DifferInBrightnessAsTheGuidelinesMeasureIt) {
+    EXPECT_NEAR(Contrast(0x000000, 0xFFFFFF), 21, 0.001);
+    EXPECT_NEAR(Contrast(0xFFFFFF, 0xFFFFFF), 1, 0.001);
+    EXPECT_NEAR(Contrast(0x0000FF, 0xFFFFFF), 3.998, 0.01);
+    EXPECT_NEAR(Contrast(0xFFFFFF, 0xFF0000), 8.592, 0.01);
+}
+
+TEST(TextColors, TheRedCanBeReadOnEveryBackground) {
+    EXPECT_EQ(RedOn(0xFFFFFF), 0x0000A0);
+    const Color onBlack = RedOn(0x000000);
+    EXPECT_GT(onBlack & 0xFF, 0xA0) << "lighter";
+    for (int red = 0; red < 256; red += 15)
+        for (int green = 0; green < 256; green += 15)
+            for (int blue = 0; blue < 256; blue += 15) {
+                const Color background = red | green << 8 | blue << 16;
+                const Color shade = RedOn(background);
+                ASSERT_GE(Contrast(shade, background), 4.5) << background;
+                ASSERT_GE(shade & 0xFF, (shade >> 8) & 0xFF) << "no other tone";
+            }
+}
+
 TEST(TextColors, AreAsTheyWereChosenWithoutHighContrast) {
     for (const TextColors& wanted :
          {TextColors{kRed, kBlue}, TextColors{kRed, kWindowBackground},

@@ -162,6 +162,13 @@ std::string Counts(Speaker& speaker) {
     return lines.All();
 }
 
+std::string FailedCounts(Speaker& speaker) {
+    speaker.Choose("mnuViewFailedOnly");
+    std::string shown = Trimmed(speaker.Status().PanelText(1));
+    speaker.Choose("mnuViewFailedOnly");
+    return shown;
+}
+
 std::string Filter(Speaker& speaker) {
     OwnCommands& own = Own(speaker);
     own.filter.boxText = kSought;
@@ -393,6 +400,7 @@ const std::vector<Situation>& Situations() {
          {"\\\\\\FTP\\a.txt"},
          PathOfAPlugin},
         {Kind::Count, "Rows", {"1", "2", "5", "21"}, Counts},
+        {Kind::Count, "Rows of failed operations", {"0"}, FailedCounts},
         {Kind::Window, "While logs are read", {"totalcmd.1.log"}, Progress},
         {Kind::Window, "While rows are saved", {}, SavingRows},
         {Kind::Window, "The menus", {"[Ctrl+C]", "[F3]"}, Menus},

@@ -1,4 +1,5 @@
 #include "TestForm.h"
+#include "win32/drawing/Colors.h"
 
 namespace ordalyn::test {
 namespace {
@@ -191,6 +192,44 @@ TEST_F(Lists, AListHiddenWhileItIsFilledStaysOnTheScreenWithTheFocus) {
     list.SetVisible(false);
     TheToolkit().DoEvents();
     EXPECT_FALSE(IsWindowVisible(Window()));
+}
+
+TEST_F(Lists, MarkedRowsHaveTheirColourUnlessSelectedOrWithHighContrast) {
+    class Odd : public Numbers {
+        bool IsMarked(std::int32_t tag) const override { return tag % 2 == 1; }
+    };
+    auto tags = std::make_shared<std::vector<std::int32_t>>(std::vector<std::int32_t>{4, 5, 7, 9});
+    list.Fill(std::make_shared<Odd>(), tags);
+    list.SetMultiSelect(true);
+    list.SetBackColor(0xFFFFFF);
+    constexpr COLORREF kAsBefore = 0x123456;
+    const auto colour = [&](int row) {
+        NMLVCUSTOMDRAW draw = {};
+        draw.nmcd.hdr = {Window(), static_cast<UINT_PTR>(GetDlgCtrlID(Window())),
+                         static_cast<UINT>(NM_CUSTOMDRAW)};
+        draw.nmcd.dwDrawStage = CDDS_ITEMPREPAINT;
+        draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row);
+        draw.clrText = kAsBefore;
+        SendMessageW(GetParent(Window()), WM_NOTIFY, draw.nmcd.hdr.idFrom,
+                     reinterpret_cast<LPARAM>(&draw));
+        return draw.clrText;
+    };
+    EXPECT_EQ(colour(0), kAsBefore);
+    EXPECT_EQ(colour(1), 0x0000A0U);
+    list.SetMarkColor(0x00FF00);
+    EXPECT_EQ(colour(1), 0x00FF00U);
+    list.SetMarkColor(kReadableRed);
+    list.SetBackColor(0x000000);
+    EXPECT_GT(colour(1) & 0xFF, 0xA0U) << "lighter on a dark background";
+    // The control paints the one that it knows; the others look as it does.
+    list.SelectRows(RowRanges(1, 3), 1);
+    EXPECT_EQ(colour(1), kAsBefore);
+    EXPECT_EQ(colour(2), GetSysColor(GetFocus() == Window() ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT));
+    EXPECT_NE(colour(3), kAsBefore);
+    win32::HighContrastQuestion* const before = win32::HighContrastIsOn();
+    win32::HighContrastIsOn() = [] { return true; };
+    EXPECT_EQ(colour(3), kAsBefore);
+    win32::HighContrastIsOn() = before;
 }
 
 TEST_F(Lists, BordersAndColoursFollowTheSettings) {
