@@ -17,7 +17,7 @@ constexpr int kBetweenLooks = 3;
 // A read that takes long (a large log, a slow network) is followed by a rest that is so many times
 // as long, so that the window can be used in between.
 constexpr int kRest = 9;
-constexpr std::chrono::milliseconds kLong{100};
+constexpr std::chrono::milliseconds kLong{500};
 
 }  // namespace
 

@@ -1,6 +1,9 @@
 // Following the log: what is added to it appears by itself.
 #include "windows/main/LogFollowing.h"
 
+#include <chrono>
+#include <thread>
+
 #include "support/windows/ProgramWindow.h"
 #include "windows/main/frmMain.h"
 
@@ -301,6 +304,23 @@ TEST_F(Following, ALogThatHasJustBeenOpenedIsNotReadAgain) {
     EXPECT_EQ(TimesOpened(), forReading);
     AppendAndWait({Line("c")});
     EXPECT_EQ(TimesOpened(), forReading + 1);
+}
+
+TEST_F(Following, RestsAfterAReadThatTookLong) {
+    StartFollowing();
+    system.files.onOpen = [&](const std::string& path) {
+        if (path == kLog)
+            std::this_thread::sleep_for(std::chrono::milliseconds(510));
+    };
+    AppendAndWait({Line("c")});
+    EXPECT_EQ(Source().RowCount(), 3);
+    system.files.onOpen = nullptr;
+    AppendAndWait({Line("d")});
+    EXPECT_EQ(Source().RowCount(), 3);
+    tools.PassTime(10 * kASecond);
+    EXPECT_EQ(Source().RowCount(), 4);
+    AppendAndWait({Line("e")});
+    EXPECT_EQ(Source().RowCount(), 5);
 }
 
 TEST_F(Following, RestsWhileTheWindowIsMinimisedAndCatchesUp) {
