@@ -19,6 +19,7 @@ bool IsUsualTabStop(Kind kind) {
         case Kind::ListView:
         case Kind::ToolBar:
         case Kind::TabStrip:
+        case Kind::Canvas:
             return true;
         default:
             return false;

@@ -25,7 +25,8 @@ enum class Kind {
     StatusBar,
     ToolBar,
     TabStrip,
-    ProgressBar
+    ProgressBar,
+    Canvas
 };
 
 // The caption that shows a text which is data (a file name): "&" marks nothing in it.

@@ -37,6 +37,7 @@ constexpr std::pair<Kind, Creator> kCreators[] = {
     {Kind::ToolBar, Create<ToolBar>},
     {Kind::TabStrip, Create<TabStrip>},
     {Kind::ProgressBar, Create<ProgressBar>},
+    {Kind::Canvas, Create<Canvas>},
 };
 
 std::unique_ptr<Control> CreateControl(Toolkit& toolkit, const ControlDesign& row,

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/Errors.h"
+#include "toolkit/Canvas.h"
 #include "toolkit/ComboBox.h"
 #include "toolkit/Controls.h"
 #include "toolkit/FormDesign.h"

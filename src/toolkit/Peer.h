@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "toolkit/Basics.h"
+#include "toolkit/TextColors.h"
 
 namespace ordalyn::toolkit {
 
@@ -113,6 +114,15 @@ class ProgressBarPeer : public ControlPeer {
   public:
     virtual void SetRange(int minimum, int maximum) = 0;
     virtual void SetValue(int value) = 0;
+};
+
+// The peer raises the canvas's Paint whenever the system wants it drawn.
+class CanvasPeer : public ControlPeer {
+  public:
+    virtual void Invalidate() = 0;
+    virtual Size Measure(std::string_view text) = 0;
+    virtual Twips WholePixels(Twips length) = 0;
+    virtual TextColors ShownColors() = 0;
 };
 
 class TabStripPeer : public ControlPeer {

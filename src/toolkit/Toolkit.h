@@ -11,6 +11,7 @@
 
 namespace ordalyn::toolkit {
 
+class Canvas;
 class Control;
 class Form;
 class Label;
@@ -58,6 +59,7 @@ class Toolkit {
                                                          ControlPeer& container) = 0;
     virtual std::unique_ptr<ToolBarPeer> CreateToolBar(ToolBar& control,
                                                        ControlPeer& container) = 0;
+    virtual std::unique_ptr<CanvasPeer> CreateCanvas(Canvas& control, ControlPeer& container) = 0;
 
     virtual std::unique_ptr<TimerPeer> CreateTimer(Timer& timer, FormPeer& form) = 0;
 

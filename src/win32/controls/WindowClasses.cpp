@@ -25,7 +25,8 @@ void RegisterWindowClasses(HINSTANCE program) {
     description.hInstance = program;
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     const std::pair<const wchar_t*, WNDPROC> classes[] = {{kFormClass, FormProcedure},
-                                                          {kPictureClass, DefWindowProcW}};
+                                                          {kPictureClass, DefWindowProcW},
+                                                          {kCanvasClass, DefWindowProcW}};
     for (const auto& [name, procedure] : classes) {
         description.lpszClassName = name;
         description.lpfnWndProc = procedure;

@@ -8,6 +8,7 @@ namespace ordalyn::win32 {
 
 inline constexpr const wchar_t* kFormClass = L"OrdalynForm";
 inline constexpr const wchar_t* kPictureClass = L"OrdalynPicture";
+inline constexpr const wchar_t* kCanvasClass = L"OrdalynCanvas";
 
 void RegisterWindowClasses(HINSTANCE program);
 

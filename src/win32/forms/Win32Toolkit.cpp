@@ -6,6 +6,7 @@
 #include "win32/controls/Areas.h"
 #include "win32/controls/Bars.h"
 #include "win32/controls/Buttons.h"
+#include "win32/controls/CanvasWindow.h"
 #include "win32/controls/ComboBoxWindow.h"
 #include "win32/controls/ListViewWindow.h"
 #include "win32/controls/TextBoxWindow.h"
@@ -99,6 +100,10 @@ std::unique_ptr<ToolBarPeer> Win32Toolkit::CreateToolBar(ToolBar& control, Contr
 
 std::unique_ptr<TimerPeer> Win32Toolkit::CreateTimer(Timer& timer, FormPeer& form) {
     return std::make_unique<FormTimer>(desktop_, timer, dynamic_cast<FormWindow&>(form));
+}
+
+std::unique_ptr<CanvasPeer> Win32Toolkit::CreateCanvas(Canvas& control, ControlPeer& container) {
+    return std::make_unique<CanvasWindow>(desktop_, control, container);
 }
 
 Rect Win32Toolkit::WorkArea() {

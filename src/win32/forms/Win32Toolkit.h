@@ -47,6 +47,8 @@ class Win32Toolkit : public toolkit::Toolkit {
                                                         toolkit::ControlPeer& container) override;
     std::unique_ptr<toolkit::TimerPeer> CreateTimer(toolkit::Timer& timer,
                                                     toolkit::FormPeer& form) override;
+    std::unique_ptr<toolkit::CanvasPeer> CreateCanvas(toolkit::Canvas& control,
+                                                      toolkit::ControlPeer& container) override;
 
     double TwipsPerPixelX() override { return desktop_.scale.TwipsPerPixelX(); }
     double TwipsPerPixelY() override { return desktop_.scale.TwipsPerPixelY(); }

@@ -130,6 +130,7 @@ TEST_P(ToolBars, ArrowsWalkTheButtonsAndSpaceAndEnterPressThem) {
     EXPECT_THAT(buttons, ElementsAre(1, 2, 4, 1, 2));
     EXPECT_EQ(ok.Take(), 0) << "Enter is the bar's while it has the focus";
     press(key::Tab);
+    press(key::Tab);
     EXPECT_TRUE(User().HasFocus(Get<CommandButton>("cmdOk")));
     press(key::Left);
     press(key::Space);

@@ -159,7 +159,7 @@ TEST_P(Keys, TabWalksTheControlsInDesignOrder) {
     Get<CheckBox>("chkBox").SetFocus();
     Settle();
     std::vector<std::string> walked;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 9; ++i) {
         Press(key::Tab);
         for (const auto& control : Form().Controls()) {
             if (User().HasFocus(*control))
@@ -167,7 +167,7 @@ TEST_P(Keys, TabWalksTheControlsInDesignOrder) {
         }
     }
     EXPECT_THAT(walked, ElementsAre("txtBox", "cboList", "cboEdit", "lvwRows", "tabStrip",
-                                    "tbrTools", "cmdOk", "cmdCancel"));
+                                    "tbrTools", "cnvArea", "cmdOk", "cmdCancel"));
     Press(key::Tab);
     EXPECT_TRUE(User().HasFocus(Get<OptionButton>("optSide", 0)));
     Press(key::Tab, {true, false, false});

@@ -165,6 +165,8 @@ class MemoryDriver : public ToolkitDriver {
     void DragMouse(Control& control, int button, const std::vector<Pixels>& points) override {
         if (!CanReach(control))
             return;
+        if (button == kLeftButton && control.ControlKind() == Kind::Canvas)
+            control.SetFocus();
         const auto x = [](Pixels p) { return static_cast<Twips>(p.x * 15); };
         const auto y = [](Pixels p) { return static_cast<Twips>(p.y * 15); };
         kit_.AsTheMessageLoop(
@@ -185,6 +187,12 @@ class MemoryDriver : public ToolkitDriver {
             control.MouseMove.Raise(0, {}, static_cast<Twips>(to.x * 15),
                                     static_cast<Twips>(to.y * 15));
         });
+    }
+    void LeaveWithMouse(Canvas& canvas) override {
+        Do(canvas, [&] { canvas.MouseLeave.Raise(); });
+    }
+    void TurnWheel(Canvas& canvas, int delta) override {
+        Do(canvas, [&] { canvas.UserTurnedWheel(delta); });
     }
     void RunModal(Form& form, Form* owner, std::function<void()> meanwhile) override {
         kit_.modalScripts.emplace_back([script = std::move(meanwhile)](Form&) { script(); });
@@ -269,11 +277,36 @@ class MemoryDriver : public ToolkitDriver {
         const Shown& shown = MemoryToolkit::Of(bar);
         return double{1} * (shown.value - shown.minimum) / (shown.maximum - shown.minimum);
     }
+    Color ColorAt(const Canvas& canvas, Pixels at) override {
+        Color seen = MemoryToolkit::Of(canvas).background;
+        for (const test::Drawn& drawn : MemoryToolkit::Of(canvas).drawn) {
+            if (drawn.what == test::Drawn::What::Fill && Covers(drawn.area, at))
+                seen = drawn.color;
+        }
+        return seen;
+    }
+    bool HasColor(const Canvas& canvas, Pixels from, Pixels to, Color color) override {
+        for (const test::Drawn& drawn : MemoryToolkit::Of(canvas).drawn) {
+            const Pixels middle{static_cast<int>((drawn.area.left + drawn.area.width / 2) / 15),
+                                static_cast<int>((drawn.area.top + drawn.area.height / 2) / 15)};
+            const bool inside =
+                middle.x >= from.x && middle.x < to.x && middle.y >= from.y && middle.y < to.y;
+            if (drawn.what == test::Drawn::What::Text && drawn.color == color && inside)
+                return true;
+        }
+        return false;
+    }
     std::vector<MenuSeen> MenusOf(const Form& form) override {
         return Seen(MemoryToolkit::MenusOf(form));
     }
 
   private:
+    // The edges are those of the nearest pixels.
+    static bool Covers(const Rect& area, Pixels at) {
+        const auto pixel = [](double twips) { return std::lround(twips / 15); };
+        return at.x >= pixel(area.left) && at.x < pixel(double{area.left} + double{area.width}) &&
+               at.y >= pixel(area.top) && at.y < pixel(double{area.top} + double{area.height});
+    }
     bool CanReach(const Control& control) {
         const Control& form = FormOf(control);
         if (kit_.modalForm != nullptr && kit_.modalForm != &form)

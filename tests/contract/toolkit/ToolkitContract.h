@@ -102,6 +102,7 @@ inline constexpr toolkit::ControlDesign kContractControls[] = {
     {.kind = toolkit::Kind::ProgressBar, .name = "pgbBar", .bounds = {120, 5880, 3000, 240}},
     {.kind = toolkit::Kind::TabStrip, .name = "tabStrip", .bounds = {5100, 2700, 2400, 900}},
     {.kind = toolkit::Kind::ToolBar, .name = "tbrTools", .bounds = {5100, 3900, 3000, 420}},
+    {.kind = toolkit::Kind::Canvas, .name = "cnvArea", .bounds = {6300, 120, 1800, 1500}},
     {.kind = toolkit::Kind::CommandButton,
      .name = "cmdOk",
      .bounds = {5100, 4500, 1200, 375},

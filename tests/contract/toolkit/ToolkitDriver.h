@@ -90,6 +90,10 @@ class ToolkitDriver {
     virtual void DragMouse(toolkit::Control& control, int button,
                            const std::vector<Pixels>& points) = 0;
     virtual void MoveMouse(toolkit::Control& control, Pixels to) = 0;
+    // Takes the pointer away from it.
+    virtual void LeaveWithMouse(toolkit::Canvas& canvas) = 0;
+    // Turns the wheel over it; 120 is a notch.
+    virtual void TurnWheel(toolkit::Canvas& canvas, int delta) = 0;
 
     // Shows the form modally; `meanwhile` runs once it is.
     virtual void RunModal(toolkit::Form& form, toolkit::Form* owner,
@@ -125,6 +129,11 @@ class ToolkitDriver {
     virtual int ToolButtonCount(const toolkit::ToolBar& bar) = 0;
     // How much of the bar is filled, from 0 to 1.
     virtual double FilledPart(const toolkit::ProgressBar& bar) = 0;
+    // Of the pixel.
+    virtual toolkit::Color ColorAt(const toolkit::Canvas& canvas, Pixels at) = 0;
+    // Whether the area has a pixel of the colour.
+    virtual bool HasColor(const toolkit::Canvas& canvas, Pixels from, Pixels to,
+                          toolkit::Color color) = 0;
     virtual std::vector<MenuSeen> MenusOf(const toolkit::Form& form) = 0;
 };
 

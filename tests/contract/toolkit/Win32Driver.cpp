@@ -355,6 +355,17 @@ class Win32Driver : public Win32Sight {
             Ask(HandleOf(control), WM_MOUSEMOVE, 0, At({to.x, to.y}));
         Settle();
     }
+    void LeaveWithMouse(Canvas& canvas) override {
+        if (CanReach(HandleOf(canvas)))
+            Ask(HandleOf(canvas), WM_MOUSELEAVE);
+        Settle();
+    }
+    void TurnWheel(Canvas& canvas, int delta) override {
+        if (CanReach(HandleOf(canvas)))
+            Ask(HandleOf(canvas), WM_MOUSEWHEEL,
+                static_cast<WPARAM>(MAKELONG(0, static_cast<WORD>(delta))));
+        Settle();
+    }
     void RunModal(Form& form, Form* owner, std::function<void()> meanwhile) override {
         Later(std::move(meanwhile));
         form.ShowModal(owner);

@@ -1,6 +1,7 @@
 #include "contract/toolkit/Win32Sight.h"
 
 #include "contract/toolkit/Win32Windows.h"
+#include "win32/common/DeviceContext.h"
 #include "win32/common/WideText.h"
 #include "win32/forms/FormWindow.h"
 
@@ -229,6 +230,21 @@ double Win32Sight::FilledPart(const ProgressBar& bar) {
     Ask(HandleOf(bar), PBM_GETRANGE, TRUE, reinterpret_cast<LPARAM>(&range));
     const auto value = static_cast<double>(Ask(HandleOf(bar), PBM_GETPOS));
     return (value - range.iLow) / (range.iHigh - range.iLow);
+}
+
+Color Win32Sight::ColorAt(const Canvas& canvas, Pixels at) {
+    const win32::WindowDc dc(HandleOf(canvas));
+    return static_cast<Color>(GetPixel(dc.Get(), at.x, at.y));
+}
+
+bool Win32Sight::HasColor(const Canvas& canvas, Pixels from, Pixels to, Color color) {
+    for (int y = from.y; y < to.y; ++y) {
+        for (int x = from.x; x < to.x; ++x) {
+            if (ColorAt(canvas, {x, y}) == color)
+                return true;
+        }
+    }
+    return false;
 }
 
 std::vector<MenuSeen> Win32Sight::MenusOf(const Form& form) {

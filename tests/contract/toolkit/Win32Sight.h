@@ -39,6 +39,9 @@ class Win32Sight : public ToolkitDriver {
     int SelectedTab(const toolkit::TabStrip& strip) override;
     int ToolButtonCount(const toolkit::ToolBar& bar) override;
     double FilledPart(const toolkit::ProgressBar& bar) override;
+    toolkit::Color ColorAt(const toolkit::Canvas& canvas, Pixels at) override;
+    bool HasColor(const toolkit::Canvas& canvas, Pixels from, Pixels to,
+                  toolkit::Color color) override;
     std::vector<MenuSeen> MenusOf(const toolkit::Form& form) override;
 
   private:

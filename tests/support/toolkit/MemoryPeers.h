@@ -2,9 +2,12 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "base/Text.h"
 #include "support/toolkit/MemoryToolkit.h"
 
 namespace ordalyn::test {
@@ -309,6 +312,82 @@ class MemoryTabStrip : public Peer<toolkit::TabStripPeer> {
         shown.tabs[static_cast<std::size_t>(index)] = caption;
     }
     void SelectTab(int index) override { shown.selectedTab = index; }
+};
+
+// Draws when the message loop gets to it. Letters are as wide as half of their height.
+class MemoryCanvas : public Peer<toolkit::CanvasPeer>, private toolkit::Painter {
+  public:
+    using Peer::Peer;
+    toolkit::Rect Place(const toolkit::Rect& wanted) override {
+        Invalidate();
+        return Peer::Place(wanted);
+    }
+    toolkit::Rect SetFont(const toolkit::Font& font) override {
+        Invalidate();
+        return Peer::SetFont(font);
+    }
+    void SetColors(toolkit::Color foreground, toolkit::Color background) override {
+        Invalidate();
+        Peer::SetColors(foreground, background);
+    }
+    void SetReadingOrder(bool rightToLeft, toolkit::Alignment alignment) override {
+        Invalidate();
+        Peer::SetReadingOrder(rightToLeft, alignment);
+    }
+    void Invalidate() override {
+        if (waiting_)
+            return;
+        waiting_ = true;
+        toolkit_.Later([this, alive = std::weak_ptr<int>(alive_)] {
+            if (alive.expired())
+                return;
+            waiting_ = false;
+            for (const toolkit::Control* at = &control_; at != nullptr; at = at->Container()) {
+                if (!at->Visible())
+                    return;
+            }
+            Paint();
+        });
+    }
+    toolkit::Size Measure(std::string_view text) override {
+        const auto height = static_cast<toolkit::Twips>(shown.font.size * 26);
+        return {static_cast<toolkit::Twips>(CharacterCount(text)) * height / 2, height};
+    }
+    toolkit::Twips WholePixels(toolkit::Twips length) override {
+        const double pixels = std::round(length / toolkit_.twipsPerPixelX);
+        return static_cast<toolkit::Twips>(std::max(pixels, 1.0) * toolkit_.twipsPerPixelX);
+    }
+    toolkit::TextColors ShownColors() override {
+        const auto seen = [](toolkit::Color color) {
+            if (color >= 0)
+                return color;
+            const bool text = color == toolkit::kWindowText || color == toolkit::kButtonText;
+            return text ? 0x000000 : 0xFFFFFF;
+        };
+        const toolkit::TextColors readable =
+            toolkit::ReadableColors({shown.foreground, shown.background}, toolkit_.highContrast);
+        return {seen(readable.text), seen(readable.background)};
+    }
+    void Paint() {
+        ++shown.paints;
+        shown.drawn.clear();
+        static_cast<toolkit::Canvas&>(control_).Paint.Raise(*this);
+    }
+
+  private:
+    void Fill(const toolkit::Rect& area, toolkit::Color color) override {
+        shown.drawn.push_back({Drawn::What::Fill, area, color, {}, {}});
+    }
+    void Text(const toolkit::Rect& area, std::string_view text, toolkit::Color color,
+              toolkit::TextPlace place) override {
+        shown.drawn.push_back({Drawn::What::Text, area, color, std::string(text), place});
+    }
+    void MarkFocus(const toolkit::Rect& area, toolkit::Color background) override {
+        if (toolkit_.focus == &control_)
+            shown.drawn.push_back({Drawn::What::FocusMark, area, background, {}, {}});
+    }
+    bool waiting_ = false;
+    std::shared_ptr<int> alive_ = std::make_shared<int>(0);
 };
 
 class MemoryToolBar : public Peer<toolkit::ToolBarPeer> {

@@ -273,6 +273,11 @@ void MemoryToolkit::ActivateByUser(Form& form, bool byClickOnControl) {
     AsTheMessageLoop([&] { form.SystemActivated(byClickOnControl); });
 }
 
+const Shown& MemoryToolkit::Paint(const Canvas& canvas) {
+    dynamic_cast<MemoryCanvas&>(canvas.peer()).Paint();
+    return Of(canvas);
+}
+
 void MemoryToolkit::DragColumn(const ListView& list, int column, Twips width) {
     Mutable(list).columns[static_cast<std::size_t>(column)].width = width;
 }
@@ -390,6 +395,10 @@ std::unique_ptr<TabStripPeer> MemoryToolkit::CreateTabStrip(TabStrip& c, Control
 }
 std::unique_ptr<ToolBarPeer> MemoryToolkit::CreateToolBar(ToolBar& c, ControlPeer& in) {
     return Make<MemoryToolBar>(*this, c, in);
+}
+
+std::unique_ptr<CanvasPeer> MemoryToolkit::CreateCanvas(Canvas& c, ControlPeer& in) {
+    return Make<MemoryCanvas>(*this, c, in);
 }
 
 }  // namespace ordalyn::test

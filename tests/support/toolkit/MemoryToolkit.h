@@ -14,6 +14,15 @@
 
 namespace ordalyn::test {
 
+// What was drawn on a canvas: an area that is filled or marked, or a line of text.
+struct Drawn {
+    enum class What { Fill, Text, FocusMark } what;
+    toolkit::Rect area;
+    toolkit::Color color;  // of the background, for a focus mark
+    std::string text;
+    toolkit::TextPlace place = toolkit::TextPlace::Left;
+};
+
 // What is shown of any control.
 struct Shown {
     toolkit::Rect bounds;
@@ -66,6 +75,8 @@ struct Shown {
     std::vector<int> values;  // every value that a progress bar has shown
     std::vector<std::string> tabs;
     int selectedTab = 0;
+    std::vector<Drawn> drawn;  // by the last Paint of a canvas
+    int paints = 0;
     // Forms: what has the focus while the form is the active one, and the button that looks as if
     // Enter pressed it.
     toolkit::Control* focused = nullptr;
@@ -125,6 +136,7 @@ class MemoryToolkit : public toolkit::Toolkit {
     std::function<void(toolkit::MenuItem&)> onPopUp;
     // Called when a tool bar's menu is opened by a key; returns the entry that is chosen, or -1.
     std::function<int(const toolkit::ToolBar&, int number)> onToolMenu;
+    bool highContrast = false;  // black text on white, then, for system colours
     toolkit::Pointer pointer = toolkit::Pointer::Default;
     std::vector<toolkit::Pointer> pointers;  // every pointer that was set
     int beeps = 0;
@@ -146,6 +158,8 @@ class MemoryToolkit : public toolkit::Toolkit {
     // By a click on one of its controls, or by any other means.
     void ActivateByUser(toolkit::Form& form, bool byClickOnControl = false);
     void AsTheMessageLoop(const std::function<void()>& work);
+    // Draws the canvas now; what was drawn is shown by Of.
+    static const Shown& Paint(const toolkit::Canvas& canvas);
     static void DragColumn(const toolkit::ListView& list, int column, toolkit::Twips width);
     static void MoveColumn(const toolkit::ListView& list, int column, int position);
     // Work that the message loop does after the current event, and doing all that waits.
@@ -193,6 +207,8 @@ class MemoryToolkit : public toolkit::Toolkit {
                                                         toolkit::ControlPeer& container) override;
     std::unique_ptr<toolkit::TimerPeer> CreateTimer(toolkit::Timer& timer,
                                                     toolkit::FormPeer& form) override;
+    std::unique_ptr<toolkit::CanvasPeer> CreateCanvas(toolkit::Canvas& control,
+                                                      toolkit::ControlPeer& container) override;
     double TwipsPerPixelX() override { return twipsPerPixelX; }
     double TwipsPerPixelY() override { return twipsPerPixelY; }
     toolkit::Rect WorkArea() override { return workArea; }
