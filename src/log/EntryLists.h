@@ -48,6 +48,10 @@ class EntryLists {
     // Where the texts of the lists are, so that a file can be read into their memory.
     TextStore& Texts() { return *texts_; }
 
+    // Names what has been read: another name stands for another log, the same one for a log that
+    // may have grown. Only compared.
+    std::weak_ptr<const void> Log() const { return texts_; }
+
     // Exchanges everything with other lists, at no cost for any entry.
     void Swap(EntryLists& other) noexcept;
     // Empties the four lists. Snapshots keep what they show.

@@ -3,6 +3,7 @@
 // win32/services realises them on Windows, tests/support in memory; one contract suite holds both.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -179,6 +180,14 @@ class Locale {
     // The date that the text means to this system, in the user's long date format; nothing for a
     // text that is not a date (a clock time alone included).
     virtual std::optional<std::string> LongDate(std::string_view text) = 0;
+    // The same date as a day of the calendar.
+    virtual std::optional<std::chrono::year_month_day> ReadDate(std::string_view text) = 0;
+    // A day in the user's long date format.
+    virtual std::string LongDateOf(std::chrono::year_month_day day) = 0;
+    // What the user's weeks begin with, and what days (in a few letters) and months are called.
+    virtual std::chrono::weekday FirstWeekday() = 0;
+    virtual std::string WeekdayName(std::chrono::weekday day) = 0;
+    virtual std::string MonthName(std::chrono::month month) = 0;
 };
 
 // A window of the operating system, opaque here. 0 means none.

@@ -56,6 +56,7 @@ class MemorySubject : public Subject {
         return {nullptr, [this](void*) { system_.clipboard.heldByAnother = false; }};
     }
     std::string ShortDate() override { return "01.03.2024"; }
+    std::chrono::weekday FirstWeekday() override { return system_.locale.firstWeekday; }
     std::string LongDate() override { return "Friday, March 1, 2024"; }
 
   private:

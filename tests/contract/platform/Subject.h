@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -57,6 +58,7 @@ class Subject {
     // The first of March 2024 as this system writes it.
     virtual std::string ShortDate() = 0;
     virtual std::string LongDate() = 0;
+    virtual std::chrono::weekday FirstWeekday() = 0;
 };
 
 struct SubjectKind {

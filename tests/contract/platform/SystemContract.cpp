@@ -1,6 +1,8 @@
 // Environment, dates, clipboard.
 #include <gmock/gmock.h>
 
+#include <set>
+
 #include "base/Text.h"
 #include "contract/platform/Subject.h"
 
@@ -96,6 +98,38 @@ TEST_P(SystemContract, ADateInTheUsersShortFormBecomesTheLongForm) {
 TEST_P(SystemContract, TextThatIsNoDateHasNoLongForm) {
     for (const char* text : {"", "A", "hello", "10:15:30", "99.99.9999", "x01.03.2024", "->"})
         EXPECT_EQ(LongDate(text), std::nullopt) << text;
+}
+
+TEST_P(SystemContract, ADateInTheUsersShortFormIsADayOfTheCalendar) {
+    platform::Locale& locale = Services().locale;
+    const std::chrono::year_month_day day = std::chrono::year(2024) / 3 / 1;
+    EXPECT_EQ(locale.ReadDate(System().ShortDate()), day);
+    EXPECT_EQ(locale.ReadDate("2024-03-01 23:59:59"), day);
+    EXPECT_EQ(locale.LongDateOf(day), System().LongDate());
+    for (const char* text : {"", "A", "10:15:30", "99.99.9999", "x01.03.2024", "->"})
+        EXPECT_EQ(locale.ReadDate(text), std::nullopt) << text;
+}
+
+TEST_P(SystemContract, TheDaysOfAWeekAndTheMonthsHaveNamesOfTheirOwn) {
+    platform::Locale& locale = Services().locale;
+    EXPECT_TRUE(locale.FirstWeekday().ok());
+    std::set<std::string> names;
+    for (unsigned day = 0; day < 7; ++day)
+        names.insert(locale.WeekdayName(std::chrono::weekday(day)));
+    EXPECT_EQ(names.size(), 7U);
+    for (unsigned month = 1; month <= 12; ++month) {
+        const std::string name = locale.MonthName(std::chrono::month(month));
+        names.insert(name);
+        const std::string date =
+            locale.LongDateOf(std::chrono::year(2024) / static_cast<int>(month) / 1);
+        EXPECT_NE(date.find(name), std::string::npos) << date;
+    }
+    EXPECT_EQ(names.size(), 19U);
+    EXPECT_EQ(names.count(""), 0U);
+}
+
+TEST_P(SystemContract, WeeksBeginAsTheUsersRegionSays) {
+    EXPECT_EQ(Services().locale.FirstWeekday(), System().FirstWeekday());
 }
 
 TEST_P(SystemContract, TextGoesToTheClipboardAndIsCleared) {

@@ -155,6 +155,12 @@ class WindowsSubject : public Subject {
 
     std::string ShortDate() override { return Date(DATE_SHORTDATE); }
     std::string LongDate() override { return Date(DATE_LONGDATE); }
+    std::chrono::weekday FirstWeekday() override {
+        wchar_t number[4] = L"";
+        GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_IFIRSTDAYOFWEEK, number, 4);
+        // From Monday; 7 is a Sunday here.
+        return std::chrono::weekday(static_cast<unsigned>(number[0] - L'0') + 1);
+    }
 
   private:
     void Write(std::string_view name, std::string_view bytes, DWORD disposition) {

@@ -53,10 +53,6 @@ std::string MemoryEnvironment::CommandLine() {
 
 namespace {
 
-struct Date {
-    int year, month, day;
-};
-
 // Takes a number of one to `digits` digits off the text; -1 when there is none.
 int TakeNumber(std::string_view& text, std::size_t digits) {
     int value = -1;
@@ -74,7 +70,7 @@ bool Take(std::string_view& text, char c) {
     return true;
 }
 
-std::optional<Date> ParseDate(std::string_view text) {
+std::optional<std::chrono::year_month_day> ParseDate(std::string_view text) {
     const int first = TakeNumber(text, 4);
     const char separator = text.empty() ? '\0' : text[0];
     if (separator != '.' && separator != '-' && separator != '/')
@@ -93,43 +89,50 @@ std::optional<Date> ParseDate(std::string_view text) {
     }
     if (!text.empty())
         return std::nullopt;
+    const auto date = [](int year, int month, int day) {
+        return std::chrono::year(year) / month / day;
+    };
     if (separator == '.')
-        return Date{third, second, first};
+        return date(third, second, first);
     if (separator == '-')
-        return Date{first, second, third};
-    return Date{third, first, second};
+        return date(first, second, third);
+    return date(third, first, second);
 }
 
-int DaysInMonth(int year, int month) {
-    static constexpr std::array<int, 12> kDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-    return month == 2 && leap ? 29 : kDays.at(static_cast<std::size_t>(month) - 1);
-}
-
-// 0 is Sunday.
-int DayOfWeek(const Date& date) {
-    static constexpr std::array<int, 12> kShift = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
-    const int year = date.month < 3 ? date.year - 1 : date.year;
-    return (year + year / 4 - year / 100 + year / 400 +
-            kShift.at(static_cast<std::size_t>(date.month) - 1) + date.day) %
-           7;
-}
+constexpr std::array kMonths = {"January",   "February", "March",    "April",
+                                "May",       "June",     "July",     "August",
+                                "September", "October",  "November", "December"};
+constexpr std::array kDays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                              "Thursday", "Friday", "Saturday"};
 
 }  // namespace
 
-std::optional<std::string> MemoryLocale::LongDate(std::string_view text) {
-    static constexpr std::array kMonths = {"January",   "February", "March",    "April",
-                                           "May",       "June",     "July",     "August",
-                                           "September", "October",  "November", "December"};
-    static constexpr std::array kDays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                         "Thursday", "Friday", "Saturday"};
-    const std::optional<Date> date = ParseDate(TrimBlanks(text));
-    if (!date || date->year < 100 || date->month < 1 || date->month > 12 || date->day < 1 ||
-        date->day > DaysInMonth(date->year, date->month))
+std::optional<std::chrono::year_month_day> MemoryLocale::ReadDate(std::string_view text) {
+    ++readDates;
+    const std::optional<std::chrono::year_month_day> date = ParseDate(TrimBlanks(text));
+    if (!date || date->year() < std::chrono::year(100) || !date->ok())
         return std::nullopt;
-    return std::string(kDays.at(static_cast<std::size_t>(DayOfWeek(*date)))) + ", " +
-           kMonths.at(static_cast<std::size_t>(date->month) - 1) + " " + std::to_string(date->day) +
-           ", " + std::to_string(date->year);
+    return date;
+}
+
+std::optional<std::string> MemoryLocale::LongDate(std::string_view text) {
+    const std::optional<std::chrono::year_month_day> date = ReadDate(text);
+    return date ? std::optional(LongDateOf(*date)) : std::nullopt;
+}
+
+std::string MemoryLocale::LongDateOf(std::chrono::year_month_day day) {
+    const std::chrono::weekday weekday{std::chrono::sys_days(day)};
+    return std::string(kDays.at(weekday.c_encoding())) + ", " + MonthName(day.month()) + " " +
+           std::to_string(static_cast<unsigned>(day.day())) + ", " +
+           std::to_string(static_cast<int>(day.year()));
+}
+
+std::string MemoryLocale::WeekdayName(std::chrono::weekday day) {
+    return std::string(kDays.at(day.c_encoding())).substr(0, 2);
+}
+
+std::string MemoryLocale::MonthName(std::chrono::month month) {
+    return kMonths.at(static_cast<unsigned>(month) - 1);
 }
 
 void MemoryShell::Open(platform::WindowHandle owner, const platform::ShellTarget& target) {

@@ -42,7 +42,14 @@ class MemoryEnvironment : public platform::Environment {
 // behind them or not; writes "Friday, March 1, 2024".
 class MemoryLocale : public platform::Locale {
   public:
+    std::chrono::weekday firstWeekday = std::chrono::Monday;
+    int readDates = 0;  // how many texts were to be read
     std::optional<std::string> LongDate(std::string_view text) override;
+    std::optional<std::chrono::year_month_day> ReadDate(std::string_view text) override;
+    std::string LongDateOf(std::chrono::year_month_day day) override;
+    std::chrono::weekday FirstWeekday() override { return firstWeekday; }
+    std::string WeekdayName(std::chrono::weekday day) override;
+    std::string MonthName(std::chrono::month month) override;
 };
 
 class MemoryShell : public platform::Shell {

@@ -56,6 +56,15 @@ TEST(MemoryPlatform, LongDatesNameTheDayOfTheWeek) {
     EXPECT_EQ(locale.LongDate("10:15"), std::nullopt);
 }
 
+TEST(MemoryPlatform, DatesAreDaysOfTheCalendar) {
+    MemoryLocale locale;
+    EXPECT_EQ(locale.ReadDate("29.02.2024"), std::chrono::year(2024) / 2 / 29);
+    EXPECT_EQ(locale.ReadDate("29.02.2023"), std::nullopt);
+    EXPECT_EQ(locale.ReadDate("31.04.2024"), std::nullopt);
+    EXPECT_EQ(locale.WeekdayName(std::chrono::Sunday), "Su");
+    EXPECT_EQ(locale.MonthName(std::chrono::December), "December");
+}
+
 TEST(MemoryPlatform, TheCommandLineLosesBlanksAtItsEnds) {
     MemoryEnvironment environment;
     environment.commandLine = "  \"c:\\my logs\\tc.log\" ";
