@@ -145,6 +145,21 @@ inline constexpr TextId kOperationName{"5166"};
 // What went wrong.
 inline constexpr TextId kFailedOnly{"5167"};
 inline constexpr TextId kFailedOperations{"5168"};
+// The calendar.
+inline constexpr TextId kCalendarItem{"5140"};
+inline constexpr TextId kCalendarTitle{"5141"};
+inline constexpr TextId kPreviousYear{"5142"};
+inline constexpr TextId kNextYear{"5143"};
+inline constexpr TextId kDayOperations{"5144"};
+inline constexpr TextId kDayFailed{"5145"};
+inline constexpr TextId kDayWithout{"5146"};
+inline constexpr TextId kNoDays{"5147"};
+inline constexpr TextId kNoKnownDays{"5148"};
+inline constexpr TextId kDaysLeftOut{"5149"};
+inline constexpr TextId kFewerOperations{"5150"};
+inline constexpr TextId kMoreOperations{"5151"};
+inline constexpr TextId kSomethingFailed{"5152"};
+inline constexpr TextId kClose{"5153"};
 
 }  // namespace text_id
 

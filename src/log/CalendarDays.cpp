@@ -1,6 +1,7 @@
 #include "log/CalendarDays.h"
 
 #include <algorithm>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -23,6 +24,7 @@ std::string_view DateInRun(const cStringArray& dates, std::int32_t first, std::i
 }  // namespace
 
 void CalendarDays::Count(const EntryLists& entries, const DayIndex& days) {
+    ForgetTail();
     if (!SameOwner(log_, entries.Log()))
         looked_.clear();
     log_ = entries.Log();
@@ -63,21 +65,55 @@ const CalendarDays::Day* CalendarDays::Find(Date date) const {
     return found != days_.end() && found->date == date ? &*found : nullptr;
 }
 
-std::int32_t CalendarDays::FailedOn(const Day& day) {
+std::optional<CalendarDays::Date> CalendarDays::DateOf(std::int32_t dayInLog) const {
+    const auto found = std::find_if(runs_.begin(), runs_.end(),
+                                    [=](const Run& run) { return run.inLog == dayInLog; });
+    return found != runs_.end() ? std::optional(found->date) : std::nullopt;
+}
+
+bool CalendarDays::LookAt(const Day& day, std::int32_t& most) {
+    for (std::int32_t i = 0; i < day.runs; ++i) {
+        if (!LookAtRun(RunOf(day, i), most))
+            return false;
+    }
+    return true;
+}
+
+// What is appended lengthens the last run: the rest of it is known.
+bool CalendarDays::LookAtRun(const Run& run, std::int32_t& most) {
+    Looked& looked = looked_.try_emplace(run.first, Looked{run.first, 0}).first->second;
+    for (; looked.end < run.end && most > 0; ++looked.end, --most) {
+        const bool failed = hasFailed_(looked.end);
+        looked.failed += failed ? 1 : 0;
+        if (looked.end == entries_ - 1)
+            tail_ = {run.first, failed};
+    }
+    return looked.end >= run.end;
+}
+
+// The log's last entry may be replaced, when its line was not complete.
+void CalendarDays::ForgetTail() {
+    if (!tail_)
+        return;
+    Looked& looked = looked_[tail_->run];
+    --looked.end;
+    looked.failed -= tail_->failed ? 1 : 0;
+    tail_.reset();
+}
+
+std::int32_t CalendarDays::FailedSoFar(const Day& day) const {
     std::int32_t failed = 0;
-    for (std::int32_t i = 0; i < day.runs; ++i)
-        failed += FailedIn(runs_[static_cast<std::size_t>(day.firstRun + i)]);
+    for (std::int32_t i = 0; i < day.runs; ++i) {
+        const auto found = looked_.find(RunOf(day, i).first);
+        failed += found != looked_.end() ? found->second.failed : 0;
+    }
     return failed;
 }
 
-// What is appended lengthens the last run, and may replace the log's last entry, whose line was not
-// complete: that one is looked at each time.
-std::int32_t CalendarDays::FailedIn(const Run& run) {
-    Looked& looked = looked_.try_emplace(run.first, Looked{run.first, 0}).first->second;
-    const std::int32_t settled = std::min(run.end, entries_ - 1);
-    for (; looked.end < settled; ++looked.end)
-        looked.failed += hasFailed_(looked.end) ? 1 : 0;
-    return looked.failed + (settled < run.end && hasFailed_(settled) ? 1 : 0);
+std::int32_t CalendarDays::FailedOn(const Day& day) {
+    std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    LookAt(day, most);
+    return FailedSoFar(day);
 }
 
 }  // namespace ordalyn

@@ -45,8 +45,16 @@ class CalendarDays {
     std::int32_t MostEntriesOfADay() const { return most_; }
     // How many entries are left out because nobody can tell their day.
     std::int32_t LeftOut() const { return leftOut_; }
-    // How many entries of the day failed. Looks at each of them once, however often lines are
-    // appended to the log and counted.
+    // The day of the calendar that one of the log's days is.
+    std::optional<Date> DateOf(std::int32_t dayInLog) const;
+
+    // Looks which entries of the day failed, at no more than `most` of them, which is lowered by
+    // what was looked at; returns whether that was all. Each is looked at once, however often lines
+    // are appended to the log and counted.
+    bool LookAt(const Day& day, std::int32_t& most);
+    // How many entries of the day failed, of those that have been looked at.
+    std::int32_t FailedSoFar(const Day& day) const;
+    // Looks at what has not been looked at of the day.
     std::int32_t FailedOn(const Day& day);
 
   private:
@@ -58,8 +66,16 @@ class CalendarDays {
         std::int32_t end = 0;
         std::int32_t failed = 0;
     };
-    std::optional<Date> DateOf(std::string_view text);
-    std::int32_t FailedIn(const Run& run);
+    // A last entry that was looked at, by the first one of its run.
+    struct Tail {
+        std::int32_t run;
+        bool failed;
+    };
+    const Run& RunOf(const Day& day, std::int32_t number) const {
+        return runs_[static_cast<std::size_t>(day.firstRun + number)];
+    }
+    void ForgetTail();
+    bool LookAtRun(const Run& run, std::int32_t& most);
 
     ReadDate readDate_;
     HasFailed hasFailed_;
@@ -70,6 +86,7 @@ class CalendarDays {
     std::int32_t entries_ = 0;
     std::weak_ptr<const void> log_;
     std::unordered_map<std::int32_t, Looked> looked_;  // by a run's first entry
+    std::optional<Tail> tail_;
 };
 
 }  // namespace ordalyn

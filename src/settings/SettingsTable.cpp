@@ -106,6 +106,9 @@ constexpr OtherEntry MainWindowState = {
 constexpr OtherEntry FiltersPosition = {"FiltersPosition", kOrdalynSection, "3495,7740,8910,795",
                                         "placement of the filter dialog, like MainPosition",
                                         "the filter dialog when it closes"};
+constexpr OtherEntry CalendarPosition = {"CalendarPosition", kOrdalynSection, "1500,1500,9390,9000",
+                                         "placement of the calendar, like MainPosition",
+                                         "the calendar when it closes"};
 constexpr OtherEntry FindOptions = {
     "FindOptions", kOrdalynSection, "0,0,0,0",
     "find dialog: place in the list of earlier texts (-1 none), column (0 source, 1 target), whole "
@@ -149,12 +152,20 @@ const Setting& SettingOf(Setting::Place place) {
 }
 
 std::span<const OtherEntry* const> OtherEntries() {
-    static const OtherEntry* const all[] = {
-        &entry::MainPosition, &entry::MainWindowState, &entry::FiltersPosition,
-        &entry::FindOptions,  &entry::ColumnsWidth,    &entry::ColumnHeadersPosition,
-        &entry::RecentFiles,  &entry::FindTexts,       &entry::FilterTexts,
-        &kLoggingID,          &kExemptSections,        &kCommanderFolder,
-        &kCommanderIni};
+    static const OtherEntry* const all[] = {&entry::MainPosition,
+                                            &entry::MainWindowState,
+                                            &entry::FiltersPosition,
+                                            &entry::CalendarPosition,
+                                            &entry::FindOptions,
+                                            &entry::ColumnsWidth,
+                                            &entry::ColumnHeadersPosition,
+                                            &entry::RecentFiles,
+                                            &entry::FindTexts,
+                                            &entry::FilterTexts,
+                                            &kLoggingID,
+                                            &kExemptSections,
+                                            &kCommanderFolder,
+                                            &kCommanderIni};
     return all;
 }
 

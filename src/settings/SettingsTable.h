@@ -101,8 +101,8 @@ struct OtherEntry {
 inline constexpr std::int32_t kAsManyAsSet = -1;
 
 namespace entry {
-extern const OtherEntry MainPosition, MainWindowState, FiltersPosition, FindOptions, ColumnsWidth,
-    ColumnHeadersPosition, RecentFiles, FindTexts, FilterTexts;
+extern const OtherEntry MainPosition, MainWindowState, FiltersPosition, CalendarPosition,
+    FindOptions, ColumnsWidth, ColumnHeadersPosition, RecentFiles, FindTexts, FilterTexts;
 }
 
 // All of them, those that the rooms below own included, for the page about the settings file.

@@ -31,8 +31,9 @@ class Canvas : public Control {
            const Rect& bounds);
     ControlPeer& peer() const override { return *peer_; }
 
-    // Draws all of it. What was drawn before is gone. May neither change the canvas nor handle
-    // messages.
+    // Draws all of it. What was drawn before is gone. May not handle messages, and change nothing
+    // of the canvas; a picture that is not complete yet may be invalidated, and is drawn again when
+    // nothing else waits to be done.
     Event<Painter&> Paint;
     // What Paint draws has changed: it is raised again once the system gets to it, and once only,
     // however often this was called before.

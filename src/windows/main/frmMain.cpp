@@ -66,7 +66,8 @@ frmMain::frmMain(SharedObjects& shared)
                 .profile = *shared.profile,
                 .question = settingsFileDialog_,
                 .environment = shared.services.environment}),
-      find_(shared, *this, entries_, panels_, filter_) {
+      find_(shared, *this, entries_, panels_, filter_),
+      calendar_(shared, *this, entries_, panels_, operations_) {
     for (const toolkit::Twips width : kStatusPanels)
         StatusBar1.AddPanel(width);
     // A step that fails leaves its own result out, not the steps behind it.
@@ -132,6 +133,7 @@ void frmMain::ApplySettings() {
     // The filter dialog's boxes look like the panels, and its texts are those of the language that
     // the options may have changed.
     find_.LoadFilterInterface();
+    calendar_.LoadInterface();
 }
 
 void frmMain::WireMenus() {
@@ -154,6 +156,7 @@ void frmMain::WireMenus() {
         panels_.ShowFailedOnly(only);
     });
     on("mnuViewFollow", [this] { following_.Toggle(); });
+    on("mnuViewCalendar", [this] { calendar_.Show(); });
     on("mnuHelpHelpTopics", [this] {
         ShowHelp({shared_.toolkit, shared_.services.files, shared_.services.shell,
                   shared_.common.ProgramFolder(), shared_.settings->UseDefaultLanguage != 0,
@@ -174,7 +177,10 @@ void frmMain::WireParts() {
         [this](int row) { title_.ShowFile(entries_.FileOf(SourceListView.Tag(row))); });
     panels_.ContextMenuOpens.Subscribe([this] { fileManager_.PrepareMenu(); });
     layout_.RowMoved.Subscribe([this](int row) { panels_.SourceRowClicked(row); });
-    reading_.WindowsEnabled.Subscribe([this](bool enabled) { find_.EnableDialogs(enabled); });
+    reading_.WindowsEnabled.Subscribe([this](bool enabled) {
+        find_.EnableDialogs(enabled);
+        calendar_.Enable(enabled);
+    });
     reading_.FileOpened.Subscribe([this](const std::string& path) {
         shared_.recentFiles->AddFile(path);
         SaveRecentFiles();
@@ -316,6 +322,7 @@ void frmMain::ApplyNewLanguage() {
     shared_.language->ApplyLanguage(*this);
     columns_.ShowCaptions();
     find_.LanguageChanged();
+    calendar_.LoadInterface();
     recentFilesMenu_.ChangeLanguage();
     files_.LanguageChanged();
     panels_.LanguageChanged();
@@ -347,6 +354,7 @@ void frmMain::SaveAndCloseDialogs() {
     progress_.HideProgress();
     find_.UnloadFindDialog();
     find_.UnloadFilterDialog();
+    calendar_.Unload();
 }
 
 // Once in a run; not when the system ends, which does not wait for an answer.

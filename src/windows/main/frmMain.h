@@ -13,6 +13,7 @@
 #include "toolkit/Form.h"
 #include "windows/common/SharedObjects.h"
 #include "windows/dialogs/SettingsFileDialog.h"
+#include "windows/main/CalendarCommands.h"
 #include "windows/main/CopyCommands.h"
 #include "windows/main/FileManagerCommands.h"
 #include "windows/main/FindCommands.h"
@@ -95,6 +96,7 @@ class frmMain : public toolkit::Form {
     SettingsFileDialog settingsFileDialog_;
     TotalCommanderLocator locator_;
     FindCommands find_;
+    CalendarCommands calendar_;
     // While they are shown.
     std::unique_ptr<frmAbout> about_;
     std::unique_ptr<frmOptions> options_;

@@ -75,6 +75,7 @@ constexpr toolkit::MenuDesign kMenus[] = {
     {1, "mnuViewOptions", text_id::kOptionsItem.tag},
     {1, "mnuViewAnswersSeparator", "-"},
     {1, "mnuViewFailedOnly", text_id::kFailedOnly.tag, {'E', kControl}},
+    {1, "mnuViewCalendar", text_id::kCalendarItem.tag, {'K', kControl}},
     {1, "mnuViewFollow", text_id::kFollowLog.tag},
     {0, "mnuHelp", text_id::kHelpMenu.tag},
     {1, "mnuHelpHelpTopics", text_id::kHelpTopics.tag, {key::F1, {}}},

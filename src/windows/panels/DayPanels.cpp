@@ -61,6 +61,7 @@ void DayPanels::BuildDateList(bool selectLastDate, bool takeFocus) {
     cboDate.Clear();
     std::vector<std::string> dates;
     Attempt([&] { dates = days_.Build(entries_.EntryDates()); });
+    Attempt([this] { DaysListed.Raise(); });
     if (dates.empty())
         return;
     if (settings_.LongDate != 0)

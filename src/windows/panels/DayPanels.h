@@ -44,6 +44,9 @@ class DayPanels : public EntryDisplay {
               const SettingsValues& settings, platform::Locale& locale, TextSource text,
               ReaderSource reader = {});
 
+    // The days of the log have been found anew, perhaps none: numbers of days are those of Days
+    // from now on. A day is shown later, if there is one.
+    toolkit::Event<> DaysListed;
     // A day was chosen, or all dates, and its rows are there.
     toolkit::Event<> DayShown;
     // A row of SourceListView is the one that is looked at now.
@@ -82,6 +85,8 @@ class DayPanels : public EntryDisplay {
     // date that the combo box does not show.
     void ShowDateInStatusBar(bool asGiven, std::string_view dateText);
 
+    // Chooses one of Days in cboDate, as a user does.
+    void ChooseDay(std::int32_t day);
     // Selects a row in both panels, scrolls to it and treats it as clicked.
     void SelectEntryRow(int row);
     // The same for the last row when there is one.
@@ -106,7 +111,6 @@ class DayPanels : public EntryDisplay {
 
   private:
     void DateComboClicked();
-    void ChooseDay(std::int32_t day);
     void ShowDay(std::int32_t day);
     void TargetRowClicked(int row);
     void SelectSameRows(toolkit::ListView& list, const toolkit::ListView& as);

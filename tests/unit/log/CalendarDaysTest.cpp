@@ -122,6 +122,35 @@ TEST_F(CalendarDaysTest, NoEntryIsLookedAtUntilItsDayIsAskedFor) {
     EXPECT_EQ(Looks(), 0);
 }
 
+TEST_F(CalendarDaysTest, EntriesAreLookedAtAsManyAsOneLikes) {
+    Add({"1", "1!", "2!", "1", "1!"});
+    const CalendarDays::Day& day = *calendar.Find(Day(1));
+    std::int32_t most = 1;
+    EXPECT_FALSE(calendar.LookAt(day, most));
+    EXPECT_EQ(most, 0);
+    EXPECT_EQ(calendar.FailedSoFar(day), 0);
+    most = 2;
+    EXPECT_FALSE(calendar.LookAt(day, most));
+    EXPECT_EQ(calendar.FailedSoFar(day), 1);
+    EXPECT_EQ(Looks(), 3);
+    most = 10;
+    EXPECT_TRUE(calendar.LookAt(day, most));
+    EXPECT_EQ(most, 9);
+    EXPECT_EQ(calendar.FailedSoFar(day), 2);
+    EXPECT_EQ(calendar.FailedOn(day), 2);
+    EXPECT_EQ(Looks(), 1);
+}
+
+TEST_F(CalendarDaysTest, EachDayOfTheLogIsOneOfTheCalendar) {
+    Add({"5", "x", "3", "5"});
+    EXPECT_EQ(calendar.DateOf(0), Day(5));
+    EXPECT_EQ(calendar.DateOf(1), std::nullopt);
+    EXPECT_EQ(calendar.DateOf(2), Day(3));
+    EXPECT_EQ(calendar.DateOf(3), Day(5));
+    EXPECT_EQ(calendar.DateOf(kAllDates), std::nullopt);
+    EXPECT_EQ(calendar.DateOf(4), std::nullopt);
+}
+
 TEST_F(CalendarDaysTest, WhatIsAppendedIsAllThatIsLookedAt) {
     Add(std::vector<std::string>(1000, "1"));
     All();

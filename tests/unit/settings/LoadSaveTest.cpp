@@ -81,6 +81,7 @@ TEST(SettingsTable, AFormsEntriesAreFoundByItsName) {
     EXPECT_EQ(&PlacementEntry("frmMain"), &entry::MainPosition);
     EXPECT_EQ(&WindowStateEntry("frmMain"), &entry::MainWindowState);
     EXPECT_EQ(&PlacementEntry("frmFilters"), &entry::FiltersPosition);
+    EXPECT_EQ(&PlacementEntry("frmCalendar"), &entry::CalendarPosition);
     EXPECT_THROW(WindowStateEntry("frmFilters"), SubscriptOutOfRange);
     EXPECT_THROW(PlacementEntry("frmAbout"), SubscriptOutOfRange);
     EXPECT_THROW(PlacementEntry("fr"), SubscriptOutOfRange);

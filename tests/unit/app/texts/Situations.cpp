@@ -351,6 +351,40 @@ std::string PathOfAPlugin(Speaker& speaker) {
     return ShownSource(speaker, "\\\\\\FTP\\a.txt");
 }
 
+// What the calendar says of a log, with what is drawn in it.
+std::string CalendarLines(const std::string& language, const std::vector<std::string>& log) {
+    Speaker other(language);
+    other.SetLog(kLog, log);
+    other.Start();
+    other.Choose("mnuViewCalendar");
+    other.tools.DoLaterWork();
+    toolkit::Form& calendar = other.tools.FormNamed("frmCalendar");
+    Lines lines;
+    lines.Add(WindowLines(calendar));
+    for (const int key : {toolkit::key::Home, toolkit::key::Right}) {
+        other.tools.Press(calendar, key);
+        lines.Add(calendar.Get<toolkit::Label>("lblDay").Caption());
+    }
+    for (const Drawn& drawn :
+         MemoryToolkit::Paint(calendar.Get<toolkit::Canvas>("cnvDays")).drawn) {
+        if (drawn.text.size() > 2)  // no number of a day
+            lines.Add(drawn.text);
+    }
+    return lines.All();
+}
+
+std::string Calendar(Speaker& speaker) {
+    return CalendarLines(
+        speaker.Language(),
+        {"01.03.2024 10:00:00: Copy(Error: Disk full): C:\\a -> D:\\a",
+         "99.99.2024 10:00:00: Delete: C:\\b", "05.03.2024 10:00:00: Delete: C:\\c"});
+}
+
+std::string CalendarWithoutDays(Speaker& speaker) {
+    return CalendarLines(speaker.Language(), {}) + "\n" +
+           CalendarLines(speaker.Language(), {"99.99.2024 10:00:00: Delete: C:\\b"});
+}
+
 std::string ClearRecentFiles(Speaker& speaker) {
     speaker.Main().Menu("mnuFileRecentGroup").Items().back()->Choose();
     return speaker.LastMessage();
@@ -418,6 +452,8 @@ const std::vector<Situation>& Situations() {
          "The find dialog",
          {},
          [](Speaker& speaker) { return WindowLines(Own(speaker).commands.FindDialog()); }},
+        {Kind::Window, "The calendar", {"March 1, 2024", "1", "2024"}, Calendar},
+        {Kind::Window, "The calendar without a day to show", {}, CalendarWithoutDays},
         {Kind::Window,
          "The filter dialog",
          {},

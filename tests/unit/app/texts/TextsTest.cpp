@@ -103,13 +103,16 @@ void ExpectReadable(const Situation& situation, const std::string& language,
     }
 }
 
-// The pieces of a text that stand around a number, as they read.
+// The pieces of a text that stand around numbers and the like, as they read.
 std::vector<std::string> PiecesOf(const std::string& text) {
-    const std::string plain = WithoutAccessKeys(text);
-    const std::size_t number = plain.find("%i");
-    if (number == std::string::npos)
-        return {Trimmed(plain)};
-    return {Trimmed(plain.substr(0, number)), Trimmed(plain.substr(number + 2))};
+    std::string rest = WithoutAccessKeys(text);
+    std::vector<std::string> pieces;
+    for (std::size_t at = rest.find('%'); at != std::string::npos; at = rest.find('%')) {
+        pieces.push_back(Trimmed(rest.substr(0, at)));
+        rest.erase(0, at + 2);
+    }
+    pieces.push_back(Trimmed(rest));
+    return pieces;
 }
 
 // The texts that no situation shows, so that a new one cannot be forgotten.

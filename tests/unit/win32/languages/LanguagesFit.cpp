@@ -12,6 +12,7 @@
 #include "support/platform/MemoryPlatform.h"
 #include "unit/win32/languages/TextFit.h"
 #include "windows/about/frmAbout.h"
+#include "windows/calendar/frmCalendar.h"
 #include "windows/common/SharedObjects.h"
 #include "windows/main/FindCommands.h"
 #include "windows/main/frmMain.h"
@@ -149,6 +150,16 @@ TEST_P(LanguagesFit, TextsAndControls) {
 
     ExpectFit(program.commands.FindDialog());
     ExpectFit(program.commands.FilterDialog());
+
+    CalendarDays days([](std::string_view) { return std::nullopt; },
+                      [](std::int32_t) { return false; });
+    const frmCalendar calendar(tools, {.texts = texts,
+                                       .settings = *shared.settings,
+                                       .locale = program.system.locale,
+                                       .days = days,
+                                       .chosenDay = [] { return std::nullopt; },
+                                       .chooseDay = [](std::int32_t) {}});
+    ExpectFit(calendar);
 }
 
 }  // namespace
