@@ -27,9 +27,10 @@ LANGUAGES = PROJECT / "languages"
 SHOWN = ("English", "German", "Russian", "Hebrew")
 BUILT_IN = "English"
 # Ids of the menu entries' texts: the entry that opens a window, below which menu.
-MENUS = {"find": (250, 251), "filter": (250, 4030), "options": (141, 150), "about": (161, 163)}
+MENUS = {"find": (250, 251), "filter": (250, 4030), "options": (141, 150), "about": (161, 163),
+         "calendar": (141, 5140)}
 ENGLISH = {141: "&View", 150: "&Options...", 161: "&Help", 163: "&About...", 250: "&Search",
-           251: "&Find...", 4030: "Filte&r..."}
+           251: "&Find...", 4030: "Filte&r...", 5140: "&Calendar"}
 
 
 # Wine's own fonts have no Hebrew letters; the dialogs' font is chosen by the system, and lists take
@@ -103,7 +104,7 @@ class Photographer:
         main = self.app.main
         main.source.click_row(min(3, main.source.row_count - 1))
         self.take(main, "main")
-        for which in ("find", "filter", "about"):
+        for which in ("find", "filter", "calendar", "about"):
             window = self.open(which)
             self.take(window, which)
             self.close(window)

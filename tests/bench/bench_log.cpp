@@ -1,5 +1,6 @@
-// bench_log [FILE]: what reading a log, indexing its days and filling the panels costs. Without a
-// file it writes one of a million lines beside itself. Ends with 1 when a figure misses its target.
+// bench_log [FILE]: what reading a log, indexing and counting its days and filling the panels
+// costs. Without a file it writes one of a million lines beside itself. Ends with 1 when a figure
+// misses its target.
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
@@ -14,10 +15,12 @@
 #include "bench/LogGenerator.h"
 #include "bench/MemoryMeter.h"
 #include "bench/NativeFiles.h"
+#include "log/CalendarDays.h"
 #include "log/DayIndex.h"
 #include "log/DayRows.h"
 #include "log/LineReader.h"
 #include "log/LogReader.h"
+#include "log/Operation.h"
 #include "support/toolkit/MemoryToolkit.h"
 #include "toolkit/ListView.h"
 #include "windows/panels/EntryRows.h"
@@ -86,7 +89,7 @@ void Keep(double& best, double milliseconds) {
 
 struct Figures {
     double floor = 0, count = 0, read = 0, newMemory = 0, readIntoNewMemory = 0, index = 0,
-           fill = 0;
+           fill = 0, calendar = 0, failed = 0;
     double memory = 0;
     std::size_t lines = 0;
     int rows = 0;
@@ -99,6 +102,32 @@ void ReadFile(platform::Files& files, EntryLists& entries, const std::string& pa
     reader.BeginFile(path);
     reader.ReadEntries([](std::int32_t) {});
     entries.FreeExtraItems();
+}
+
+// What the calendar counts: entries from the days alone, then a look at each of them.
+void MeasureCalendar(const EntryLists& entries, const DayIndex& days, Figures& best) {
+    const OperationReader reader({{OperationKind::Copy, "Copy"},
+                                  {OperationKind::Move, "Move"},
+                                  {OperationKind::Shortcut, "Shortcut"},
+                                  {OperationKind::NewFolder, "NewFolder"},
+                                  {OperationKind::Delete, "Delete"},
+                                  {OperationKind::DeleteFolder, "DeleteFolder"},
+                                  {OperationKind::Pack, "Pack"},
+                                  {OperationKind::Unpack, "Unpack"}});
+    CalendarDays calendar(
+        [date = CalendarDays::Date()](std::string_view) mutable {
+            return std::optional(date += std::chrono::days(1));
+        },
+        [&](std::int32_t entry) {
+            return reader
+                .Read(entries.EntrySources().List(entry), entries.EntryTargets().List(entry))
+                .Failed();
+        });
+    Keep(best.calendar, Milliseconds([&] { calendar.Count(entries, days); }));
+    Keep(best.failed, Milliseconds([&] {
+             for (const CalendarDays::Day& day : calendar.Days())
+                 calendar.FailedOn(day);
+         }));
 }
 
 void MeasureRound(const std::string& path, Figures& best) {
@@ -117,6 +146,7 @@ void MeasureRound(const std::string& path, Figures& best) {
         DayIndex days;
         Keep(best.index,
              Milliseconds([&] { best.days = days.Build(entries.EntryDates()).size(); }));
+        MeasureCalendar(entries, days, best);
         Panels panels;
         Keep(best.fill, Milliseconds([&] { best.rows = FillPanels(panels, entries, days); }));
     }
@@ -148,6 +178,8 @@ void Measure(const std::string& path) {
     Report("memory of the entry lists", best.memory / bytes, "x file", 1.6);
     Report("filling both panels with all dates", best.fill, "ms", 20);
     Report("indexing the days", best.index, "ms", 20);
+    Report("counting the entries of each day", best.calendar, "ms", 20);
+    Report("looking at all entries for what failed", best.failed, "ms", 500);
 }
 
 }  // namespace

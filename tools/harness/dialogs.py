@@ -21,6 +21,13 @@ def open_find(app):
     return FindDialog(app, app.window("Find$").handle)
 
 
+def open_calendar(app):
+    """By the keyboard; the keys belong to the main window."""
+    app.main.activate()
+    app.keys("Ctrl+K")
+    return CalendarWindow(app, app.window("Calendar$").handle)
+
+
 def open_options(app):
     app.main.choose("View", "Options...")
     return OptionsDialog(app, app.window("Options").handle)
@@ -129,3 +136,38 @@ class OptionsDialog(Dialog):
 
 __all__ = ["Dialog", "FilterDialog", "FindDialog", "OptionsDialog", "PopUpMenu", "center",
            "filter_dialog", "open_filter", "open_find", "open_options"]
+
+
+class CalendarWindow(Dialog):
+    @property
+    def canvas(self):
+        return self.one("OrdalynCanvas")
+
+    @property
+    def day(self):
+        """What it says of the day that is pointed at, else of the one that keys are for."""
+        return self.one("Static").text
+
+    @property
+    def previous(self):
+        return self.button("Previous Year")
+
+    @property
+    def next(self):
+        return self.button("Next Year")
+
+    def point_at_day(self, month_of_row, words):
+        """Points at the square of a day in the first row of months, which has four; goes over all
+        squares of the month (from 0) until it says so."""
+        area = self.canvas.rect
+        pitch = (area.right - area.left) / 31.5
+        top = area.top
+        left = area.left + pitch * (8 * month_of_row + 0.7)
+        for line in range(4, 24):
+            for column in range(7):
+                x, y = int(left + column * pitch), int(top + line * pitch / 2)
+                self.app.mouse(("move", x, y))
+                self.app.settle()
+                if self.day.startswith(words):
+                    return
+        raise AssertionError(f"no square says {words!r}")
