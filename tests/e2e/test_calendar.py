@@ -17,7 +17,9 @@ FOURTH, TWELFTH = "Monday, March 4, 2024", "Tuesday, March 12, 2024"
 
 
 @pytest.fixture
-def app(show):
+def app(show, display):
+    # Where the calendar will not be: it would tell the day that the pointer is on.
+    display.xdotool("mousemove", 1270, 890)
     return show(LOG)
 
 

@@ -94,7 +94,8 @@ Rect FormWindow::WorkArea() {
 }
 
 void FormWindow::ShowIcons() {
-    if (!style_.minimiseBox && !style_.maximiseBox)
+    // A frame that can be dragged has room for one in its caption, and gets the system's otherwise.
+    if (!style_.minimiseBox && !style_.maximiseBox && !style_.resizable)
         return;
     // The window lets go of the ones before when it gets the new ones.
     const auto show = [&](WPARAM which, int widthMetric, int heightMetric) {

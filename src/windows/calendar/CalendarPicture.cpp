@@ -191,7 +191,8 @@ void CalendarPicture::DrawMonth(Painter& on, const Measures& all, unsigned month
     }
 }
 
-// The mark is a bar along the lower edge: a shape, for those who see no difference of colours.
+// The mark is a bar along the lower edge: a shape, for those who see no difference of colours. A
+// line of background above it lets it have one colour on all shades.
 void CalendarPicture::DrawSquare(Painter& on, const Measures& all, const Rect& area,
                                  const Square& square, const std::string& number) const {
     const toolkit::TextColors colors = canvas_.ShownColors();
@@ -200,11 +201,12 @@ void CalendarPicture::DrawSquare(Painter& on, const Measures& all, const Rect& a
     Rect inside = area;
     if (square.failed) {
         const Twips thickness = std::max(all.Whole(area.height / 6), 2 * all.pixel);
-        const Twips bottom = area.top + area.height - all.pixel;
-        on.Fill(
-            {area.left + 2 * all.pixel, bottom - thickness, area.width - 4 * all.pixel, thickness},
-            SeenOn(shade, {kDarkRed, kLightRed, kPaleRed, colors.text, colors.background}, kSeen));
-        inside.height -= thickness;
+        inside.height -= thickness + all.pixel;
+        const Twips bottom = area.top + area.height;
+        on.Fill({area.left, bottom - thickness - all.pixel, area.width, thickness + all.pixel},
+                colors.background);
+        on.Fill({area.left, bottom - thickness, area.width, thickness},
+                SeenOn(colors.background, {kDarkRed, kLightRed, kPaleRed, colors.text}, kSeen));
     }
     if (all.numbers && !number.empty())
         on.Text(inside, number,

@@ -1,6 +1,7 @@
 #include "windows/calendar/frmCalendar.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Text.h"
 #include "base/TextIds.h"
@@ -159,23 +160,34 @@ year frmCalendar::LastYear() const {
     return year_month_day(around_.days.Days().back().date).year();
 }
 
+// A log that grows shows its day anew each time; who looks at another year is left there.
+bool frmCalendar::FollowChosenDay() {
+    const std::optional<Date> before = std::exchange(chosen_, around_.chosenDay());
+    if (!chosen_ || chosen_ == before)
+        return false;
+    current_ = *chosen_;
+    pointed_.reset();
+    return true;
+}
+
 void frmCalendar::DaysChanged() {
     pointed_.reset();
     pressed_.reset();
-    if (HasDays()) {
-        const Date last = around_.days.Days().back().date;
-        const bool outside = Year() < FirstYear() || Year() > LastYear();
-        current_ = around_.chosenDay().value_or(outside ? last : current_);
-    }
+    if (!FollowChosenDay() && HasDays() && (Year() < FirstYear() || Year() > LastYear()))
+        current_ = around_.days.Days().back().date;
     lblLeftOut.SetVisible(around_.days.LeftOut() > 0);
     Arrange();
     ShowYear();
 }
 
 void frmCalendar::ChosenDayChanged() {
-    if (const std::optional<Date> chosen = around_.chosenDay(); chosen && HasDays())
-        current_ = *chosen;
+    FollowChosenDay();
     ShowYear();
+}
+
+void frmCalendar::GoToChosenDay() {
+    chosen_.reset();
+    ChosenDayChanged();
 }
 
 // Where entries are not all looked at, marks are added to the picture when there is time for it.

@@ -38,8 +38,10 @@ class frmCalendar : public toolkit::Form {
 
     // Other days have been counted: another log was read, or lines were added to it.
     void DaysChanged();
-    // The main window shows another day.
+    // The main window shows a day: keys are for it from now on, if it is another one.
     void ChosenDayChanged();
+    // Keys are for the day that the main window shows, wherever somebody has gone since.
+    void GoToChosenDay();
     // The visual settings or the language have changed.
     void LoadInterface();
     // Unloads the window, which a user's close only hides.
@@ -51,6 +53,7 @@ class frmCalendar : public toolkit::Form {
     void Paint(toolkit::Painter& on);
     void UseKey(int key, bool& used);
     std::optional<Date> Target(int key) const;
+    bool FollowChosenDay();
     void PointAt(std::optional<Date> day);
     void GoTo(Date day);
     void GoToYear(std::chrono::year year);
@@ -72,7 +75,8 @@ class frmCalendar : public toolkit::Form {
     toolkit::CommandButton& cmdNext;
     toolkit::CommandButton& cmdClose;
     CalendarPicture picture_;
-    Date current_{};  // what keys are for; its year is shown
+    Date current_{};              // what keys are for; its year is shown
+    std::optional<Date> chosen_;  // the last that was followed
     std::optional<Date> pointed_;
     std::optional<Date> pressed_;
     bool ending_ = false;

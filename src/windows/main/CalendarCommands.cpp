@@ -1,6 +1,20 @@
 #include "windows/main/CalendarCommands.h"
 
+#include "log/DottedDate.h"
+
 namespace ordalyn {
+
+namespace {
+
+// As everywhere, a date is what the system takes it for.
+std::optional<CalendarDays::Date> ReadLogDate(platform::Locale& locale, std::string_view text) {
+    auto date = locale.ReadDate(text);
+    if (!date)
+        date = ReadDottedDate(text);
+    return date ? std::optional(CalendarDays::Date(*date)) : std::nullopt;
+}
+
+}  // namespace
 
 CalendarCommands::CalendarCommands(SharedObjects& shared, toolkit::Form& mainWindow,
                                    const EntryLists& entries, DayPanels& panels,
@@ -9,16 +23,12 @@ CalendarCommands::CalendarCommands(SharedObjects& shared, toolkit::Form& mainWin
       mainWindow_(mainWindow),
       entries_(entries),
       panels_(panels),
-      days_(
-          [&shared](std::string_view text) -> std::optional<CalendarDays::Date> {
-              const auto date = shared.services.locale.ReadDate(text);
-              return date ? std::optional(CalendarDays::Date(*date)) : std::nullopt;
-          },
-          [&entries, &operations](std::int32_t entry) {
-              return operations.Reader()
-                  .Read(entries.EntrySources().List(entry), entries.EntryTargets().List(entry))
-                  .Failed();
-          }) {
+      days_([&shared](std::string_view text) { return ReadLogDate(shared.services.locale, text); },
+            [&entries, &operations](std::int32_t entry) {
+                return operations.Reader()
+                    .Read(entries.EntrySources().List(entry), entries.EntryTargets().List(entry))
+                    .Failed();
+            }) {
     panels_.DaysListed.Subscribe([this] { DaysListed(); });
     panels_.DayShown.Subscribe([this] {
         if (IsSeen())
@@ -44,7 +54,7 @@ void CalendarCommands::Show() {
     frmCalendar& window = Window();
     if (!counted_)
         Count();
-    window.ChosenDayChanged();
+    window.GoToChosenDay();
     if (window.Visible())
         window.SetFocus();
     else

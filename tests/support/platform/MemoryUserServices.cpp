@@ -110,6 +110,8 @@ constexpr std::array kDays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
 std::optional<std::chrono::year_month_day> MemoryLocale::ReadDate(std::string_view text) {
     ++readDates;
     const std::optional<std::chrono::year_month_day> date = ParseDate(TrimBlanks(text));
+    if (!knowsDots && text.find('.') != std::string_view::npos)
+        return std::nullopt;
     if (!date || date->year() < std::chrono::year(100) || !date->ok())
         return std::nullopt;
     return date;

@@ -44,6 +44,7 @@ class MemoryLocale : public platform::Locale {
   public:
     std::chrono::weekday firstWeekday = std::chrono::Monday;
     int readDates = 0;  // how many texts were to be read
+    bool knowsDots = true;
     std::optional<std::string> LongDate(std::string_view text) override;
     std::optional<std::chrono::year_month_day> ReadDate(std::string_view text) override;
     std::string LongDateOf(std::chrono::year_month_day day) override;

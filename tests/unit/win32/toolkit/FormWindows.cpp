@@ -55,6 +55,18 @@ TEST(FormWindow, ATextOfAMenuBringsNoKeysAndNoLineAlong) {
     EXPECT_EQ(GetMenuState(file, 1, MF_BYPOSITION) & MF_SEPARATOR, 0U);
 }
 
+TEST(FormWindow, OnlyADialogOfAFixedSizeHasNoIcon) {
+    const auto icon = [](const FormDesign& design) {
+        const Form form(TheToolkit(), design);
+        return SendMessageW(HandleOf(form), WM_GETICON, ICON_SMALL, 0) != 0;
+    };
+    FormDesign sizable = kDialog;
+    sizable.style.resizable = true;
+    EXPECT_TRUE(icon(kDesign));
+    EXPECT_TRUE(icon(sizable));
+    EXPECT_FALSE(icon(kDialog));
+}
+
 TEST(FormWindow, BoundsBetweenPixelsAreKeptAsTheyWereSet) {
     Form form(TheToolkit(), kDesign);
     const Rect odd{301, 302, 7003, 4004};

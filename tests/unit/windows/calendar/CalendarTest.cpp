@@ -41,6 +41,10 @@ TEST_F(Calendar, TheDayOfTheMainWindowIsMarkedAndFollows) {
     EXPECT_TRUE(IsFramed(Date(2024, 3, 1)));
     EXPECT_FALSE(IsFramed(Date(2024, 4, 5)));
     EXPECT_EQ(Label(), "Friday, March 1, 2024: 1 operation(s)");
+    Point(Date(2024, 3, 2));
+    cboDate.SetListIndex(2);
+    EXPECT_EQ(Label(), "Friday, April 5, 2024: 1 operation(s)");
+    cboDate.SetListIndex(1);
     cboDate.SetListIndex(0);
     EXPECT_FALSE(IsFramed(Date(2024, 3, 1))) << "all dates";
     EXPECT_EQ(YearShown(), "2024");
@@ -186,6 +190,16 @@ TEST_F(Calendar, DaysThatCannotBeToldAreLeftOutAndCounted) {
     EXPECT_GT(Area().Height(), high) << "the picture takes the room";
 }
 
+TEST_F(Calendar, DatesWithDotsAreToldOnASystemThatWritesOthers) {
+    system.locale.knowsDots = false;
+    LoadDays({"04.03.2024", "3/5/2024", "13.03.2024"});
+    Shown();
+    EXPECT_EQ(Label(), "Wednesday, March 13, 2024: 1 operation(s)");
+    EXPECT_FALSE(commands.Window().Get<toolkit::Label>("lblLeftOut").Visible());
+    Press(toolkit::key::Home);
+    EXPECT_EQ(Label(), "Monday, March 4, 2024: 1 operation(s)");
+}
+
 TEST_F(Calendar, NewLinesAreCountedWhileItIsSeen) {
     LoadDays({"01.03.2024"});
     Shown();
@@ -195,6 +209,24 @@ TEST_F(Calendar, NewLinesAreCountedWhileItIsSeen) {
     EXPECT_EQ(Label(), "Tuesday, April 2, 2024: 1 operation(s)");
     EXPECT_TRUE(IsMarkedFailed(Date(2024, 3, 1)));
     EXPECT_TRUE(IsFramed(Date(2024, 4, 2)));
+}
+
+TEST_F(Calendar, WhoLooksAtAnotherDayIsLeftThereWhileTheLogGrows) {
+    LoadDays({"01.03.2023", "01.03.2024"});
+    Shown();
+    Press(toolkit::key::Home);
+    Write(kLog, {Line("01.03.2023"), Line("01.03.2024"), Line("01.03.2024")});
+    reading.Refresh();
+    tools.DoLaterWork();
+    EXPECT_EQ(YearShown(), "2023");
+    EXPECT_THAT(Label(), HasSubstr("2023"));
+    Write(kLog, {Line("01.03.2023"), Line("01.03.2024"), Line("01.03.2024"), Line("02.03.2024")});
+    reading.Refresh();
+    tools.DoLaterWork();
+    EXPECT_EQ(YearShown(), "2024") << "another day has been chosen";
+    Press(toolkit::key::Home);
+    commands.Show();
+    EXPECT_EQ(YearShown(), "2024") << "opened again, it shows the day that was chosen";
 }
 
 TEST_F(Calendar, NothingIsReadOrCountedWhileItIsNotSeen) {
