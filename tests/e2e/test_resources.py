@@ -78,6 +78,12 @@ class Rounds:
         next(c for c in dialog.controls("Button", None) if plain(c.text) == "OK").press()
         dialog.wait_for_end()
 
+    def calendar(self):
+        self.app.main.activate()
+        self.app.keys("Ctrl+K")
+        self.app.window("Calendar")
+        self.app.keys("PageUp", "Left", "Right", "Enter", "Escape")
+
     def about(self):
         self.choose(3, 1)
         self.app.window("About|Info")
@@ -99,6 +105,7 @@ class Rounds:
         self.days()
         self.filter()
         self.find()
+        self.calendar()
         self.panels()
         self.options(1)
         self.messages()

@@ -191,8 +191,9 @@ void CalendarPicture::DrawMonth(Painter& on, const Measures& all, unsigned month
     }
 }
 
-// The mark is a bar along the lower edge: a shape, for those who see no difference of colours. A
-// line of background above it lets it have one colour on all shades.
+// The mark is a bar along the lower edge: a shape, for those who see no difference of colours.
+// Lines of background above and below it let it have one colour on all shades, and inside the frame
+// of the chosen day.
 void CalendarPicture::DrawSquare(Painter& on, const Measures& all, const Rect& area,
                                  const Square& square, const std::string& number) const {
     const toolkit::TextColors colors = canvas_.ShownColors();
@@ -201,11 +202,11 @@ void CalendarPicture::DrawSquare(Painter& on, const Measures& all, const Rect& a
     Rect inside = area;
     if (square.failed) {
         const Twips thickness = std::max(all.Whole(area.height / 6), 2 * all.pixel);
-        inside.height -= thickness + all.pixel;
-        const Twips bottom = area.top + area.height;
-        on.Fill({area.left, bottom - thickness - all.pixel, area.width, thickness + all.pixel},
-                colors.background);
-        on.Fill({area.left, bottom - thickness, area.width, thickness},
+        inside.height -= thickness + 2 * all.pixel;
+        const Rect strip = {area.left, area.top + inside.height, area.width,
+                            thickness + 2 * all.pixel};
+        on.Fill(strip, colors.background);
+        on.Fill({strip.left, strip.top + all.pixel, strip.width, thickness},
                 SeenOn(colors.background, {kDarkRed, kLightRed, kPaleRed, colors.text}, kSeen));
     }
     if (all.numbers && !number.empty())

@@ -27,7 +27,7 @@ constexpr Twips kLine = 240;
 constexpr Twips kButtonWidth = 1710, kButtonHeight = 375;
 constexpr toolkit::Size kClient = {9240, 8520};
 // Entries that are looked at before the picture is drawn, and again each time when there is nothing
-// else to do: some hundredths of a second.
+// else to do: some thousandths of a second.
 constexpr std::int32_t kLooksAtATime = 50'000;
 
 constexpr toolkit::ControlDesign kControls[] = {

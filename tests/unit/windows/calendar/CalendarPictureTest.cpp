@@ -211,9 +211,10 @@ TEST_F(Picture, WhereSomethingFailedIsAMarkThatIsSeenOnEveryShade) {
             };
             const std::vector<Drawn> failed = marks(20);
             ASSERT_EQ(failed.size(), 2U);
-            // A bar, and the line that parts it from the square.
+            // A bar between lines of background.
             EXPECT_EQ(failed[0].color, background);
             EXPECT_EQ(failed[0].area.top + kit.twipsPerPixelX, failed[1].area.top);
+            EXPECT_EQ(failed[1].area.height + 2 * kit.twipsPerPixelX, failed[0].area.height);
             EXPECT_GE(Contrast(failed[1].color, background), 3) << busyness;
             EXPECT_GE(failed[1].area.height, 2 * kit.twipsPerPixelX);
             EXPECT_THAT(marks(21), IsEmpty());
