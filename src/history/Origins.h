@@ -1,0 +1,30 @@
+// Where the things come from that had a path at some time: found by going through the log backward
+// and following each move to the name from which it came.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "log/EntryLists.h"
+#include "log/Operation.h"
+
+namespace ordalyn {
+
+// A place where a thing of interest begins.
+struct Origin {
+    std::int32_t entry;  // the thing is there when this entry has not happened yet, or by it
+    std::string path;
+    enum class Beginning {
+        WithLog,     // it may have been there before the log began
+        AfterEmpty,  // something was there before and went away; nothing says how this one came
+        ByEntry      // the entry brings it
+    } beginning;
+};
+
+// Everything that is to be followed forward besides the path itself, in the order of the entries.
+std::vector<Origin> FindOrigins(const EntryLists& entries, const OperationReader& reader,
+                                std::string_view path);
+
+}  // namespace ordalyn
