@@ -150,6 +150,21 @@ FAILURES = {"copy": (1903, 1906, 1907, 1921, 1902), "move": (1902, 1904, 1907), 
             "pack": (1902, 1914, 1907), "unpack": (1912, 1917, 1919), "test": (1912, 1917)}
 
 
+# What became of one file, for whoever asks for its history: renamed, then moved twice. By date: ids of
+# words, source and target.
+STORY = {
+    "11.03.2024": [(1811, r"C:\Users\Anna\Documents\Reiseplan.odt", "")],
+    "12.03.2024": [(1803, r"C:\Users\Anna\Documents\Reiseplan.odt",
+                    r"C:\Users\Anna\Documents\Reiseplan Italien.odt")],
+    "13.03.2024": [(1803, r"C:\Users\Anna\Documents\Reiseplan Italien.odt",
+                    r"D:\Projekte\Urlaub\Reiseplan Italien.odt"),
+                   (1802, r"D:\Projekte\Urlaub\Reiseplan Italien.odt",
+                    r"\\nas\sicherung\anna\Reiseplan Italien.odt")],
+    "14.03.2024": [(1803, r"D:\Projekte\Urlaub\Reiseplan Italien.odt",
+                    r"D:\Archiv\2024\Reiseplan Italien.odt")],
+}
+
+
 def german(number):
     return WORDS[number][0]
 
@@ -237,8 +252,16 @@ class Day:
         self.lines.append("; ab hier die Umstellung auf den neuen Server")
         self.add(rf"{german(1802)}: {german(1903)}: C:\pagefile.sys")
 
+    def story(self):
+        """At the day's start; nothing in it is left to chance."""
+        hours, rest = divmod(self.seconds, 3600)
+        for number, source, target in STORY.get(self.date, ()):
+            self.lines.append(f"{self.date} {hours:02d}:{rest // 60:02d}:{rest % 60:02d}: "
+                              f"{german(number)} {source}" + (f" -> {target}" if target else ""))
+
     def work(self, steps, rare):
         self.add(f"{german(1800)} (anna/DESK7)" + ("" if self.only_western else " UTF-8"))
+        self.story()
         for step in range(steps):
             if rare and step == steps // 2:
                 self.rarities()

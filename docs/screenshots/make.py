@@ -17,6 +17,7 @@ import tempfile
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(PROJECT / "tools"))
 
+from harness.dialogs import HistoryWindow  # noqa: E402
 from harness.display import Display  # noqa: E402
 from harness.folder import Folder  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
@@ -27,10 +28,10 @@ LANGUAGES = PROJECT / "languages"
 SHOWN = ("English", "German", "Russian", "Hebrew")
 BUILT_IN = "English"
 # Ids of the menu entries' texts: the entry that opens a window, below which menu.
-MENUS = {"find": (250, 251), "filter": (250, 4030), "options": (141, 150), "about": (161, 163),
-         "calendar": (141, 5140)}
+MENUS = {"find": (250, 251), "filter": (250, 4030), "history": (250, 5110),
+         "options": (141, 150), "about": (161, 163), "calendar": (141, 5140)}
 ENGLISH = {141: "&View", 150: "&Options...", 161: "&Help", 163: "&About...", 250: "&Search",
-           251: "&Find...", 4030: "Filte&r...", 5140: "&Calendar"}
+           251: "&Find...", 4030: "Filte&r...", 5110: "File &History...", 5140: "&Calendar"}
 
 
 # Wine's own fonts have no Hebrew letters; the dialogs' font is chosen by the system, and lists take
@@ -108,6 +109,10 @@ class Photographer:
             window = self.open(which)
             self.take(window, which)
             self.close(window)
+        history = self.open("history")
+        HistoryWindow(self.app, history.handle).ask_for(r"C:\Users\Anna\Documents\Reiseplan.odt")
+        self.take(history, "history")
+        self.close(history)
         options = self.open("options")
         self.take(options, "options-layout")
         self.app.keys("Ctrl+Tab")

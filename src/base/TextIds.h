@@ -122,6 +122,33 @@ inline constexpr TextId kAllFiles{"4006"};
 inline constexpr TextId kOperations{"4010"};
 inline constexpr TextId kFilterStatus{"4032"};
 
+// The history of a file or folder, and how to get there.
+inline constexpr TextId kHistoryItem{"5110"};
+inline constexpr TextId kHistoryOfSource{"5111"};
+inline constexpr TextId kHistoryOfTarget{"5112"};
+inline constexpr TextId kHistoryTitle{"5113"};
+inline constexpr TextId kHistoryPath{"5114"};
+inline constexpr TextId kShowHistory{"5115"};
+inline constexpr TextId kWhichLife{"5116"};
+inline constexpr TextId kOneOfLives{"5117"};
+inline constexpr TextId kLastSeen{"5118"};
+inline constexpr TextId kMovedOnce{"5119"};
+inline constexpr TextId kMovedTimes{"5120"};
+inline constexpr TextId kThenDeleted{"5121"};
+inline constexpr TextId kThenReplaced{"5122"};
+inline constexpr TextId kWasDeleted{"5123"};
+inline constexpr TextId kOnlyFailures{"5124"};
+inline constexpr TextId kNoHistory{"5125"};
+inline constexpr TextId kNoWholePath{"5126"};
+inline constexpr TextId kOlderLogs{"5127"};
+inline constexpr TextId kReadAllFiles{"5128"};
+inline constexpr TextId kClose{"5129"};
+inline constexpr TextId kMovedFrom{"5130"};
+inline constexpr TextId kMovedTo{"5131"};
+inline constexpr TextId kOutcome{"5132"};
+inline constexpr TextId kClearFilterToShow{"5133"};
+inline constexpr TextId kOperation{"5134"};
+
 // What parts without a text of their own are called by programs that speak the screen.
 inline constexpr TextId kDateName{"5100"};
 inline constexpr TextId kLogFileName{"5101"};

@@ -310,9 +310,7 @@ void LifeTracker::Empty(const std::string& key) {
 }
 
 void LifeTracker::AddStep(int life, StepKind kind) {
-    std::vector<HistoryStep>& steps = At(life).life.steps;
-    if (steps.empty() || steps.back().entry != entry_)
-        steps.push_back({entry_, kind});
+    At(life).life.steps.push_back({entry_, kind});
 }
 
 bool LifeTracker::BeginsNow(const std::string& key) const {

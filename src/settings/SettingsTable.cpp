@@ -109,6 +109,10 @@ constexpr OtherEntry FiltersPosition = {"FiltersPosition", kOrdalynSection, "349
 constexpr OtherEntry CalendarPosition = {"CalendarPosition", kOrdalynSection, "1500,1500,9390,9000",
                                          "placement of the calendar, like MainPosition",
                                          "the calendar when it closes"};
+constexpr OtherEntry HistoryPosition = {
+    "HistoryPosition", kOrdalynSection, "900,1500,12000,6300",
+    "placement of the window with a file's history, like MainPosition",
+    "the window with a file's history when it closes"};
 constexpr OtherEntry FindOptions = {
     "FindOptions", kOrdalynSection, "0,0,0,0",
     "find dialog: place in the list of earlier texts (-1 none), column (0 source, 1 target), whole "
@@ -156,6 +160,7 @@ std::span<const OtherEntry* const> OtherEntries() {
                                             &entry::MainWindowState,
                                             &entry::FiltersPosition,
                                             &entry::CalendarPosition,
+                                            &entry::HistoryPosition,
                                             &entry::FindOptions,
                                             &entry::ColumnsWidth,
                                             &entry::ColumnHeadersPosition,

@@ -102,6 +102,7 @@ inline constexpr std::int32_t kAsManyAsSet = -1;
 
 namespace entry {
 extern const OtherEntry MainPosition, MainWindowState, FiltersPosition, CalendarPosition,
+    HistoryPosition,
     FindOptions, ColumnsWidth, ColumnHeadersPosition, RecentFiles, FindTexts, FilterTexts;
 }
 

@@ -5,7 +5,7 @@ import re
 import pytest
 
 from harness.controls import Window, plain
-from harness.dialogs import open_filter, open_find, open_options
+from harness.dialogs import open_filter, open_find, open_history, open_options
 from harness.waiting import wait_until
 from harness.wine import PROJECT
 
@@ -156,7 +156,8 @@ def turned(stops, first):
     return stops[at + 1:] + stops[:at + 1]
 
 
-@pytest.mark.parametrize("opened", ["main", "main with one panel", "filter", "find", "about"])
+@pytest.mark.parametrize("opened", ["main", "main with one panel", "filter", "find", "history",
+                                    "about"])
 def test_tab_goes_through_each_window_and_back(show, folder, opened):
     if opened == "main with one panel":
         folder.write_settings(Ordalyn={"TwoPanels": 0})
@@ -167,6 +168,8 @@ def test_tab_goes_through_each_window_and_back(show, folder, opened):
         window = open_filter(app)
     elif opened == "find":
         window = open_find(app)
+    elif opened == "history":
+        window = open_history(app)
     elif opened == "about":
         window.choose("Help", "About...")
         window = app.window("About")

@@ -21,13 +21,14 @@ BRACKETED_KEYS = {"Chinese (Simplified)", "Japanese"}
 TOGETHER = {
     "menu bar": {101, 250, 141, 161},
     "file menu": {103, 107, 110, 5155},
-    "search menu": {251, 252, 4030},
+    "search menu": {251, 252, 4030, 5110},
     "view menu": {143, 4021, 145, 4020, 150, 5181, 5167, 5140},
     "help menu": {162, 163},
-    "context menu": {4022, 4023, 5175, 5176, 5156},
+    "context menu": {4022, 4023, 5175, 5176, 5156, 5111, 5112},
     "find dialog": {253, 254, 255, 252, 1009, 109, 258, 4003, 4004, 4016},
     "filter dialog": {1009},
     "calendar": {5142, 5143, 5153},
+    "history window": {5114, 5115, 5116, 5127, 5128, 5129},
     "options, layout": {1002, 1006, 1008, 1009, 1010, 1021, 1024, 1025, 1026, 4015, 1051, 1052,
                         1053, 1065, 1044},
     "options, language": {1002, 1006, 1008, 1009, 1010, 1089, 1090, 1091},
@@ -139,11 +140,11 @@ def test_windows_name_their_texts_and_show_each():
 def test_the_groups_are_those_of_the_forms():
     """What a form's design names is in a group, so that a new control cannot be forgotten."""
     grouped = set().union(*TOGETHER.values())
-    titles = {1001, 1501, 4031, 5141}
+    titles = {1001, 1501, 4031, 5113, 5141}
     own_text = {108}  # the placeholder of the recent files, the only entry of its menu
     for file in ("main/frmMainDesign", "options/frmOptions", "about/frmAbout",
                  "progress/frmProgress", "find/frmSearchFor", "filter/frmFilters",
-                 "calendar/frmCalendar"):
+                 "calendar/frmCalendar", "history/frmHistory"):
         source = (PROJECT / f"src/windows/{file}.cpp").read_text(encoding="utf-8")
         # A name is heard, and has no key.
         shown = re.sub(r"nameTag = text_id::\w+\.tag", "", source)
@@ -214,7 +215,7 @@ def test_bracketed_keys_are_those_of_english_keyboards(language):
 
 
 @each_language
-def test_the_places_of_numbers_and_dates_are_kept(language):
+def test_the_places_of_values_are_kept(language):
     def places(text):
         return sorted(re.findall("%.?", text))
     wrong = {number: text for number, text in texts(language).items()

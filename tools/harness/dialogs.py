@@ -28,6 +28,13 @@ def open_calendar(app):
     return CalendarWindow(app, app.window("Calendar$").handle)
 
 
+def open_history(app):
+    """By the keyboard, as above."""
+    app.main.activate()
+    app.keys("Ctrl+H")
+    return HistoryWindow(app, app.window("File History$").handle)
+
+
 def open_options(app):
     app.main.choose("View", "Options...")
     return OptionsDialog(app, app.window("Options").handle)
@@ -118,6 +125,28 @@ class FindDialog(Dialog):
         self.app.keys("Enter")
 
 
+class HistoryWindow(Dialog):
+    @property
+    def path(self):
+        return self.one("ComboBox")
+
+    @property
+    def steps(self):
+        return self.controls("SysListView32")[0]
+
+    @property
+    def words(self):
+        """The line that says it all: the label below the path's own."""
+        labels = sorted(self.controls("Static"), key=lambda label: label.rect.top)
+        return labels[1].text
+
+    def ask_for(self, path):
+        """Types a path and presses Enter."""
+        self.path.type(path)
+        self.app.keys("Enter")
+        self.app.settle()
+
+
 class OptionsDialog(Dialog):
     @property
     def pages(self):
@@ -134,8 +163,9 @@ class OptionsDialog(Dialog):
                        if label.info["style"] & 0x1F == 0xD), key=lambda label: label.rect.top)
 
 
-__all__ = ["Dialog", "FilterDialog", "FindDialog", "OptionsDialog", "PopUpMenu", "center",
-           "filter_dialog", "open_filter", "open_find", "open_options"]
+__all__ = ["CalendarWindow", "Dialog", "FilterDialog", "FindDialog", "HistoryWindow", "OptionsDialog", "PopUpMenu",
+           "center", "filter_dialog", "open_calendar", "open_filter", "open_find", "open_history",
+           "open_options"]
 
 
 class CalendarWindow(Dialog):

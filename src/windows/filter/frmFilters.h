@@ -35,6 +35,8 @@ class frmFilters : public toolkit::Form {
     // Filters nothing.
     void LoadInterface();
     void FocusFilter() { cboFilter.SetFocus(); }
+    // Shows all rows again and empties the box.
+    void RemoveFilter();
     // Unloads the dialog, which a user's close only hides.
     void UnloadAtEnd();
 
@@ -46,7 +48,6 @@ class frmFilters : public toolkit::Form {
     void ApplyAndRemember();
     void ApplyIfFiltering();
     void ClearHistory();
-    void RemoveFilter();
     void FillOperationMenu(const std::vector<OperationWord>& words);
     void ApplyOperation(int item);
     void AboutToClose(bool& keep);

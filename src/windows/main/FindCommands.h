@@ -26,6 +26,9 @@ class FindCommands {
     // Search > Find, Search > Find Next.
     void ShowFindDialog();
     void FindNext();
+    // As the filter dialog's button does: nothing hides a row any more.
+    bool HasFilter() const { return !filter_.FilterText.empty(); }
+    void RemoveFilter() { FilterDialog().RemoveFilter(); }
 
     // The visual settings or the language have changed: dialogs that have been made show them.
     void LoadFilterInterface();

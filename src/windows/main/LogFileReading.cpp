@@ -147,6 +147,7 @@ void LogFileReading::Show(EntryLists& entries, bool selectLastDate, bool takeFoc
     }
     entries_.Swap(entries);
     panels_.BuildDateList(selectLastDate, takeFocus);
+    EntriesChanged.Raise();
 }
 
 LogFileReading::Busy::Busy(LogFileReading& reading) : reading_(reading) {
@@ -203,6 +204,7 @@ void LogFileReading::ReadWhatIsNew(AppendedLines& appended, PassedOverLines& pas
         case AppendedLines::Found::Lines:
             panels_.BuildDateList(true);
             panels_.SelectLastRow();
+            EntriesChanged.Raise();
             return;
         case AppendedLines::Found::AnotherFile:
             ReadAnew(passedOver);
@@ -270,8 +272,10 @@ LogFileReading::Followed LogFileReading::FollowOn(bool& anotherFile) {
         result = Followed::NotYet;
     }
     anotherFile = found == AppendedLines::Found::AnotherFile;
-    if (found == AppendedLines::Found::Lines)
+    if (found == AppendedLines::Found::Lines) {
         panels_.EntriesAdded(firstNew);
+        EntriesChanged.Raise();
+    }
     return result;
 }
 

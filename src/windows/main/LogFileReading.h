@@ -46,6 +46,9 @@ class LogFileReading {
     // a read.
     toolkit::Event<bool> WindowsEnabled;
 
+    // The entries are those of another log, or there are more of them. The rows are shown already.
+    toolkit::Event<> EntriesChanged;
+
     // Reads one whole file and shows it instead of what is shown; returns whether it does. A
     // failure of any kind ends in a message that names the file and the line, and leaves the window
     // as it was. Does nothing while another file is being read.

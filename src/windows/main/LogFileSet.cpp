@@ -105,6 +105,15 @@ bool LogFileSet::ShowsGrowingLog() const {
     return !reading_.CurrentLogFile().empty() && (controls_.mnuViewRefresh.Enabled() || liveLog);
 }
 
+bool LogFileSet::OlderLogsAreLeft() const {
+    return controls_.cboFiles.ListCount() > 1 && controls_.cboFiles.ListIndex() > kAllFilesItem;
+}
+
+void LogFileSet::ReadAll() {
+    if (controls_.cboFiles.ListCount() > 1)
+        controls_.cboFiles.SetListIndex(kAllFilesItem);
+}
+
 void LogFileSet::LanguageChanged() {
     // A list of the live log alone does not begin with "All files".
     if (controls_.cboFiles.Visible() && controls_.cboFiles.ListCount() > 1)

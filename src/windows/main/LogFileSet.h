@@ -42,6 +42,10 @@ class LogFileSet {
     // Full paths of the live log and of what can be told to be one of its siblings, as the folder
     // is now.
     std::vector<std::string> LogFiles() const;
+    // Whether the list offers all files while one of them is shown.
+    bool OlderLogsAreLeft() const;
+    // As if "All files" were chosen in the list.
+    void ReadAll();
     // The interface language is another one.
     void LanguageChanged();
 

@@ -67,7 +67,8 @@ frmMain::frmMain(SharedObjects& shared)
                 .question = settingsFileDialog_,
                 .environment = shared.services.environment}),
       find_(shared, *this, entries_, panels_, filter_),
-      calendar_(shared, *this, entries_, panels_, operations_) {
+      calendar_(shared, *this, entries_, panels_, operations_),
+      history_(shared, *this, {entries_, panels_, operations_, find_, files_, SourceListView}) {
     for (const toolkit::Twips width : kStatusPanels)
         StatusBar1.AddPanel(width);
     // A step that fails leaves its own result out, not the steps behind it.
@@ -134,6 +135,7 @@ void frmMain::ApplySettings() {
     // the options may have changed.
     find_.LoadFilterInterface();
     calendar_.LoadInterface();
+    history_.LoadInterface();
 }
 
 void frmMain::WireMenus() {
@@ -180,7 +182,9 @@ void frmMain::WireParts() {
     reading_.WindowsEnabled.Subscribe([this](bool enabled) {
         find_.EnableDialogs(enabled);
         calendar_.Enable(enabled);
+        history_.Enable(enabled);
     });
+    reading_.EntriesChanged.Subscribe([this] { history_.EntriesChanged(); });
     reading_.FileOpened.Subscribe([this](const std::string& path) {
         shared_.recentFiles->AddFile(path);
         SaveRecentFiles();
@@ -323,6 +327,7 @@ void frmMain::ApplyNewLanguage() {
     columns_.ShowCaptions();
     find_.LanguageChanged();
     calendar_.LoadInterface();
+    history_.LanguageChanged();
     recentFilesMenu_.ChangeLanguage();
     files_.LanguageChanged();
     panels_.LanguageChanged();
@@ -352,6 +357,7 @@ void frmMain::SaveAndCloseDialogs() {
     following_.Stop();
     reading_.Stop();
     progress_.HideProgress();
+    history_.Unload();
     find_.UnloadFindDialog();
     find_.UnloadFilterDialog();
     calendar_.Unload();

@@ -17,6 +17,7 @@
 #include "windows/main/CopyCommands.h"
 #include "windows/main/FileManagerCommands.h"
 #include "windows/main/FindCommands.h"
+#include "windows/main/HistoryCommands.h"
 #include "windows/main/LogFileReading.h"
 #include "windows/main/LogFileSet.h"
 #include "windows/main/LogFollowing.h"
@@ -97,6 +98,7 @@ class frmMain : public toolkit::Form {
     TotalCommanderLocator locator_;
     FindCommands find_;
     CalendarCommands calendar_;
+    HistoryCommands history_;
     // While they are shown.
     std::unique_ptr<frmAbout> about_;
     std::unique_ptr<frmOptions> options_;

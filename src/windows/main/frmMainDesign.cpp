@@ -65,6 +65,8 @@ constexpr toolkit::MenuDesign kMenus[] = {
     {1, "mnuSearchFindNext", text_id::kFindNext.tag, {key::F3, {}}},
     {1, "mnuSearchSeparator", "-"},
     {1, "mnuSearchFilter", text_id::kFilterItem.tag, {'L', kControl}},
+    {1, "mnuSearchAnswersSeparator", "-"},
+    {1, "mnuSearchHistory", text_id::kHistoryItem.tag, {'H', kControl}},
     {0, "mnuView", text_id::kViewMenu.tag},
     {1, "mnuViewStatusBar", text_id::kStatusBar.tag},
     {1, "mnuViewTwoPanels", text_id::kTwoPanels.tag},
@@ -87,6 +89,8 @@ constexpr toolkit::MenuDesign kMenus[] = {
     {1, "mnuContextCopyTarget", text_id::kCopyTarget.tag, {}, "Ctrl+Alt+C"},
     {1, "mnuContextAnswersSeparator", "-"},
     {1, "mnuContextCopyRows", text_id::kCopyRows.tag, {'R', kControlShift}},
+    {1, "mnuContextHistorySource", text_id::kHistoryOfSource.tag},
+    {1, "mnuContextHistoryTarget", text_id::kHistoryOfTarget.tag},
     {1, "mnuContextShowSource", text_id::kShowSource.tag, {}},
     {1, "mnuContextShowTarget", text_id::kShowTarget.tag, {}},
 };

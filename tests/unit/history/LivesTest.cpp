@@ -205,6 +205,30 @@ TEST_F(LivesTest, AnArchiveTakesUpWhatIsPackedIntoIt) {
     EXPECT_THAT(Life(R"(D:\d)"), ElementsAre(Step(4, Created)));
 }
 
+TEST_F(LivesTest, WhatWasInAFolderIsNotWhatComesIntoIt) {
+    for (const std::string word : {"Copy", "Move"}) {
+        entries_.Clear();
+        Log({R"(Test: D:\w\a)", word + R"(: D:\x -> D:\w)", R"(Delete: D:\w\a)"});
+        EXPECT_THAT(Life(R"(D:\w\a)"), ElementsAre(Step(0, Touched), Step(2, Deleted))) << word;
+    }
+}
+
+TEST_F(LivesTest, ACopyOntoItselfIsNoOtherThing) {
+    Log({R"(Copy: D:\a -> d:\A)", R"(Delete: D:\a)"});
+    EXPECT_THAT(Life(R"(D:\a)"), ElementsAre(Step(0, Touched), Step(1, Deleted)));
+}
+
+TEST_F(LivesTest, AnEntryIsListedOnceHoweverOftenItNamesTheThing) {
+    Log({R"(Frobnicate: D:\a -> D:\A)", R"(Move(Error: Aborted): D:\a -> D:\A)"});
+    EXPECT_THAT(Life(R"(D:\a)"), ElementsAre(Step(0, Touched), Step(1, Failed)));
+}
+
+TEST_F(LivesTest, ThePathIsWrittenAsInTheLog) {
+    Log({R"(NewFolder: D:\Reports\)", R"(Delete: D:\Work\Plan.TXT)"});
+    EXPECT_EQ(Lives(R"(d:\reports)").front().path, R"(D:\Reports)");
+    EXPECT_EQ(Lives(R"(d:\work\plan.txt)").front().path, R"(D:\Work\Plan.TXT)");
+}
+
 // All that the log says is what became of the folder: that is worth knowing.
 TEST_F(LivesTest, WhatOnlyAFolderTellsOfIsToldWhenThereIsNothingElse) {
     Log({R"(Move: D:\work -> E:\work)", R"(DeleteFolder: E:\work)"});

@@ -390,6 +390,56 @@ std::string ClearRecentFiles(Speaker& speaker) {
     return speaker.LastMessage();
 }
 
+// Rotated logs are there; what the log holds is for all that can be said of a file.
+void StartWithStories(Speaker& speaker) {
+    speaker.SetLog(
+        kLog, {R"(05.03.2024 10:00:00: Move: D:\Archiv\a.txt -> D:\Archiv\b.txt)",
+               R"(05.03.2024 10:00:01: Move: D:\Archiv\c.txt -> D:\d.txt)",
+               R"(05.03.2024 10:00:02: Move: D:\d.txt -> D:\e.txt)",
+               R"(06.03.2024 10:00:00: Delete: D:\e.txt)", R"(06.03.2024 10:00:01: Test: D:\f.txt)",
+               R"(07.03.2024 10:00:00: Copy: D:\Archiv\x.txt -> D:\f.txt)",
+               R"(07.03.2024 10:00:01: Delete: D:\g.txt)",
+               R"(07.03.2024 10:00:02: Delete(Error: Aborted): D:\h.txt)"});
+    speaker.Start();
+    speaker.Choose("mnuSearchHistory");
+}
+
+std::string History(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    StartWithStories(other);
+    const toolkit::Form& window = other.tools.FormNamed("frmHistory");
+    auto& steps = window.Get<toolkit::ListView>("lvwSteps");
+    auto& lives = window.Get<toolkit::ComboBox>("cboLives");
+    const auto& words = window.Get<toolkit::Label>("lblSummary");
+    Lines lines;
+    for (const char* path : {R"(D:\Archiv\a.txt)", R"(D:\d.txt)", R"(D:\g.txt)", R"(D:\h.txt)",
+                             R"(D:\i.txt)", "i.txt", R"(D:\f.txt)"}) {
+        window.Get<toolkit::ComboBox>("cboPath").SetText(path);
+        window.Get<toolkit::CommandButton>("cmdShow").UserClicked();
+        lines.Add(words.Caption());
+    }
+    lives.UserSelected(0);
+    lines.Add(WindowLines(window));
+    for (int column = 0; column < steps.ColumnCount(); ++column)
+        lines.Add(steps.ColumnCaption(column));
+    return lines.All();
+}
+
+std::string RowThatTheFilterHides(Speaker& speaker) {
+    Speaker other(speaker.Language());
+    StartWithStories(other);
+    other.Choose("mnuSearchFilter");
+    toolkit::Form& filters = other.tools.FormNamed("frmFilters");
+    auto& cboFilter = filters.Get<toolkit::ComboBox>("cboFilter");
+    cboFilter.UserEdited("Delete");
+    other.tools.PressIn(filters, cboFilter, toolkit::key::Enter);
+    const toolkit::Form& window = other.tools.FormNamed("frmHistory");
+    window.Get<toolkit::ComboBox>("cboPath").SetText(R"(D:\f.txt)");
+    window.Get<toolkit::CommandButton>("cmdShow").UserClicked();
+    window.Get<toolkit::ListView>("lvwSteps").UserActivated(0);
+    return other.LastMessage();
+}
+
 }  // namespace
 
 const std::vector<Situation>& Situations() {
@@ -454,6 +504,11 @@ const std::vector<Situation>& Situations() {
          [](Speaker& speaker) { return WindowLines(Own(speaker).commands.FindDialog()); }},
         {Kind::Window, "The calendar", {"March 1, 2024", "1", "2024"}, Calendar},
         {Kind::Window, "The calendar without a day to show", {}, CalendarWithoutDays},
+        {Kind::Window,
+         "The history of a file",
+         {"D:\\e.txt", "05.03.2024", "06.03.2024", "D:\\i.txt"},
+         History},
+        {Kind::Message, "The filter hides a row to go to", {}, RowThatTheFilterHides},
         {Kind::Window,
          "The filter dialog",
          {},

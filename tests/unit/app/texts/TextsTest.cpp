@@ -103,15 +103,14 @@ void ExpectReadable(const Situation& situation, const std::string& language,
     }
 }
 
-// The pieces of a text that stand around numbers and the like, as they read.
+// The pieces of a text that stand around its values, as they read.
 std::vector<std::string> PiecesOf(const std::string& text) {
-    std::string rest = WithoutAccessKeys(text);
+    const std::string plain = WithoutAccessKeys(text);
     std::vector<std::string> pieces;
-    for (std::size_t at = rest.find('%'); at != std::string::npos; at = rest.find('%')) {
-        pieces.push_back(Trimmed(rest.substr(0, at)));
-        rest.erase(0, at + 2);
-    }
-    pieces.push_back(Trimmed(rest));
+    std::size_t from = 0;
+    for (std::size_t at = 0; (at = plain.find('%', at)) != std::string::npos; from = at += 2)
+        pieces.push_back(Trimmed(plain.substr(from, at - from)));
+    pieces.push_back(Trimmed(plain.substr(from)));
     return pieces;
 }
 
