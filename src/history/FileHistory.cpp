@@ -1,5 +1,6 @@
 #include "history/FileHistory.h"
 
+#include "history/EntryOrder.h"
 #include "history/LifeTracker.h"
 #include "history/Origins.h"
 #include "history/PathNames.h"
@@ -36,9 +37,14 @@ std::vector<FileLife> FindLives(const EntryLists& entries, const OperationReader
                                 std::string_view path) {
     if (PathKey(path).empty())
         return {};
-    LifeTracker tracker(path, FindOrigins(entries, reader, path));
-    tracker.Run(entries, reader);
-    return tracker.Take();
+    const EntryOrder order(entries);
+    LifeTracker tracker(path, FindOrigins(entries, order, reader, path));
+    tracker.Run(entries, order, reader);
+    std::vector<FileLife> lives = tracker.Take();
+    for (FileLife& life : lives)
+        for (HistoryStep& step : life.steps)
+            step.entry = order.EntryAt(step.entry);
+    return lives;
 }
 
 }  // namespace ordalyn

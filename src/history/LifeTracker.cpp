@@ -39,13 +39,14 @@ LifeTracker::LifeTracker(std::string_view path, std::vector<Origin> origins)
     Place(asked_, NewLife(path, true));
 }
 
-void LifeTracker::Run(const EntryLists& entries, const OperationReader& reader) {
-    const std::int32_t count = entries.EntrySources().ListCount() + 1;
+void LifeTracker::Run(const EntryLists& entries, const EntryOrder& order,
+                      const OperationReader& reader) {
+    const std::int32_t count = order.Count();
     for (std::int32_t from = 0; from < count;) {
         BringIn(from);
         const std::int32_t end =
             nextOrigin_ < origins_.size() ? std::min(origins_[nextOrigin_].entry, count) : count;
-        ScanEntries(entries, watched_, from, end,
+        ScanEntries(entries, order, watched_, from, end,
                     [&](std::int32_t entry, std::string_view source, std::string_view target) {
                         Read(entry, reader.Read(source, target));
                     });

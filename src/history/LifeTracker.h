@@ -18,8 +18,8 @@ class LifeTracker {
   public:
     LifeTracker(std::string_view path, std::vector<Origin> origins);
 
-    void Run(const EntryLists& entries, const OperationReader& reader);
-    // The lives that had the path, in order.
+    void Run(const EntryLists& entries, const EntryOrder& order, const OperationReader& reader);
+    // The lives that had the path, in order. Their steps have positions for entries.
     std::vector<FileLife> Take();
 
   private:

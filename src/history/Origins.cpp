@@ -16,8 +16,8 @@ class BackwardWalk {
         Watch(std::string(path));
     }
 
-    void Run(const EntryLists& entries, const OperationReader& reader) {
-        ScanEntries(entries, watched_, entries.EntrySources().ListCount(), -1,
+    void Run(const EntryLists& entries, const EntryOrder& order, const OperationReader& reader) {
+        ScanEntries(entries, order, watched_, order.Count() - 1, -1,
                     [&](std::int32_t entry, std::string_view source, std::string_view target) {
                         Undo(entry, reader.Read(source, target));
                     });
@@ -126,10 +126,10 @@ class BackwardWalk {
 
 }  // namespace
 
-std::vector<Origin> FindOrigins(const EntryLists& entries, const OperationReader& reader,
-                                std::string_view path) {
+std::vector<Origin> FindOrigins(const EntryLists& entries, const EntryOrder& order,
+                                const OperationReader& reader, std::string_view path) {
     BackwardWalk walk(path);
-    walk.Run(entries, reader);
+    walk.Run(entries, order, reader);
     return walk.Take();
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "history/EntryOrder.h"
 #include "log/EntryLists.h"
 #include "log/Operation.h"
 
@@ -23,8 +24,9 @@ struct Origin {
     } beginning;
 };
 
-// Everything that is to be followed forward besides the path itself, in the order of the entries.
-std::vector<Origin> FindOrigins(const EntryLists& entries, const OperationReader& reader,
-                                std::string_view path);
+// Everything that is to be followed forward besides the path itself, in the order of time. Entries
+// are given by their positions.
+std::vector<Origin> FindOrigins(const EntryLists& entries, const EntryOrder& order,
+                                const OperationReader& reader, std::string_view path);
 
 }  // namespace ordalyn

@@ -259,6 +259,35 @@ TEST_F(LivesTest, ASummaryNamesWhatTookItsPlace) {
     EXPECT_EQ(summary.deleted, kNoEntry);
 }
 
+// Read from 1 on, the newest of them, and the live log last.
+TEST_F(LivesTest, NumberedLogsAreTakenInTheOrderOfTime) {
+    entries_.SetFile("tc.1.log");
+    Log({R"(Move: D:\b -> D:\c)", R"(CreateFile: D:\a)"});
+    entries_.SetFile("tc.2.log");
+    Log({R"(Move: D:\a -> D:\b)"});
+    entries_.SetFile("tc.10.log");
+    Log({R"(Test: D:\x)", R"(CreateFile: D:\a)"});
+    entries_.SetFile("tc.log");
+    Log({R"(Test: D:\c)"});
+    entries_.AddWithoutFile(
+        SplitOperationLine(test::PaddedLine(R"(16.03.2024 12:00:00: Delete: D:\c)")));
+    const auto story = ElementsAre(Step(4, Created), Step(2, Moved), Step(0, Moved),
+                                   Step(5, Touched), Step(6, Deleted));
+    EXPECT_THAT(Life(R"(D:\c)"), story);
+    const std::vector<FileLife> lives = Lives(R"(D:\a)");
+    ASSERT_EQ(lives.size(), 2U);
+    EXPECT_THAT(lives[0].steps, story);
+    EXPECT_THAT(lives[1].steps, ElementsAre(Step(1, Created)));
+}
+
+TEST_F(LivesTest, LogsWithDatesAreInTheOrderOfTimeAlready) {
+    for (const char* file : {"tc.20240314.log", "tc.20240315.log", "tc.log"}) {
+        entries_.SetFile(file);
+        Log({std::string(file).size() > 6 ? R"(Test: D:\a)" : R"(Delete: D:\a)"});
+    }
+    EXPECT_THAT(Life(R"(D:\a)"), ElementsAre(Step(0, Touched), Step(1, Touched), Step(2, Deleted)));
+}
+
 TEST_F(LivesTest, AnEmptyLogTellsNothing) {
     EXPECT_THAT(Lives(R"(D:\a)"), IsEmpty());
 }
