@@ -21,7 +21,7 @@ namespace ordalyn::bench {
 namespace {
 
 constexpr int kRounds = 5;
-constexpr int kNames = 21;
+constexpr int kNamesOfFile = 21;
 constexpr double kMostScans = 4;
 constexpr double kMostSeconds = 1;
 
@@ -59,7 +59,7 @@ std::string NameNumber(int number) {
 // The generated log with the story of one file in it, spread evenly.
 void Fill(EntryLists& entries, int count) {
     constexpr int kPiece = 100'000;
-    const int step = count / kNames;
+    const int step = count / kNamesOfFile;
     int written = 0;
     int name = 0;
     for (std::uint32_t seed = 1; written < count; ++seed) {
@@ -75,7 +75,7 @@ void Fill(EntryLists& entries, int count) {
             if (line.empty())
                 continue;
             entries.Add(SplitOperationLine(line));
-            if (written % step == step / 2 && name + 1 < kNames) {
+            if (written % step == step / 2 && name + 1 < kNamesOfFile) {
                 const std::string move = "15.03.2024 12:02:45: Move: " + NameNumber(name) + " -> " +
                                          NameNumber(name + 1) + std::string(bytescan::kSlack, '\n');
                 entries.Add(SplitOperationLine(
@@ -113,7 +113,7 @@ int Measure(int count) {
     const OperationReader reader = Reader();
     bool missed = false;
     std::size_t scanned = 0;
-    for (const int asked : {0, kNames / 2, kNames - 1}) {
+    for (const int asked : {0, kNamesOfFile / 2, kNamesOfFile - 1}) {
         double floor = 1e9;
         double history = 1e9;
         std::vector<FileLife> lives;
@@ -124,14 +124,15 @@ int Measure(int count) {
                                    lives = FindLives(entries, reader, NameNumber(asked));
                                }));
         }
-        const bool whole = lives.size() == 1 && lives[0].steps.size() == kNames - 1;
+        const bool whole = lives.size() == 1 && lives[0].steps.size() == kNamesOfFile - 1;
         const double scans = history / floor;
-        const bool met = whole && scans <= kMostScans * kNames && history <= kMostSeconds * 1000;
+        const bool met =
+            whole && scans <= kMostScans * kNamesOfFile && history <= kMostSeconds * 1000;
         missed = missed || !met;
         std::printf(
             "name %2d of %d %4zu steps %8.1f ms  floor %7.2f ms  %5.2f x, %5.2f x a name  %s\n",
-            asked + 1, kNames, lives.empty() ? 0 : lives[0].steps.size(), history, floor, scans,
-            scans / kNames, met ? "met" : "MISSED");
+            asked + 1, kNamesOfFile, lives.empty() ? 0 : lives[0].steps.size(), history, floor,
+            scans, scans / kNamesOfFile, met ? "met" : "MISSED");
     }
     std::printf("%zu places found by the scans\n", scanned);
     return missed ? 1 : 0;

@@ -96,6 +96,7 @@ constexpr Column kColumns[] = {{text_id::kDateName, 1100},   {text_id::kTime, 85
 // These two take what a wider window has.
 constexpr int kWide[] = {HistoryRows::kFrom, HistoryRows::kTo};
 constexpr Twips kLeastWide = 600;
+constexpr Twips kPlainSize = 8;        // points
 constexpr Twips kBesideColumns = 375;  // the scroll bar and the borders
 
 // A path from another program can stand in quotation marks.
@@ -121,8 +122,11 @@ frmHistory::frmHistory(toolkit::Toolkit& toolkit, const Surroundings& around)
       cmdReadAll(Get<toolkit::CommandButton>("cmdReadAll")),
       cmdClose(Get<toolkit::CommandButton>("cmdClose")) {
     lblSummary.SetPlainText(true);
+    // A larger font needs more room than the one that the columns were made for.
+    const Twips larger =
+        std::max<Twips>(static_cast<Twips>(around_.settings.FontSize) / kPlainSize, 1);
     for (int column = 0; column < HistoryRows::kFields; ++column)
-        lvwSteps.AddColumn("", kColumns[column].width, column);
+        lvwSteps.AddColumn("", kColumns[column].width * larger, column);
     RestoreWindowPosition(around_.settings, *this, false);
     WireControls();
     LoadInterface();
@@ -152,7 +156,6 @@ void frmHistory::WireControls() {
 
 void frmHistory::LoadInterface() {
     const mAppSpecific& settings = around_.settings;
-    constexpr double kPlainSize = 8;
     for (toolkit::Control* control :
          std::initializer_list<toolkit::Control*>{&cboPath, &cboLives, &lvwSteps}) {
         ApplyFont(settings, *control, true, kPlainSize);
@@ -192,15 +195,17 @@ void frmHistory::Arrange() {
     const Twips buttonsTop = inside.height - kEdge - kButtonHeight;
     place(cmdClose, right - kButtonWidth, buttonsTop, kButtonWidth, kButtonHeight);
     place(cmdReadAll, right - 2 * kButtonWidth - kGap, buttonsTop, kButtonWidth, kButtonHeight);
-    place(lblOlderLogs, kEdge, buttonsTop, right - 2 * kButtonWidth - 2 * kGap - kEdge, 2 * kLine);
+    // Its first line stands in the middle of the buttons.
+    place(lblOlderLogs, kEdge, buttonsTop + 60, right - 2 * kButtonWidth - 2 * kGap - kEdge,
+          2 * kLine - 60);
     const Twips listTop =
         lives_.size() > 1 ? kLivesTop + std::max(cboLives.Height(), kBoxHeight) + kGap : kLivesTop;
     place(lvwSteps, kEdge, listTop, right - kEdge, buttonsTop - kEdge - listTop);
 
     // The first time what the design left over, then by how much the window has changed.
     Twips columns = 0;
-    for (const Column& column : kColumns)
-        columns += column.width;
+    for (int column = 0; column < HistoryRows::kFields; ++column)
+        columns += lvwSteps.ColumnWidth(column);
     const Twips before = listWidth_ > 0 ? listWidth_ : columns + kBesideColumns;
     listWidth_ = lvwSteps.Width();
     for (const int column : kWide)

@@ -321,6 +321,13 @@ TEST_F(HistoryWindow, AWiderWindowGivesThePathsMoreRoom) {
     EXPECT_FLOAT_EQ(Steps().ColumnWidth(0), date);
 }
 
+TEST_F(HistoryWindow, ALargerFontHasWiderColumns) {
+    SetSettings("FontSize=12");
+    Start();
+    Open();
+    EXPECT_FLOAT_EQ(Steps().ColumnWidth(0), 1.5F * 1100);
+}
+
 TEST_F(HistoryWindow, ItClosesWithTheProgram) {
     Start();
     Open();
