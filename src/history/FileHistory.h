@@ -53,8 +53,9 @@ LifeSummary Summarise(const FileLife& life);
 
 // The lives of all things that ever had this path, in the order in which they begin. Paths compare
 // as Windows compares them. Bare names and entries that cannot be read belong to no thing. Numbered
-// rotated logs are taken in the order of time, however they were read. Reads
-// the ends of all fields once backward and once forward, whatever the number of names and lives.
+// rotated logs are taken in the order of time, however they were read. Reads the ends of all fields
+// once backward and, from the first entry that counts, once forward, whatever the number of names
+// and lives.
 std::vector<FileLife> FindLives(const EntryLists& entries, const OperationReader& reader,
                                 std::string_view path);
 

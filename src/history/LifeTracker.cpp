@@ -33,8 +33,11 @@ void AddHomeless(std::vector<FileLife>& lives, const std::vector<HistoryStep>& h
 
 }  // namespace
 
-LifeTracker::LifeTracker(std::string_view path, std::vector<Origin> origins)
-    : path_(path), asked_(PathKey(path)), origins_(std::move(origins)) {
+LifeTracker::LifeTracker(std::string_view path, Origins origins)
+    : path_(path),
+      asked_(PathKey(path)),
+      origins_(std::move(origins.origins)),
+      first_(origins.first) {
     // There may be something before the log begins.
     Place(asked_, NewLife(path, true));
 }
@@ -42,7 +45,7 @@ LifeTracker::LifeTracker(std::string_view path, std::vector<Origin> origins)
 void LifeTracker::Run(const EntryLists& entries, const EntryOrder& order,
                       const OperationReader& reader) {
     const std::int32_t count = order.Count();
-    for (std::int32_t from = 0; from < count;) {
+    for (std::int32_t from = first_; from < count;) {
         BringIn(from);
         const std::int32_t end =
             nextOrigin_ < origins_.size() ? std::min(origins_[nextOrigin_].entry, count) : count;

@@ -16,7 +16,7 @@ namespace ordalyn {
 
 class LifeTracker {
   public:
-    LifeTracker(std::string_view path, std::vector<Origin> origins);
+    LifeTracker(std::string_view path, Origins origins);
 
     void Run(const EntryLists& entries, const EntryOrder& order, const OperationReader& reader);
     // The lives that had the path, in order. Their steps have positions for entries.
@@ -75,6 +75,7 @@ class LifeTracker {
     std::string path_;
     std::string asked_;  // its key
     std::vector<Origin> origins_;
+    std::int32_t first_;  // where there is something to be read
     std::size_t nextOrigin_ = 0;
     WatchedPaths watched_;  // the value is a life, or kEmpty
     std::vector<Tracked> lives_;

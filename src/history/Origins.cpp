@@ -17,19 +17,21 @@ class BackwardWalk {
     }
 
     void Run(const EntryLists& entries, const EntryOrder& order, const OperationReader& reader) {
+        first_ = order.Count();
         ScanEntries(entries, order, watched_, order.Count() - 1, -1,
                     [&](std::int32_t entry, std::string_view source, std::string_view target) {
+                        first_ = entry;
                         Undo(entry, reader.Read(source, target));
                     });
         for (const auto& [key, path] : watched_.All())
             Begin(key, 0, Origin::Beginning::WithLog);
     }
 
-    std::vector<Origin> Take() {
+    Origins Take() {
         std::reverse(origins_.begin(), origins_.end());
         std::stable_sort(origins_.begin(), origins_.end(),
                          [](const Origin& a, const Origin& b) { return a.entry < b.entry; });
-        return std::move(origins_);
+        return {std::move(origins_), first_};
     }
 
   private:
@@ -122,12 +124,13 @@ class BackwardWalk {
     WatchedPaths watched_;
     std::vector<std::string> paths_;  // as they are written
     std::vector<Origin> origins_;
+    std::int32_t first_ = 0;
 };
 
 }  // namespace
 
-std::vector<Origin> FindOrigins(const EntryLists& entries, const EntryOrder& order,
-                                const OperationReader& reader, std::string_view path) {
+Origins FindOrigins(const EntryLists& entries, const EntryOrder& order,
+                    const OperationReader& reader, std::string_view path) {
     BackwardWalk walk(path);
     walk.Run(entries, order, reader);
     return walk.Take();

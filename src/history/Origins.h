@@ -24,9 +24,14 @@ struct Origin {
     } beginning;
 };
 
-// Everything that is to be followed forward besides the path itself, in the order of time. Entries
-// are given by their positions.
-std::vector<Origin> FindOrigins(const EntryLists& entries, const EntryOrder& order,
-                                const OperationReader& reader, std::string_view path);
+struct Origins {
+    // Everything that is to be followed forward besides the path itself, in the order of time.
+    std::vector<Origin> origins;
+    // No entry before this one has to do with any of it; the number of entries when none has.
+    std::int32_t first = 0;
+};
+// Entries are given by their positions.
+Origins FindOrigins(const EntryLists& entries, const EntryOrder& order,
+                    const OperationReader& reader, std::string_view path);
 
 }  // namespace ordalyn

@@ -36,8 +36,9 @@ std::size_t LeastSize(std::string_view key) {
 }  // namespace
 
 void PathTails::Clear() {
-    bits_.fill(0);
-    has_.fill(false);
+    tails_.fill(0);
+    ends_.fill(0);
+    hasShort_ = false;
 }
 
 void PathTails::AddWithFolders(std::string_view key) {
@@ -67,16 +68,14 @@ void PathTails::AddTail(std::string_view tail, std::size_t length) {
     std::string bytes(kLong, kStranger);
     bytes.append(tail);
     const char* const end = bytes.data() + bytes.size();
-    std::uint64_t word = 0;
-    if (length == kShort)
-        word = Word<std::uint32_t>(end);
-    else if (length == kMiddle)
-        word = Word<std::uint64_t>(end);
-    else
-        word = Both(Word<std::uint64_t>(end), end);
-    has_[length == kShort ? 0 : (length == kMiddle ? 1 : 2)] = true;
-    const std::size_t bit = Bit(word);
-    bits_[bit / 64] |= std::uint64_t{1} << (bit % 64);
+    if (length == kShort) {
+        hasShort_ = true;
+        Set(tails_, Word<std::uint32_t>(end));
+        return;
+    }
+    const std::uint64_t last = Word<std::uint64_t>(end);
+    Set(ends_, last);
+    Set(tails_, length == kMiddle ? last : Both(last, end));
 }
 
 }  // namespace ordalyn

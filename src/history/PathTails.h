@@ -24,16 +24,14 @@ class PathTails {
     bool MayEnd(std::string_view field) const {
         const char* const end = field.data() + Stripped(field);
         const auto size = static_cast<std::size_t>(end - field.data());
-        if (size < kShort)
-            return false;
-        if (has_[0] && Has(Word<std::uint32_t>(end)))
+        if (hasShort_ && size >= kShort && Has(tails_, Word<std::uint32_t>(end)))
             return true;
-        if (size < kMiddle || !(has_[1] || has_[2]))
+        if (size < kMiddle)
             return false;
         const std::uint64_t last = Word<std::uint64_t>(end);
-        if (has_[1] && Has(last))
-            return true;
-        return has_[2] && size >= kLong && Has(Both(last, end));
+        if (!Has(ends_, last)) [[likely]]
+            return false;
+        return Has(tails_, last) || (size >= kLong && Has(tails_, Both(last, end)));
     }
 
   private:
@@ -80,15 +78,21 @@ class PathTails {
     static std::size_t Bit(std::uint64_t word) {
         return static_cast<std::size_t>((word * 0x9E3779B97F4A7C15U) >> (64 - kBits));
     }
-    bool Has(std::uint64_t word) const {
+    using Bits = std::array<std::uint64_t, (std::size_t{1} << kBits) / 64>;
+    static bool Has(const Bits& bits, std::uint64_t word) {
         const std::size_t bit = Bit(word);
-        return (bits_[bit / 64] >> (bit % 64) & 1U) != 0;
+        return (bits[bit / 64] >> (bit % 64) & 1U) != 0;
+    }
+    static void Set(Bits& bits, std::uint64_t word) {
+        const std::size_t bit = Bit(word);
+        bits[bit / 64] |= std::uint64_t{1} << (bit % 64);
     }
     void Add(std::string_view key);
     void AddTail(std::string_view tail, std::size_t length);
 
-    std::array<std::uint64_t, (std::size_t{1} << kBits) / 64> bits_{};
-    std::array<bool, 3> has_{};  // tails of each length
+    Bits tails_{};
+    Bits ends_{};  // of all but short tails the last part, which is looked at first
+    bool hasShort_ = false;
 };
 
 }  // namespace ordalyn
