@@ -91,6 +91,7 @@ void DayPanels::EntriesAdded(std::int32_t firstNew) {
         SelectLastRow();
         return;
     }
+    Attempt([this] { DaysListed.Raise(); });
     const std::int32_t lastDay = days_.DayCount() - 1;
     if (!anyDay || (atTheEnd && selectedDay_ != kAllDates && selectedDay_ != lastDay))
         ChooseDay(lastDay);
