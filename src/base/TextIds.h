@@ -186,7 +186,6 @@ inline constexpr TextId kDaysLeftOut{"5149"};
 inline constexpr TextId kFewerOperations{"5150"};
 inline constexpr TextId kMoreOperations{"5151"};
 inline constexpr TextId kSomethingFailed{"5152"};
-inline constexpr TextId kClose{"5153"};
 
 }  // namespace text_id
 

@@ -131,7 +131,6 @@ constexpr std::string_view kTable[] = {
     "5150=Fewer",
     "5151=More",
     "5152=Something failed",
-    "5153=Close",
     "5155=&Save Shown Rows As...",
     "5156=Copy &Rows",
     "5157=Save shown rows as",

@@ -94,7 +94,7 @@ inline constexpr DesignId kDesignIds[] = {
     {"frmCalendar", "", "5141"},
     {"frmCalendar", "cmdPrevious", "5142"},
     {"frmCalendar", "cmdNext", "5143"},
-    {"frmCalendar", "cmdClose", "5153"},
+    {"frmCalendar", "cmdClose", "5129"},
     {"frmAbout", "", "1501"},
     {"frmAbout", "lblProgrammedBy", "1502"},
     {"frmAbout", "Label4", "1505"},
