@@ -1,17 +1,42 @@
 #include "log/EntryTable.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "base/Text.h"
 #include "log/LogLine.h"
+#include "log/OrdinaryLine.h"
 
 namespace ordalyn {
 
 namespace {
 
-// A tab would begin the next field, the others the next line.
-bool BreaksLine(char c) {
-    return c == '\t' || c == '\r' || c == '\n';
+enum Special : unsigned char {
+    kPlain = 0,
+    kBreaksLine = 1,  // a tab would begin the next field, the others the next line
+    kQuoted = 2       // to be quoted between commas
+};
+
+// What each byte is; a table, as every byte that is saved is looked up.
+constexpr std::array<unsigned char, 256> SpecialBytes() {
+    std::array<unsigned char, 256> bytes{};
+    for (const char c : {'\t', '\r', '\n'})
+        bytes[static_cast<unsigned char>(c)] = kBreaksLine | kQuoted;
+    for (const char c : {',', '"'})
+        bytes[static_cast<unsigned char>(c)] = kQuoted;
+    return bytes;
+}
+constexpr std::array<unsigned char, 256> kSpecial = SpecialBytes();
+
+bool Is(char c, Special special) {
+    return (kSpecial[static_cast<unsigned char>(c)] & special) != 0;
+}
+
+bool HasAny(std::string_view field, Special special) {
+    unsigned char all = kPlain;
+    for (const char c : field)
+        all |= kSpecial[static_cast<unsigned char>(c)];
+    return (all & special) != 0;
 }
 
 void AddQuoted(std::string& to, std::string_view field) {
@@ -28,16 +53,31 @@ void AddBetweenTabs(std::string& to, std::string_view field) {
         AddQuoted(to, field);
     else
         to += field;
-    std::replace_if(to.begin() + static_cast<std::ptrdiff_t>(start), to.end(), BreaksLine, ' ');
+    if (HasAny(field, kBreaksLine))
+        std::replace_if(
+            to.begin() + static_cast<std::ptrdiff_t>(start), to.end(),
+            [](char c) { return Is(c, kBreaksLine); }, ' ');
 }
 
 void AddBetweenCommas(std::string& to, std::string_view field) {
-    const bool plain = std::none_of(field.begin(), field.end(),
-                                    [](char c) { return c == ',' || c == '"' || BreaksLine(c); });
-    if (plain)
-        to += field;
-    else
+    if (HasAny(field, kQuoted))
         AddQuoted(to, field);
+    else
+        to += field;
+}
+
+bool BeginsWithDigit(std::string_view text) {
+    return !text.empty() && text.front() >= '0' && text.front() <= '9';
+}
+
+// The line when it reads as an ordinary one with this target does; reading it says the same, only
+// later.
+std::optional<OrdinaryLine> Ordinary(std::string_view source, std::string_view target) {
+    const std::optional<OrdinaryLine> line = ReadOrdinaryLine(source);
+    const bool whole =
+        target.empty() || (source.ends_with(' ') && target.find("->") == std::string_view::npos);
+    const bool read = line && whole && BeginsWithDigit(source) && !BeginsWithDigit(line->word);
+    return read ? line : std::nullopt;
 }
 
 }  // namespace
@@ -59,6 +99,9 @@ void EntryTable::AddEntry(std::string& to, std::int32_t entry) const {
     const std::string_view date = entries_.EntryDates().List(entry);
     const std::string_view source = entries_.EntrySources().List(entry);
     const std::string_view target = entries_.EntryTargets().List(entry);
+    if (const std::optional<OrdinaryLine> line = Ordinary(source, target))
+        return AddLine(
+            to, {date, TimeText(source), line->word, TrimBlanks(line->path), TrimBlanks(target)});
     const Operation operation = reader_.Read(source, target);
     // A line that names no path, as those of the file manager's start, has more than its word.
     if (operation.kind == OperationKind::None || operation.source.empty())

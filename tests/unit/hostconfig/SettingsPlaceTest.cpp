@@ -149,16 +149,9 @@ TEST_F(SettingsPlace, StaysWhileTheProgramsFileCannotBeReadToBeCopied) {
     EXPECT_EQ(system.files.Get(kUserFile), "[Ordalyn]\r\n");
 }
 
-// A disk that is full.
-class FullFiles : public test::MemoryFiles {
-  public:
-    void Replace(std::string_view path, std::string_view) override {
-        throw FileError(std::string(path), 112);
-    }
-};
-
 TEST_F(SettingsPlace, StaysWhenTheCopyCannotBeMade) {
-    FullFiles full;
+    test::MemoryFiles full;
+    full.roomOnDisk = 0;
     full.AddFolder(kUserFolder);
     full.Set(kBesideProgram, "[Ordalyn]\r\n");
     full.ProtectFolder(kProgramFolder);

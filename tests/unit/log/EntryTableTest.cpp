@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+#include <vector>
+
 namespace ordalyn {
 namespace {
 
@@ -59,6 +63,27 @@ TEST_F(EntryTableTest, WithCommasTheyAreQuoted) {
               "d,10:15:30,Copy,\"C:\\a,b\",\"D:\\\"\"c\"\"\"\r\n");
     EXPECT_EQ(line({"d", "10:15:30: Copy: C:\\a\nb ", "D:\\a\tb"}),
               "d,10:15:30,Copy,\"C:\\a\nb\",\"D:\\a\tb\"\r\n");
+}
+
+// An ordinary line is not read word by word; what stands in the table is the same.
+TEST_F(EntryTableTest, OrdinaryLinesAreThoseThatReadingGives) {
+    const std::vector<std::string> parts = {"Copy", "Odd", "7x",    ": ",       ":",   " ",
+                                            "(",    ")",   "C:\\a", "\\\\s\\x", "-> ", "y"};
+    const std::vector<std::string> targets = {"", "D:\\b ", " E:\\c -> d", "name"};
+    std::mt19937 random(5);
+    for (int i = 0; i < 20'000; ++i) {
+        std::string source = random() % 8 == 0 ? "no: " : "10:00:00: ";
+        for (auto part = random() % 6; part > 0; --part)
+            source += parts[random() % parts.size()];
+        const std::string& target = targets[random() % targets.size()];
+        const Operation read = reader.Read(source, target);
+        if (read.source.empty() || read.Failed())
+            continue;
+        ASSERT_EQ(Line({"d", source, target}),
+                  "d\t" + std::string(TimeText(source)) + "\t" + std::string(read.word) + "\t" +
+                      std::string(read.source) + "\t" + std::string(read.target) + "\r\n")
+            << source;
+    }
 }
 
 TEST_F(EntryTableTest, TheFirstLineHasTheNamesOfTheColumns) {

@@ -44,7 +44,7 @@ TEST(FailedEntries, AreThoseThatReadingSaysWhateverTheLine) {
     int failed = 0;
     for (int i = 0; i < 20'000; ++i) {
         std::string source = random() % 8 == 0 ? "" : "10:00:00: ";
-        for (unsigned part = random() % 8; part > 0; --part)
+        for (auto part = random() % 8; part > 0; --part)
             source += parts[random() % parts.size()];
         const bool read = reader.Read(source, "").Failed();
         ASSERT_EQ(HasFailed(reader, source, ""), read) << source;
