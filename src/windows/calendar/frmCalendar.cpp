@@ -24,7 +24,7 @@ namespace {
 
 constexpr Twips kEdge = 120;
 constexpr Twips kLine = 240;
-constexpr Twips kButtonWidth = 1710, kButtonHeight = 375;
+constexpr Twips kButtonWidth = 1860, kButtonHeight = 375;
 constexpr toolkit::Size kClient = {9240, 8520};
 // Entries that are looked at before the picture is drawn, and again each time when there is nothing
 // else to do: some thousandths of a second.
@@ -283,8 +283,11 @@ void frmCalendar::Choose(Date day) {
 void frmCalendar::ShowYear() {
     cmdPrevious.SetEnabled(HasDays() && Year() > FirstYear());
     cmdNext.SetEnabled(HasDays() && Year() < LastYear());
-    lblLeftOut.SetCaption(ReplaceIgnoreCase(around_.texts.text(text_id::kDaysLeftOut), "%i",
-                                            std::to_string(around_.days.LeftOut())));
+    const std::int32_t leftOut = around_.days.LeftOut();
+    lblLeftOut.SetCaption(leftOut == 0
+                              ? ""
+                              : ReplaceIgnoreCase(around_.texts.text(text_id::kDaysLeftOut), "%i",
+                                                  std::to_string(leftOut)));
     ShowDay();
     cnvDays.Invalidate();
 }

@@ -153,6 +153,9 @@ TEST_P(LanguagesFit, TextsAndControls) {
 
     CalendarDays days([](std::string_view) { return std::nullopt; },
                       [](std::int32_t) { return false; });
+    EntryLists undated;
+    undated.Add({"", "10:00:00: Copy", ""});
+    days.Count(undated, DayIndex());
     const frmCalendar calendar(tools, {.texts = texts,
                                        .settings = *shared.settings,
                                        .locale = program.system.locale,
