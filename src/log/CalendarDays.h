@@ -72,7 +72,7 @@ class CalendarDays {
         bool failed;
     };
     const Run& RunOf(const Day& day, std::int32_t number) const {
-        return runs_[static_cast<std::size_t>(day.firstRun + number)];
+        return runs_[static_cast<std::size_t>(day.firstRun) + static_cast<std::size_t>(number)];
     }
     void ForgetTail();
     bool LookAtRun(const Run& run, std::int32_t& most);

@@ -54,7 +54,8 @@ CalendarPicture::Measures CalendarPicture::Measure() const {
     const Twips around = 2 * (all.line + all.between);  // the year and the legend
     for (const int columns : {2, 3, 4, 6}) {
         const auto across = static_cast<Twips>(columns);
-        const auto down = static_cast<Twips>(kMonths / columns);
+        const int rows = kMonths / columns;
+        const auto down = static_cast<Twips>(rows);
         // A month is seven squares wide, one lies between two, and half of one around all.
         const Twips wide = all.Whole(canvas_.Width() / (8 * across - 0.5F));
         const Twips high = all.Whole(
@@ -83,10 +84,11 @@ Rect CalendarPicture::Placed(const Measures& all, Rect area) const {
 
 Rect CalendarPicture::MonthArea(const Measures& all, unsigned month) const {
     const int place = static_cast<int>(month) - 1;
+    const int row = place / all.columns;
     const Twips height = 2 * all.line + kWeeks * all.pitch;
     return {all.left + static_cast<Twips>(place % all.columns) * 8 * all.pitch,
-            all.monthsTop + static_cast<Twips>(place / all.columns) * (height + all.between),
-            all.MonthWidth(), height};
+            all.monthsTop + static_cast<Twips>(row) * (height + all.between), all.MonthWidth(),
+            height};
 }
 
 Rect CalendarPicture::SquareArea(const Measures& all, Date date) const {
