@@ -248,7 +248,7 @@ TEST_F(Calendar, NothingIsReadOrCountedWhileItIsNotSeen) {
 }
 
 TEST_F(Calendar, ALogWithManyEntriesIsMarkedBitByBit) {
-    for (int i = 0; i < 120'000; ++i)
+    for (int i = 0; i < 220'000; ++i)
         entries.Add({"01.03.2024", "10:00:00: Copy: C:\\a", ""});
     entries.Add({"01.03.2024", "10:00:00: Copy(Error: Disk full): C:\\a", ""});
     entries.Add({"02.03.2024", "10:00:00: Copy: C:\\a", ""});
