@@ -4,7 +4,6 @@
 // takes its place.
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -32,7 +31,10 @@ enum class StepKind {
 struct HistoryStep {
     std::int32_t entry;
     StepKind kind;
-    auto operator<=>(const HistoryStep&) const = default;
+    bool operator==(const HistoryStep&) const = default;
+    bool operator<(const HistoryStep& other) const {
+        return entry != other.entry ? entry < other.entry : kind < other.kind;
+    }
 };
 
 inline constexpr std::int32_t kNoEntry = -1;

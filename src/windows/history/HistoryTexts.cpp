@@ -61,7 +61,7 @@ std::string LifeInList(const FileLife& life, std::size_t number, std::size_t cou
                                                    {'t', dateOf(life.steps.back().entry)}});
 }
 
-std::string AboutPath(std::string text, std::string_view path) {
+std::string AboutPath(std::string_view text, std::string_view path) {
     return WithValues(text, {{'p', std::string(path)}});
 }
 

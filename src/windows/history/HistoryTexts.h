@@ -19,6 +19,6 @@ std::string LifeInWords(const FileLife& life, const TextSource& text, const Date
 std::string LifeInList(const FileLife& life, std::size_t number, std::size_t count,
                        const TextSource& text, const DateOfEntry& dateOf);
 // A text about a path, which replaces "%p" in it.
-std::string AboutPath(std::string text, std::string_view path);
+std::string AboutPath(std::string_view text, std::string_view path);
 
 }  // namespace ordalyn
