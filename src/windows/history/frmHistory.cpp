@@ -20,8 +20,8 @@ using toolkit::Twips;
 namespace {
 
 constexpr Twips kEdge = 120, kGap = 75, kLine = 240;
-constexpr Twips kLabelWidth = 1500, kBoxLeft = kEdge + kLabelWidth + kGap, kBoxHeight = 315;
-constexpr Twips kButtonWidth = 1890, kButtonHeight = 375;
+constexpr Twips kLabelWidth = 1950, kBoxLeft = kEdge + kLabelWidth + kGap, kBoxHeight = 315;
+constexpr Twips kButtonWidth = 2160, kButtonHeight = 375;
 // Two lines, for long paths.
 constexpr Twips kSummaryTop = 600, kSummaryHeight = 2 * kLine;
 constexpr Twips kLivesTop = kSummaryTop + kSummaryHeight + kGap;
@@ -92,7 +92,7 @@ struct Column {
 constexpr Column kColumns[] = {{text_id::kDateName, 1100},   {text_id::kTime, 850},
                                {text_id::kOperation, 1250},  {text_id::kMovedFrom, 2500},
                                {text_id::kMovedTo, 2500},    {text_id::kOutcome, 1200},
-                               {text_id::kLogFileName, 1250}};
+                               {text_id::kLogFileName, 1600}};
 // These two take what a wider window has.
 constexpr int kWide[] = {HistoryRows::kFrom, HistoryRows::kTo};
 constexpr Twips kLeastWide = 600;

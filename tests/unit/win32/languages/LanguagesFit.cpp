@@ -14,6 +14,7 @@
 #include "windows/about/frmAbout.h"
 #include "windows/calendar/frmCalendar.h"
 #include "windows/common/SharedObjects.h"
+#include "windows/history/frmHistory.h"
 #include "windows/main/FindCommands.h"
 #include "windows/main/frmMain.h"
 #include "windows/options/frmOptions.h"
@@ -147,6 +148,23 @@ TEST_P(LanguagesFit, TextsAndControls) {
                                      .applyNewDateFormat = [](std::int32_t) {},
                                      .refreshMainWindow = [] {}});
     ExpectFit(options);
+
+    // With all that it can have: several lives, and logs that have not been read.
+    EntryLists entries;
+    for (int i = 0; i < 12; ++i)
+        entries.Add({"15.03.2024", R"(12:02:45: Delete: D:\a.txt)", {}});
+    const OperationReader reader({{OperationKind::Delete, "Delete"}});
+    frmHistory history(tools, {.settings = *shared.settings,
+                               .strings = *shared.strings,
+                               .language = *shared.language,
+                               .entries = entries,
+                               .reader = [&]() -> const OperationReader& { return reader; },
+                               .shownDate = [](std::string_view date) { return std::string(date); },
+                               .olderLogsAreLeft = [] { return true; }});
+    for (const char* path : {"a.txt", R"(D:\b.txt)", R"(D:\a.txt)"}) {
+        history.ShowPath(path, kNoEntry);
+        ExpectFit(history);
+    }
 
     ExpectFit(program.commands.FindDialog());
     ExpectFit(program.commands.FilterDialog());
