@@ -100,7 +100,7 @@ void HistoryCommands::ShowHistoryOf(const std::string& path, std::int32_t entry)
 
 void HistoryCommands::GoTo(std::int32_t entry) {
     if (!parts_.panels.ShowEntry(entry)) {
-        if (!parts_.find.HasFilter()) {
+        if (!parts_.find.HasFilter() && !parts_.panels.FailedOnly()) {
             shared_.toolkit.Beep();
             return;
         }
@@ -109,12 +109,23 @@ void HistoryCommands::GoTo(std::int32_t entry) {
             toolkit::MessageIcon::Question, toolkit::MessageButtons::YesNo);
         if (answer != toolkit::Answer::Yes || mainWindow_.Unloaded())
             return;
-        parts_.find.RemoveFilter();
-        if (!parts_.panels.ShowEntry(entry))
+        if (!ShowWithoutFilter(entry))
             return;
     }
     mainWindow_.SetFocus();
     parts_.SourceListView.SetFocus();
+}
+
+// That only failed operations are shown is a filter, too. The other one goes only when it has to.
+bool HistoryCommands::ShowWithoutFilter(std::int32_t entry) {
+    if (parts_.panels.FailedOnly()) {
+        mainWindow_.Menu("mnuViewFailedOnly").SetChecked(false);
+        parts_.panels.ShowFailedOnly(false);
+        if (parts_.panels.ShowEntry(entry))
+            return true;
+    }
+    parts_.find.RemoveFilter();
+    return parts_.panels.ShowEntry(entry);
 }
 
 void HistoryCommands::ReadAllFiles() {

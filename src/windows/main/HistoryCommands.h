@@ -54,6 +54,7 @@ class HistoryCommands {
     void ShowHistoryOf(const std::string& path, std::int32_t entry);
     void PrepareContextMenu();
     void GoTo(std::int32_t entry);
+    bool ShowWithoutFilter(std::int32_t entry);
     void ReadAllFiles();
 
     SharedObjects& shared_;

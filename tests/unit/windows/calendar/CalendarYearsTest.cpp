@@ -163,7 +163,7 @@ TEST_F(CalendarYears, HighContrastHasTheSystemsColors) {
 TEST_F(CalendarYears, AnotherLanguageReachesIt) {
     LoadDays({"01.03.2024"});
     Shown();
-    UseLanguageFile("5141=Kalender\r\n5144=%d - Operationen: %i\r\n5150=Weniger\r\n5153=Zu");
+    UseLanguageFile("5141=Kalender\r\n5144=%d - Operationen: %i\r\n5129=Zu\r\n5150=Weniger");
     commands.LoadInterface();
     EXPECT_EQ(commands.Window().Caption(), "Kalender");
     EXPECT_EQ(Button("cmdClose").Caption(), "Zu");

@@ -166,6 +166,19 @@ TEST_F(HistoryWindow, AFilterThatHidesTheRowIsClearedAfterAQuestion) {
     EXPECT_EQ(ShownRow(), R"(Move: D:\plan.txt )");
 }
 
+TEST_F(HistoryWindow, FailedOperationsOnlyIsAFilterToo) {
+    Start();
+    Choose("mnuViewFailedOnly");
+    Open();
+    Ask(R"(E:\plan.txt)");
+    tools.onMessage = [&](const test::ShownMessage&) { return toolkit::Answer::Yes; };
+    Steps().UserActivated(0);
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text, "The filter hides this entry. Clear the filter?");
+    EXPECT_FALSE(Main().Menu("mnuViewFailedOnly").Checked());
+    EXPECT_EQ(ShownRow(), R"(Move: D:\plan.txt )");
+}
+
 TEST_F(HistoryWindow, TheContextMenuAsksForSourceAndTarget) {
     Start();
     Date().UserSelected(1);

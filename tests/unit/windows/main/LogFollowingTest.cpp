@@ -227,6 +227,51 @@ TEST_F(Following, TheFilterNarrowsWhatIsNew) {
     EXPECT_EQ(Source().SelectedRow(), 0);
 }
 
+TEST_F(Following, WhatFailedIsMarkedAndAloneAlsoWhenItIsNew) {
+    StartFollowing();
+    const std::string failed = "02.03.2024 11:00:01: Delete(Error: Access denied): C:\\locked";
+    AppendAndWait({failed});
+    EXPECT_THAT(Rows(), ElementsAre("a", "b", "locked"));
+    EXPECT_FALSE(Source().IsMarked(1));
+    EXPECT_TRUE(Source().IsMarked(2));
+    EXPECT_TRUE(Target().IsMarked(2));
+    Choose("mnuViewFailedOnly");
+    AppendAndWait({Line("c"), failed});
+    EXPECT_THAT(Rows(), ElementsAre("locked", "locked"));
+}
+
+TEST_F(Following, SeveralSelectedRowsStaySelected) {
+    StartFollowing({"a", "b", "c"});
+    Select(0);
+    Source().UserSelected(1, toolkit::Choice::Extend);
+    AppendAndWait({Line("d")});
+    EXPECT_EQ(Source().RowCount(), 4);
+    EXPECT_EQ(Source().SelectedRows(), toolkit::RowRanges(0, 2));
+    EXPECT_EQ(Target().SelectedRows(), toolkit::RowRanges(0, 2));
+}
+
+TEST_F(Following, TheHistoryAndTheCalendarThatAreOpenFollowToo) {
+    StartFollowing();
+    Choose("mnuSearchHistory");
+    toolkit::Form& history = tools.FormNamed("frmHistory");
+    auto& path = history.Get<toolkit::ComboBox>("cboPath");
+    path.UserEdited("C:\\new");
+    tools.PressIn(history, path, toolkit::key::Enter);
+    EXPECT_EQ(history.Get<toolkit::ListView>("lvwSteps").RowCount(), 0);
+    Choose("mnuViewCalendar");
+    tools.DoLaterWork();
+    toolkit::Form& calendar = tools.FormNamed("frmCalendar");
+    const auto count = [&] {
+        tools.DoLaterWork();
+        tools.Press(calendar, toolkit::key::End);
+        return calendar.Get<toolkit::Label>("lblDay").Caption();
+    };
+    EXPECT_THAT(count(), testing::HasSubstr("2 "));
+    AppendAndWait({Line("new")});
+    EXPECT_EQ(history.Get<toolkit::ListView>("lvwSteps").RowCount(), 1);
+    EXPECT_THAT(count(), testing::HasSubstr("3 "));
+}
+
 TEST_F(Following, OnePanelGrows) {
     SetSettings("FollowLog=1\r\nTwoPanels=0");
     SetLog(kLog, {Line("a"), Line("b")});
