@@ -67,7 +67,9 @@ build_folder() {
         mkdir "$target/Languages"
         cp languages/*.lng "$target/Languages/"
     fi
-    for file in packaging/Readme.txt LICENSE LICENSE.txt; do
+    # With the line ends that every Windows editor shows.
+    sed 's/$/\r/' packaging/Readme.txt >"$target/Readme.txt"
+    for file in LICENSE LICENSE.txt; do
         if [ -e "$file" ]; then cp "$file" "$target/"; fi
     done
     build_help "$target"

@@ -156,20 +156,13 @@ const Setting& SettingOf(Setting::Place place) {
 }
 
 std::span<const OtherEntry* const> OtherEntries() {
-    static const OtherEntry* const all[] = {&entry::MainPosition,
-                                            &entry::MainWindowState,
-                                            &entry::FiltersPosition,
-                                            &entry::CalendarPosition,
-                                            &entry::HistoryPosition,
-                                            &entry::FindOptions,
-                                            &entry::ColumnsWidth,
-                                            &entry::ColumnHeadersPosition,
-                                            &entry::RecentFiles,
-                                            &entry::FindTexts,
-                                            &entry::FilterTexts,
-                                            &kLoggingID,
-                                            &kExemptSections,
-                                            &kCommanderFolder,
+    static const OtherEntry* const all[] = {&entry::MainPosition,    &entry::MainWindowState,
+                                            &entry::FiltersPosition, &entry::CalendarPosition,
+                                            &entry::HistoryPosition, &entry::FindOptions,
+                                            &entry::ColumnsWidth,    &entry::ColumnHeadersPosition,
+                                            &entry::RecentFiles,     &entry::FindTexts,
+                                            &entry::FilterTexts,     &kLoggingID,
+                                            &kExemptSections,        &kCommanderFolder,
                                             &kCommanderIni};
     return all;
 }

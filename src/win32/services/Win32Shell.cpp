@@ -48,7 +48,7 @@ void Select(const std::string& path) {
     const ThreadHandle thread(CreateThread(nullptr, 0, SelectItem,
                                            const_cast<std::wstring*>(parameter.get()), 0, nullptr));
     if (thread)
-        parameter.release();  // SelectItem has it
+        static_cast<void>(parameter.release());  // SelectItem has it
 }
 
 }  // namespace
