@@ -81,7 +81,7 @@ NAMES = {
              ("Button", 1009), ("Button", 109)],
     "options": [("Static", 1052), ("Static", 1052), ("Static", 1053), ("Static", 1053),
                 ("SysTabControl32", 1001), ("Edit", 5103)],
-    "calendar": [("Button", 5142), ("Button", 5143), ("Button", 5153)],
+    "calendar": [("Button", 5142), ("Button", 5143), ("Button", 5129)],
     "about": [("Button", 1008), ("Static", 1502), ("Static", 1503)],
 }
 
