@@ -180,7 +180,7 @@ TEST_F(FileManager, APathWithAQuotationMarkIsRefused) {
     for (int row = 0; row < 3; ++row) {
         Source().UserSelected(row);
         Choose(kSource);
-        ASSERT_EQ(tools.messages.size(), row + 1U);
+        ASSERT_EQ(tools.messages.size(), static_cast<std::size_t>(row) + 1);
         EXPECT_THAT(tools.messages.back().text,
                     testing::StartsWith("This path holds a sign that no path can have:\r\n"));
     }
