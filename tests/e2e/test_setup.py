@@ -48,7 +48,8 @@ class Computer:
         for root in (r"HKCU\Software", r"HKLM\Software"):
             listed = self.wine.run(["reg", "query", root, "/s", "/reg:64"]).decode("utf-8", "replace")
             keys |= {line.strip() for line in listed.splitlines() if line.startswith("HKEY_")}
-        return {key for key in keys if not RESTLESS.search(key)}
+        # The key for such entries is the system's own, which some do not make before it is used.
+        return {key for key in keys if not RESTLESS.search(key) and not key.endswith(r"\Uninstall")}
 
     def state(self):
         return self.files(), self.registry()
