@@ -4,24 +4,18 @@
 #include <array>
 #include <cmath>
 
+#include "toolkit/TextColors.h"
+
 namespace ordalyn {
 
 using toolkit::Color;
+using toolkit::Contrast;
 
 namespace {
 
 // Red, green, blue.
 std::array<int, 3> Parts(Color color) {
     return {color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF};
-}
-
-double Luminance(Color color) {
-    const auto linear = [](int part) {
-        const double value = part / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    const auto [red, green, blue] = Parts(color);
-    return 0.2126 * linear(red) + 0.7152 * linear(green) + 0.0722 * linear(blue);
 }
 
 }  // namespace
@@ -33,11 +27,6 @@ Color Mixed(Color from, Color to, double share) {
     for (std::size_t i = 3; i-- > 0;)
         mixed = mixed << 8 | static_cast<Color>(std::lround(a[i] + (b[i] - a[i]) * share));
     return mixed;
-}
-
-double Contrast(Color one, Color other) {
-    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
 }
 
 Color SeenOn(Color background, std::initializer_list<Color> wanted, double wellEnough) {

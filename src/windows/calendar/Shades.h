@@ -11,8 +11,6 @@ namespace ordalyn {
 // The colour that lies so far (0 to 1) on the way from one to the other. No colours of the
 // system's.
 toolkit::Color Mixed(toolkit::Color from, toolkit::Color to, double share);
-// How well one is seen on the other, from 1 (not at all) to 21: the ratio of their luminances.
-double Contrast(toolkit::Color one, toolkit::Color other);
 // The first of the colours that is seen well on the background; if none is, the one seen best.
 toolkit::Color SeenOn(toolkit::Color background, std::initializer_list<toolkit::Color> wanted,
                       double wellEnough);

@@ -1,6 +1,7 @@
 #include "windows/main/CalendarCommands.h"
 
 #include "log/DottedDate.h"
+#include "search/FailedEntries.h"
 
 namespace ordalyn {
 
@@ -25,9 +26,8 @@ CalendarCommands::CalendarCommands(SharedObjects& shared, toolkit::Form& mainWin
       panels_(panels),
       days_([&shared](std::string_view text) { return ReadLogDate(shared.services.locale, text); },
             [&entries, &operations](std::int32_t entry) {
-                return operations.Reader()
-                    .Read(entries.EntrySources().List(entry), entries.EntryTargets().List(entry))
-                    .Failed();
+                return HasFailed(operations.Reader(), entries.EntrySources().List(entry),
+                                 entries.EntryTargets().List(entry));
             }) {
     panels_.DaysListed.Subscribe([this] { DaysListed(); });
     panels_.DayShown.Subscribe([this] {

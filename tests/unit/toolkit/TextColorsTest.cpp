@@ -11,6 +11,8 @@ constexpr Color kHighlight = SystemColor(13);
 TEST(TextColors, DifferInBrightnessAsTheGuidelinesMeasureIt) {
     EXPECT_NEAR(Contrast(0x000000, 0xFFFFFF), 21, 0.001);
     EXPECT_NEAR(Contrast(0xFFFFFF, 0xFFFFFF), 1, 0.001);
+    EXPECT_NEAR(Contrast(0xFFFFFF, 0x000000), 21, 0.001);
+    EXPECT_NEAR(Contrast(0x777777, 0x777777), 1, 0.001);
     EXPECT_NEAR(Contrast(0x0000FF, 0xFFFFFF), 3.998, 0.01);
     EXPECT_NEAR(Contrast(0xFFFFFF, 0xFF0000), 8.592, 0.01);
 }

@@ -8,6 +8,7 @@
 #include <set>
 
 #include "support/toolkit/MemoryToolkit.h"
+#include "toolkit/TextColors.h"
 #include "windows/calendar/Shades.h"
 
 namespace ordalyn::test {
@@ -20,6 +21,7 @@ using std::chrono::year;
 using std::chrono::year_month_day;
 using testing::IsEmpty;
 using toolkit::Color;
+using toolkit::Contrast;
 using toolkit::Rect;
 using toolkit::Twips;
 
