@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "base/Attempt.h"
@@ -86,7 +87,10 @@ void RestoreWindowPosition(const mAppSpecific& settings, toolkit::Form& form, bo
     Attempt([&] {
         toolkit::Toolkit& toolkit = form.toolkit();
         const OtherEntry& entry = PlacementEntry(form.Name());
-        const std::optional<Rect> stored = UsablePlacement(toolkit, settings.ReadEntry(entry));
+        // Nobody has chosen the default place, which may be larger than the screen.
+        const std::string text = settings.ReadEntry(entry);
+        const std::optional<Rect> stored =
+            text == entry.fallback ? std::nullopt : UsablePlacement(toolkit, text);
         form.Move(stored ? *stored : DefaultPlacement(toolkit, entry.fallback));
     });
     if (!restoreState)

@@ -32,6 +32,14 @@ TEST_F(RestorePosition, WithoutAnEntryTheDefaultCounts) {
     EXPECT_EQ(filters.Bounds(), (Rect{3495, 7740, 8910, 795}));
 }
 
+TEST_F(RestorePosition, WithoutAnEntryTheWindowFitsIntoTheWorkArea) {
+    toolkit.workArea = {0, 300, 10000, 7000};
+    RestoreWindowPosition(settings, form, true);
+    EXPECT_EQ(form.Bounds(), (Rect{0, 300, 10000, 7000}));
+    RestoreWindowPosition(settings, filters, false);
+    EXPECT_EQ(filters.Bounds(), (Rect{1090, 6505, 8910, 795}));
+}
+
 TEST_F(RestorePosition, EachFormHasItsOwnEntries) {
     Put("Ordalyn", "MainPosition", "10,20,3000,4000");
     Put("Ordalyn", "FiltersPosition", "30,40,9000,800");
