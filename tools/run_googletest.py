@@ -11,6 +11,7 @@ import pathlib
 import re
 import subprocess
 import sys
+import time
 
 PROJECT = pathlib.Path(__file__).resolve().parents[1]
 SECONDS_FOR_ONE_PROGRAM = 300
@@ -22,9 +23,10 @@ STARTED = re.compile(r"^\[ RUN      \] (\S+)", re.M)
 
 
 class Result:
-    def __init__(self, program, output, code):
+    def __init__(self, program, output, code, seconds):
         self.program = pathlib.Path(program).name
         self.output = output
+        self.seconds = seconds
         self.passed = len(PASSED.findall(output))
         self.failed = len(FAILED.findall(output))
         # A program that ends by itself in the middle (a sanitizer's finding, a crash, a hang) has
@@ -35,7 +37,8 @@ class Result:
     @classmethod
     def together(cls, parts):
         """The result of a program whose tests were run in parts."""
-        whole = cls(parts[0].program, "\n".join(part.output for part in parts), 0)
+        whole = cls(parts[0].program, "\n".join(part.output for part in parts), 0,
+                    max(part.seconds for part in parts))
         whole.failed = sum(part.failed for part in parts)
         return whole.checked()
 
@@ -46,7 +49,8 @@ class Result:
         return self
 
     def show(self):
-        print(f"{self.program}: {self.passed} passed, {self.failed} failed", flush=True)
+        print(f"{self.program}: {self.passed} passed, {self.failed} failed, {self.seconds:.1f} s",
+              flush=True)
         if self.failed:
             quiet = re.compile(r"^\[(       OK | RUN      |----------)\]")
             print("\n".join(line for line in self.output.splitlines() if not quiet.match(line)))
@@ -56,14 +60,17 @@ class Result:
 
 
 def run(program, command, **options):
+    start = time.monotonic()
     try:
         done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                               stdin=subprocess.DEVNULL, timeout=SECONDS_FOR_ONE_PROGRAM,
                               check=False, **options)
-        return Result(program, done.stdout.decode("utf-8", "replace"), done.returncode)
+        return Result(program, done.stdout.decode("utf-8", "replace"), done.returncode,
+                      time.monotonic() - start)
     except subprocess.TimeoutExpired as late:
         output = (late.stdout or b"").decode("utf-8", "replace")
-        return Result(program, output + "\n(ended after a time-out)", -1)
+        return Result(program, output + "\n(ended after a time-out)", -1,
+                      time.monotonic() - start)
 
 
 def native_environment():

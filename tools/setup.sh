@@ -29,7 +29,7 @@ packages_for() {
             ;;
         test)
             echo python3-pytest python3-pytest-xdist \
-                locales shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev debootstrap
+                locales shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev lld-14 debootstrap
             ;;
         *)
             echo "setup.sh: no such task: $1" >&2
