@@ -38,10 +38,20 @@ count_file() {
     done <"$COUNTS"
 }
 
+# alone PRESET COMMAND: nobody else uses the build folder meanwhile.
+alone() {
+    local preset=$1
+    shift
+    (
+        flock 9
+        "$@"
+    ) 9>"build/$preset.lock"
+}
+
 # What drives the real program in its window.
 build_agent() {
-    cmake --build --preset "$1" --target ordalyn_e2e_agent ordalyn_e2e_launch ordalyn_e2e_hold \
-        ordalyn_e2e_planted ordalyn_e2e_file_manager
+    alone "$1" cmake --build --preset "$1" --target ordalyn_e2e_agent ordalyn_e2e_launch \
+        ordalyn_e2e_hold ordalyn_e2e_planted ordalyn_e2e_file_manager
 }
 
 # What pytest is started with, when it is not by itself.
@@ -57,8 +67,33 @@ run_pytest() {
 }
 
 build_tests() {
-    configure "$1"
-    cmake --build --preset "$1"
+    alone "$1" configure "$1"
+    alone "$1" cmake --build --preset "$1"
+}
+
+build_folder_x64() { alone mingw-x64 ./build.sh x64; }
+build_release() { alone mingw-x64 alone mingw-x86 ./build.sh release; }
+
+build_fuzzers() {
+    local names=()
+    alone native-fuzz configure native-fuzz
+    mapfile -t names < <(targets native-fuzz fuzz_)
+    alone native-fuzz cmake --build --preset native-fuzz --target "${names[@]}"
+}
+
+# Builds what the kinds need, one after the other, with the time that nobody else wants: the tests of
+# windows mostly wait. What goes wrong is said when the kind itself builds it.
+build_ahead() {
+    local kind
+    for kind in "$@"; do
+        case $kind in
+            unit | contract) build_tests native-debug ;;
+            wine | e2e) build_tests mingw-x64 ;;
+            clang) build_tests mingw-x64-clang ;;
+            x86) build_tests mingw-x86 ;;
+            fuzz) build_fuzzers ;;
+        esac
+    done
 }
 
 # A folder that is not there is an error.
@@ -83,9 +118,9 @@ windows_tests() {
 }
 
 kind_lint() {
-    configure native-debug
-    configure mingw-x64
-    run_pytest lint tests/lint
+    alone native-debug configure native-debug
+    alone mingw-x64 configure mingw-x64
+    run_pytest lint -n 2 tests/lint
     /usr/bin/python3 tools/tidy.py $COUNTS
 }
 
@@ -99,7 +134,7 @@ kind_contract() {
 }
 
 kind_e2e() {
-    ./build.sh x64
+    build_folder_x64
     build_agent mingw-x64
     # The program and its tests mostly wait for one another. Each worker has a display and a Wine
     # prefix of its own, and keeps to one processor, which is quicker. A part of the tests runs on all
@@ -115,7 +150,7 @@ kind_x86() {
     programs_in build/mingw-x86/tests/{unit,contract} | grep '\.exe$' |
         tools/x86_wine.sh /usr/bin/python3 tools/run_googletest.py wine $COUNTS
     # The setup program is tested here, too: it is a 32-bit one.
-    ./build.sh release
+    build_release
     build_agent mingw-x86
     UNDER=(tools/x86_wine.sh)
     # shellcheck disable=SC2086
@@ -123,7 +158,7 @@ kind_x86() {
 }
 
 kind_release() {
-    ./build.sh release
+    build_release
     run_pytest release tests/release
 }
 
@@ -133,10 +168,7 @@ targets() {
 }
 
 kind_fuzz() {
-    local names=()
-    configure native-fuzz
-    mapfile -t names < <(targets native-fuzz fuzz_)
-    cmake --build --preset native-fuzz --target "${names[@]}"
+    build_fuzzers
     find build/native-fuzz/tests/fuzz -type f -perm -u+x -name 'fuzz_*' | sort |
         /usr/bin/python3 tools/run_fuzzers.py "${ORDALYN_FUZZ_SECONDS:-10}" $COUNTS
 }
@@ -154,7 +186,7 @@ kind_bench() {
 
 # The program itself under Wine, on a log of a million lines.
 bench_real_program() {
-    ./build.sh x64
+    build_folder_x64
     build_agent mingw-x64
     cmake --build --preset native-release --target make_log
     build/native-release/tests/bench/make_log build/million.log
@@ -182,6 +214,16 @@ done
 # What the 32-bit programs run in takes minutes to be made, once. Whatever goes wrong with it is said
 # when it is needed.
 case " $* " in *" x86 "*) tools/x86_wine.sh true >/dev/null 2>&1 & ;; esac
+# In a process group of its own, so that it ends with this script wherever it is then.
+set -m
+(
+    chrt -i -p 0 "$BASHPID"
+    build_ahead "${@:2}"
+) >build/test-ahead.log 2>&1 &
+ahead=$!
+set +m
+trap 'kill -- -"$ahead" 2>/dev/null || true' EXIT
+
 for kind in "$@"; do
     echo "=== $kind"
     start=$SECONDS
