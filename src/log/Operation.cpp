@@ -5,6 +5,7 @@
 
 #include "base/Text.h"
 #include "base/Utf8.h"
+#include "log/EntryLists.h"
 #include "log/LogLine.h"
 
 namespace ordalyn {
@@ -147,6 +148,10 @@ OperationReader::Found OperationReader::FindName(std::string_view text) const {
             return {name.name.kind, length};
     }
     return {};
+}
+
+Operation OperationReader::Read(const EntryLists& entries, std::int32_t entry) const {
+    return Read(entries.EntrySources().List(entry), entries.EntryTargets().List(entry));
 }
 
 Operation OperationReader::Read(std::string_view sourceField, std::string_view targetField) const {

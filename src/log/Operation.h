@@ -18,6 +18,8 @@
 
 namespace ordalyn {
 
+class EntryLists;
+
 enum class OperationKind {
     None,   // the entry cannot be read
     Other,  // a word that is none of those below
@@ -62,6 +64,8 @@ class OperationReader {
 
     // What an entry with these fields of EntryLists says.
     Operation Read(std::string_view sourceField, std::string_view targetField) const;
+    // The same for an entry of the lists. Throws SubscriptOutOfRange for one outside.
+    Operation Read(const EntryLists& entries, std::int32_t entry) const;
 
   private:
     struct Name {

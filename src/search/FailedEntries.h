@@ -14,6 +14,8 @@ namespace ordalyn {
 // only what can have one is read.
 bool HasFailed(const OperationReader& reader, std::string_view sourceField,
                std::string_view targetField);
+// The same for an entry of the lists. Throws SubscriptOutOfRange for one outside.
+bool HasFailed(const OperationReader& reader, const EntryLists& entries, std::int32_t entry);
 
 // Which of these entries have an outcome, in their order. Throws SubscriptOutOfRange for an entry
 // outside the lists.

@@ -26,8 +26,7 @@ CalendarCommands::CalendarCommands(SharedObjects& shared, toolkit::Form& mainWin
       panels_(panels),
       days_([&shared](std::string_view text) { return ReadLogDate(shared.services.locale, text); },
             [&entries, &operations](std::int32_t entry) {
-                return HasFailed(operations.Reader(), entries.EntrySources().List(entry),
-                                 entries.EntryTargets().List(entry));
+                return HasFailed(operations.Reader(), entries, entry);
             }) {
     panels_.DaysListed.Subscribe([this] { DaysListed(); });
     panels_.DayShown.Subscribe([this] {

@@ -32,8 +32,7 @@ FileManagerCommands::Paths FileManagerCommands::SelectedPaths() const {
     if (row < 0)
         return {};
     const std::int32_t entry = controls_.SourceListView.Tag(row);
-    const Operation operation = operations_.Reader().Read(entries_.EntrySources().List(entry),
-                                                          entries_.EntryTargets().List(entry));
+    const Operation operation = operations_.Reader().Read(entries_, entry);
     return {IfItSaysAllOfItsWay(operation.source), IfItSaysAllOfItsWay(operation.target)};
 }
 

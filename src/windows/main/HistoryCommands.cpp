@@ -57,16 +57,14 @@ std::int32_t HistoryCommands::SelectedEntry() const {
 std::string HistoryCommands::SourceOf(std::int32_t entry) {
     if (entry == kNoEntry || entry > parts_.entries.EntrySources().ListCount())
         return {};
-    const Operation operation = parts_.operations.Reader().Read(
-        parts_.entries.EntrySources().List(entry), parts_.entries.EntryTargets().List(entry));
+    const Operation operation = parts_.operations.Reader().Read(parts_.entries, entry);
     return IsWholePath(operation.source) ? std::string(operation.source) : std::string();
 }
 
 std::string HistoryCommands::TargetOf(std::int32_t entry) {
     if (entry == kNoEntry || entry > parts_.entries.EntrySources().ListCount())
         return {};
-    const Operation operation = parts_.operations.Reader().Read(
-        parts_.entries.EntrySources().List(entry), parts_.entries.EntryTargets().List(entry));
+    const Operation operation = parts_.operations.Reader().Read(parts_.entries, entry);
     return IsWholePath(operation.target) ? std::string(operation.target) : std::string();
 }
 
