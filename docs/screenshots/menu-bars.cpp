@@ -1,5 +1,5 @@
 // Four windows with the same menu bar, to see how a system draws it for languages that are written
-// from the right. They made menu-bars-wine.png; the README says what it shows.
+// from the right. They made menu-bars-wine.png; docs/architecture.md says what it shows.
 //
 //   x86_64-w64-mingw32-g++ -municode -mwindows -static -o menu-bars.exe menu-bars.cpp
 #include <windows.h>
