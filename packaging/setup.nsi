@@ -46,7 +46,8 @@ Page custom ModePage ModePageLeft
 !insertmacro MUI_PAGE_INSTFILES
 !define MUI_FINISHPAGE_TEXT "$(ButtonBar)"
 !define MUI_FINISHPAGE_TEXT_LARGE
-!define MUI_FINISHPAGE_RUN "$INSTDIR\Ordalyn.exe"
+!define MUI_FINISHPAGE_RUN
+!define MUI_FINISHPAGE_RUN_FUNCTION StartProgram
 !insertmacro MUI_PAGE_FINISH
 
 UninstPage custom un.SettingsPage un.SettingsPageLeft
@@ -150,15 +151,22 @@ Function .onInit
     Call ChooseFolder
 FunctionEnd
 
-Function ModePage
-    !insertmacro MUI_HEADER_TEXT "$(ModeTitle)" "$(ModeSubtitle)"
+; A page of our own, from the right where the language is written so.
+!macro CreatePage
     nsDialogs::Create 1018
     Pop $0
-    ${NSD_CreateRadioButton} 0 8u 100% 12u "$(ModeUser)"
+    nsDialogs::SetRTL $(^RTL)
+!macroend
+
+Function ModePage
+    !insertmacro MUI_HEADER_TEXT "$(ModeTitle)" "$(ModeSubtitle)"
+    !insertmacro CreatePage
+    ; Room for two lines each, which some languages need.
+    ${NSD_CreateRadioButton} 0 4u 100% 20u "$(ModeUser)"
     Pop $ForUser
-    ${NSD_CreateRadioButton} 0 28u 100% 12u "$(ModeAll)"
+    ${NSD_CreateRadioButton} 0 28u 100% 20u "$(ModeAll)"
     Pop $ForAll
-    ${NSD_CreateRadioButton} 0 48u 100% 12u "$(ModePortable)"
+    ${NSD_CreateRadioButton} 0 52u 100% 20u "$(ModePortable)"
     Pop $AsPortable
     ${If} $Mode == "all"
         ${NSD_Check} $ForAll
@@ -182,8 +190,12 @@ Function ModePageLeft
         Pop $0
         ${If} $0 == 0
             ; The system asks for consent. This program goes on there.
+            StrCpy $0 "/ALLUSERS"
+            ${If} $Folder != ""
+                StrCpy $0 "/ALLUSERS /D=$Folder"
+            ${EndIf}
             ClearErrors
-            ExecShell "runas" "$EXEPATH" "/ALLUSERS"
+            ExecShell "runas" "$EXEPATH" $0
             ${If} ${Errors}
                 MessageBox MB_OK|MB_ICONEXCLAMATION "$(NeedsAdministrator)"
                 Abort
@@ -194,6 +206,16 @@ Function ModePageLeft
     ${NSD_GetState} $AsPortable $0
     ${If} $0 == ${BST_CHECKED}
         StrCpy $Mode "portable"
+    ${EndIf}
+FunctionEnd
+
+; With the rights of the person at the desktop, not with those that installing for everybody needs: what
+; an administrator's program creates, settings say, is not theirs.
+Function StartProgram
+    ${If} $Mode == "all"
+        Exec '"$WINDIR\explorer.exe" "$INSTDIR\Ordalyn.exe"'
+    ${Else}
+        Exec '"$INSTDIR\Ordalyn.exe"'
     ${EndIf}
 FunctionEnd
 
@@ -283,9 +305,8 @@ FunctionEnd
 
 Function un.SettingsPage
     !insertmacro MUI_HEADER_TEXT "$(RemoveTitle)" "$INSTDIR"
-    nsDialogs::Create 1018
-    Pop $0
-    ${NSD_CreateCheckBox} 0 8u 100% 12u "$(RemoveSettingsToo)"
+    !insertmacro CreatePage
+    ${NSD_CreateCheckBox} 0 4u 100% 20u "$(RemoveSettingsToo)"
     Pop $RemoveBox
     ${NSD_SetFocus} $RemoveBox
     nsDialogs::Show
