@@ -15,8 +15,8 @@ import check_includes  # noqa: E402
 LONGEST_FILE = 450
 
 # What a newcomer sees first. Anything else there was left by a tool.
-TOP = {".ci", ".clang-format", ".clang-tidy", ".gitattributes", ".gitignore", "CMakeLists.txt",
-       "CMakePresets.json", "README.md", "build.sh", "cmake", "docs", "help", "languages", "packaging",
+TOP = {".ci", ".clang-format", ".clang-tidy", ".gitattributes", ".github", ".gitignore", "CHANGELOG.md",
+       "CMakeLists.txt", "CMakePresets.json", "CONTRIBUTING.md", "README.md", "build.sh", "cmake", "docs", "help", "languages", "packaging",
        "run.sh", "samples", "src", "test.sh", "tests", "tools"}
 
 # Headers of the system that only src/win32 may know.
