@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Changes one operator, constant, condition or call of the portable source at a time, builds and runs the
 native tests, and says whether they notice. What they do not notice is either no difference to anybody, or
-lacks a test, or is not needed. docs/testing.md tells of the last run.
+lacks a test, or is not needed. docs/testing.md tells of those that make no difference.
 
 It works in a copy, build/mutation/tree, with a build of its own, and uses one core. The first run builds
 all tests (some minutes); a change takes some seconds. A run that was ended goes on where it was.
