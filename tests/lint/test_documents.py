@@ -230,7 +230,15 @@ def check_cmake(arguments):
 
 
 def check_ctest(arguments):
-    for name, value in with_value(arguments)[0]:
+    """Also asks ctest which tests the command would run, where the preset is configured."""
+    options = dict(with_value(arguments)[0])
+    preset = options.get("--preset")
+    if preset in presets("testPresets") and (PROJECT / "build" / preset / "CTestTestfile.cmake").exists():
+        listed = subprocess.run(["ctest", *arguments, "-N"], cwd=PROJECT, stdout=subprocess.PIPE,
+                                stderr=subprocess.DEVNULL, check=False, timeout=30).stdout.decode()
+        for word in re.findall(r"\w{4,}", options.get("-R", "")):
+            check(f": {word}\n" in listed, f"ctest lists no {word}")
+    for name, value in options.items():
         if name == "--preset":
             check(value in presets("testPresets"), f"no preset {value} for tests")
         elif name == "-R":
