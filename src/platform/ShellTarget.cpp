@@ -1,5 +1,7 @@
 #include "platform/ShellTarget.h"
 
+#include <algorithm>
+
 #include "base/Errors.h"
 #include "base/FileNames.h"
 #include "base/Text.h"
@@ -34,6 +36,17 @@ ShellTarget ShellTarget::HelpFile(std::string_view path) {
         !EqualsIgnoreCase(GetFileExtension(GetFileName(path)), "chm"))
         throw InvalidPropertyValue("help file");
     return ShellTarget(path);
+}
+
+ShellTarget ShellTarget::HelpPage(std::string_view path, std::string_view page) {
+    const bool plain = !page.empty() && std::all_of(page.begin(), page.end(),
+                                                    [](char c) { return c >= 'a' && c <= 'z'; });
+    if (!plain)
+        throw InvalidPropertyValue("help page");
+    ShellTarget target = HelpFile(path);
+    target.deed_ = Deed::ShowPage;
+    target.arguments_ = std::string(page) + ".html";
+    return target;
 }
 
 ShellTarget ShellTarget::FileManager(std::string_view program, std::string_view path) {

@@ -27,6 +27,9 @@ class ShellTarget {
     // else.
     static ShellTarget HelpFile(std::string_view path);
 
+    // One page of it, by its name without an ending: lower-case letters.
+    static ShellTarget HelpPage(std::string_view path, std::string_view page);
+
     // The file manager, by the full path of its program, which has one of two names, and told to
     // show a path: that is one argument, whatever it holds. Throws InvalidPropertyValue for another
     // program, and for a path that no argument can hold (see HasForeignSign) or that does not say
@@ -37,7 +40,8 @@ class ShellTarget {
     // network.
     static ShellTarget Selected(std::string_view path);
 
-    enum class Deed { Open, Select };
+    // ShowPage: Text is a help file, Arguments the page in it.
+    enum class Deed { Open, ShowPage, Select };
     Deed What() const { return deed_; }
     const std::string& Text() const { return text_; }
     const std::string& Arguments() const { return arguments_; }

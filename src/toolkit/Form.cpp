@@ -55,6 +55,7 @@ Form::Form(Toolkit& toolkit, const FormDesign& design)
     : Control(Kind::Form, design.name, -1),
       toolkit_(toolkit),
       style_(design.style),
+      helpPage_(design.helpPage),
       peer_(toolkit.CreateForm(*this, design.style)) {
     SetVisibleOnly(false);
     SetTag(design.tag);
@@ -243,6 +244,14 @@ bool Form::UserKeyDown(int key, Modifiers modifiers) {
         return true;
     }
     return false;
+}
+
+bool Form::UserAskedForHelp() {
+    if (helpPage_.empty())
+        return false;
+    // The page may be another one when the help has been shown.
+    toolkit_.AskForHelp(*this, std::string(helpPage_));
+    return true;
 }
 
 void Form::UserClosed() {

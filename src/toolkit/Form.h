@@ -84,10 +84,16 @@ class Form : public Control {
     Event<> Unloading;
     Event<const std::vector<std::string>&> FilesDropped;  // full paths
 
+    // The page of the help that tells of this form, and opens with F1; empty: none.
+    const std::string& HelpPage() const { return helpPage_; }
+    void SetHelpPage(std::string_view page) { helpPage_ = page; }
+
     // For FormKeyboard. Keys are reported before the control that has the focus sees them;
     // UserKeyDown returns whether the form used the key up (a menu shortcut), so that the control
     // never gets it.
     bool UserKeyDown(int key, Modifiers modifiers);
+    // Whether there was help to ask for.
+    bool UserAskedForHelp();
     void UserKeyUp(int key, Modifiers modifiers) { KeyUp.Raise(key, modifiers); }
     // For the peer.
     void UserClosed();  // close box, Alt+F4
@@ -108,6 +114,7 @@ class Form : public Control {
 
     Toolkit& toolkit_;
     FormStyle style_;
+    std::string helpPage_;
     std::unique_ptr<FormPeer> peer_;
     std::vector<std::unique_ptr<Control>> controls_;
     std::vector<std::unique_ptr<MenuItem>> menus_;

@@ -52,6 +52,7 @@ struct FormDesign {
     FormStyle style;
     std::span<const ControlDesign> controls;
     std::span<const MenuDesign> menus = {};
+    const char* helpPage = "";  // what F1 opens: the name of a page in help/, without its ending
 };
 
 }  // namespace ordalyn::toolkit

@@ -74,6 +74,10 @@ bool IsContextMenuKey(const Control* focused, const KeyPress& press) {
     return !text && press.key == key::F10 && press.modifiers == Modifiers{.shift = true};
 }
 
+bool IsHelpKey(const KeyPress& press) {
+    return press.key == key::F1 && press.modifiers == Modifiers{} && !press.held;
+}
+
 std::size_t Next(std::size_t at, std::size_t step, std::size_t count, bool forward) {
     return forward ? (at + step) % count : (at + count - step) % count;
 }
@@ -89,6 +93,8 @@ bool FormKeyboard::KeyDown(Control* focused, const KeyPress& press) const {
         return true;
     }
     if (form_.UserKeyDown(press.key, press.modifiers) || gone)
+        return true;
+    if (IsHelpKey(press) && form_.UserAskedForHelp())
         return true;
     if (focused != nullptr && focused->NeedsKey(press.key))
         return false;

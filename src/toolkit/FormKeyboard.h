@@ -1,4 +1,4 @@
-// What the keyboard does in every form: in which order a key is offered, and what Tab, Enter,
+// What the keyboard does in every form: in which order a key is offered, and what F1, Tab, Enter,
 // Escape, the arrows and the access keys do. A realisation only reports keys and which control has
 // the focus. Controls are walked in the order of the design and not in that of the screen, which
 // changes whenever one is brought to the front.
@@ -23,8 +23,9 @@ class FormKeyboard {
   public:
     explicit FormKeyboard(Form& form) : form_(form) {}
 
-    // The form's event and its menu shortcuts come first, then the control's event, what the
-    // control does with the key, and last what every form does with it.
+    // The form's event and its menu shortcuts come first, then F1, which no control has a use for,
+    // the control's event, what the control does with the key, and last what every form does with
+    // it.
     bool KeyDown(Control* focused, const KeyPress& press) const;
     bool KeyUp(Control* focused, int key, Modifiers modifiers) const;
     // Alt with a character: goes to the next control behind the focus whose caption marks it.

@@ -1,9 +1,11 @@
 // The toolkit's entry: makes peers, knows the screen, shows message boxes, runs the message loop.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "toolkit/Basics.h"
@@ -85,11 +87,24 @@ class Toolkit {
                                MessageButtons buttons = MessageButtons::Ok,
                                Answer defaultAnswer = Answer::Yes) = 0;
 
+    // F1 was pressed, in a form or in a message box that it owns: whoever can show the help is
+    // called with the page that tells of it. Pages are named as in FormDesign.
+    static constexpr std::string_view kHelpPageOfMessages = "messages";
+    using HelpHandler = std::function<void(Form& form, std::string_view page)>;
+    void SetHelpHandler(HelpHandler handler) { helpHandler_ = std::move(handler); }
+    void AskForHelp(Form& form, std::string_view page) const {
+        if (helpHandler_)
+            helpHandler_(form, page);
+    }
+
     // Handles the messages that wait now, then returns. Re-entrant events are possible.
     virtual void DoEvents() = 0;
     // Handles messages until Quit.
     virtual void Run() = 0;
     virtual void Quit() = 0;
+
+  private:
+    HelpHandler helpHandler_;
 };
 
 }  // namespace ordalyn::toolkit

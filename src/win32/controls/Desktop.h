@@ -38,6 +38,7 @@ class Desktop {
     Fonts fonts;
     LastHandler lastHandler;
     std::vector<FormWindow*> forms;  // all that exist, oldest first
+    int messageBoxes = 0;            // that wait for an answer
 
     // The pointer over all windows of the program; Default leaves it to each of them.
     toolkit::Pointer CommonPointer() const { return pointer_; }

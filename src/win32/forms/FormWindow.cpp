@@ -22,6 +22,7 @@ namespace {
 
 constexpr UINT kActivated = WM_APP + 1;
 constexpr UINT kMenusChanged = WM_APP + 2;
+constexpr UINT kHelpWanted = WM_APP + 3;
 
 BOOL CALLBACK ForwardToChild(HWND child, LPARAM parameter) {
     const MSG& forwarded = *reinterpret_cast<const MSG*>(parameter);
@@ -324,6 +325,13 @@ void FormWindow::TakeDroppedFiles(DroppedFiles dropped) {
     form_.FilesDropped.Raise(files);
 }
 
+// A message box has a message loop of its own, in which the owner is asked for help, by its button
+// and by the box itself: twice for one key.
+void FormWindow::AskForHelpOnMessage() {
+    if (!std::exchange(helpWanted_, true))
+        PostMessageW(handle(), kHelpWanted, 0, 0);
+}
+
 LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     // A form that is being closed raises nothing more: who subscribed may be gone.
     if (closing_)
@@ -380,6 +388,15 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ENDSESSION:
             if (wParam != FALSE)
                 form_.SessionEnded();
+            return 0;
+        case WM_HELP:
+            if (desktop().messageBoxes == 0)
+                break;  // F1 in a form is one of its keys (toolkit/FormKeyboard)
+            AskForHelpOnMessage();
+            return TRUE;
+        case kHelpWanted:
+            helpWanted_ = false;
+            form_.toolkit().AskForHelp(form_, Toolkit::kHelpPageOfMessages);
             return 0;
         case WM_DROPFILES:
             TakeDroppedFiles(DroppedFiles(reinterpret_cast<HDROP>(wParam)));

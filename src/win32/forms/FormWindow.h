@@ -101,6 +101,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void ActivationChanged(bool active, bool minimised);
     void RestoreFocus();
     void TakeDroppedFiles(DroppedFiles dropped);
+    void AskForHelpOnMessage();
     void SystemColorsChanged(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT CommandChosen(UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -119,6 +120,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     HWND focus_ = nullptr;  // what had the focus, or is to get it
     bool activationPosted_ = false;
     bool pressedFromOutside_ = false;  // on a control, while another window was the active one
+    bool helpWanted_ = false;
     CommandButtonWindow* defaultButton_ = nullptr;
     HWND toolTips_ = nullptr;  // owned by the form's window, goes with it
     ModalRun* modal_ = nullptr;

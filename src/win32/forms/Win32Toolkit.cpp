@@ -189,7 +189,9 @@ Answer Win32Toolkit::ShowMessage(Form* owner, std::string_view text, std::string
     const bool waiting = window != nullptr && !IsWindowEnabled(window);
     if (waiting)
         EnableWindow(window, TRUE);
+    ++desktop_.messageBoxes;
     const int answer = MessageBoxW(window, shown.c_str(), caption.c_str(), look);
+    --desktop_.messageBoxes;
     if (waiting)
         EnableWindow(window, FALSE);
     if (buttons == MessageButtons::Ok)

@@ -51,6 +51,39 @@ void Select(const std::string& path) {
         static_cast<void>(parameter.release());  // SelectItem has it
 }
 
+struct Start {
+    std::wstring what;
+    std::wstring arguments;
+    std::wstring folder;
+};
+
+// The program that shows help files, which is a part of Windows and lies in its folder. Empty when
+// it is not there.
+std::wstring HelpViewer() {
+    wchar_t folder[MAX_PATH] = {};
+    const UINT length = GetSystemWindowsDirectoryW(folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH)
+        return L"";
+    std::wstring viewer = std::wstring(folder) + L"\\hh.exe";
+    return GetFileAttributesW(viewer.c_str()) == INVALID_FILE_ATTRIBUTES ? L"" : viewer;
+}
+
+Start StartFor(const platform::ShellTarget& target) {
+    const std::string& path = target.Text();
+    if (target.What() == platform::ShellTarget::Deed::ShowPage) {
+        // Without the viewer, the help file opens with whatever shows it, at its first page.
+        const std::wstring viewer = HelpViewer();
+        if (viewer.empty())
+            return {ToWide(path), L"", L""};
+        return {viewer, ToWide("\"" + path + "::/" + target.Arguments() + "\""),
+                viewer.substr(0, viewer.find_last_of(L'\\'))};
+    }
+    // A program starts in its own folder, and keeps nobody from removing the one that this is in.
+    if (!target.Arguments().empty())
+        return {ToWide(path), ToWide(target.Arguments()), ToWide(GetFilePath(path))};
+    return {ToWide(path), L"", L""};
+}
+
 }  // namespace
 
 void Win32Shell::Open(platform::WindowHandle owner, const platform::ShellTarget& target) {
@@ -59,13 +92,11 @@ void Win32Shell::Open(platform::WindowHandle owner, const platform::ShellTarget&
         return;
     }
     const ComScope com;
-    const std::wstring arguments = ToWide(target.Arguments());
-    const std::wstring folder = ToWide(GetFilePath(target.Text()));
-    // A program starts in its own folder, and keeps nobody from removing the one that this is in.
-    const bool isProgram = !arguments.empty();
-    ShellExecuteW(reinterpret_cast<HWND>(owner), L"open", ToWide(target.Text()).c_str(),
-                  isProgram ? arguments.c_str() : nullptr, isProgram ? folder.c_str() : nullptr,
-                  SW_SHOWNORMAL);
+    const Start start = StartFor(target);
+    const bool isProgram = !start.arguments.empty();
+    ShellExecuteW(reinterpret_cast<HWND>(owner), L"open", start.what.c_str(),
+                  isProgram ? start.arguments.c_str() : nullptr,
+                  isProgram ? start.folder.c_str() : nullptr, SW_SHOWNORMAL);
 }
 
 }  // namespace ordalyn::win32

@@ -18,14 +18,32 @@ std::string HelpFile(const HelpSurroundings& around) {
     return around.files.Exists(own) ? own : common;
 }
 
+namespace {
+
+bool IsThere(const HelpSurroundings& around, const std::string& path, toolkit::Form& ownerForm) {
+    if (around.files.Exists(path))
+        return true;
+    around.toolkit.ShowMessage(&ownerForm, around.text(text_id::kFileNotFound),
+                               mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
+    return false;
+}
+
+}  // namespace
+
 void ShowHelp(const HelpSurroundings& around, toolkit::Form& ownerForm) {
     const std::string path = HelpFile(around);
-    if (!around.files.Exists(path)) {
-        around.toolkit.ShowMessage(&ownerForm, around.text(text_id::kFileNotFound),
-                                   mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
+    if (IsThere(around, path, ownerForm))
+        around.shell.Open(ownerForm.Handle(), platform::ShellTarget::HelpFile(path));
+}
+
+void ShowHelpPage(const HelpSurroundings& around, toolkit::Form& ownerForm, std::string_view page) {
+    const std::string path = HelpFile(around);
+    if (page == toolkit::Toolkit::kHelpPageOfMessages && !around.files.Exists(path)) {
+        around.toolkit.Beep();
         return;
     }
-    around.shell.Open(ownerForm.Handle(), platform::ShellTarget::HelpFile(path));
+    if (IsThere(around, path, ownerForm))
+        around.shell.Open(ownerForm.Handle(), platform::ShellTarget::HelpPage(path, page));
 }
 
 }  // namespace ordalyn

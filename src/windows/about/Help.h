@@ -1,7 +1,8 @@
-// Help opens the help file.
+// Help opens the help file, at its start or at a page of it.
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "base/TextSource.h"
 #include "platform/Platform.h"
@@ -24,5 +25,8 @@ struct HelpSurroundings {
 std::string HelpFile(const HelpSurroundings& around);
 // Opens it, owned by the form. A missing file is reported; a shell that fails is not.
 void ShowHelp(const HelpSurroundings& around, toolkit::Form& ownerForm);
+// The same at one of its pages. In a message box nobody is told that the file is missing: it would
+// take another message box.
+void ShowHelpPage(const HelpSurroundings& around, toolkit::Form& ownerForm, std::string_view page);
 
 }  // namespace ordalyn

@@ -87,6 +87,7 @@ constexpr toolkit::FormDesign kDesign = {
     .clientSize = {kFrameWidth + 2 * 105, kFrameHeight + 105 + 90 + 375 + 105},
     .style = {},
     .controls = kControls,
+    .helpPage = "about",
 };
 
 }  // namespace

@@ -45,6 +45,7 @@ constexpr toolkit::FormDesign kDesign = {
     .clientSize = kClient,
     .style = {.resizable = true},
     .controls = kControls,
+    .helpPage = "calendar",
 };
 
 // February 29 becomes 28 where there is none.

@@ -63,6 +63,7 @@ constexpr toolkit::FormDesign kDesign = {
     .clientSize = {kClientWidth, kBoxHeight + 2 * kEdge},
     .style = {.toolWindow = true},
     .controls = kControls,
+    .helpPage = "filter",
 };
 
 }  // namespace

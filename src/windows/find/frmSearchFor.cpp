@@ -84,6 +84,7 @@ constexpr toolkit::FormDesign kDesign = {
     .clientSize = {kButtonsLeft + kButtonWidth + kEdge, kFrameTop + kFrameHeight + kEdge},
     .style = {},
     .controls = kControls,
+    .helpPage = "find",
 };
 
 }  // namespace

@@ -82,6 +82,7 @@ constexpr toolkit::FormDesign kDesign = {
     .clientSize = {kClientWidth, kClientHeight},
     .style = {.resizable = true, .maximiseBox = true},
     .controls = kControls,
+    .helpPage = "history",
 };
 
 struct Column {

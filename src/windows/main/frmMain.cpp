@@ -6,7 +6,6 @@
 #include "base/Attempt.h"
 #include "base/Text.h"
 #include "base/TextIds.h"
-#include "windows/about/Help.h"
 #include "windows/about/Version.h"
 #include "windows/about/frmAbout.h"
 #include "windows/common/ControlFont.h"
@@ -68,7 +67,8 @@ frmMain::frmMain(SharedObjects& shared)
                 .environment = shared.services.environment}),
       find_(shared, *this, entries_, panels_, filter_),
       calendar_(shared, *this, entries_, panels_, operations_),
-      history_(shared, *this, {entries_, panels_, operations_, find_, files_, SourceListView}) {
+      history_(shared, *this, {entries_, panels_, operations_, find_, files_, SourceListView}),
+      help_(shared, *this) {
     for (const toolkit::Twips width : kStatusPanels)
         StatusBar1.AddPanel(width);
     // A step that fails leaves its own result out, not the steps behind it.
@@ -159,12 +159,7 @@ void frmMain::WireMenus() {
     });
     on("mnuViewFollow", [this] { following_.Toggle(); });
     on("mnuViewCalendar", [this] { calendar_.Show(); });
-    on("mnuHelpHelpTopics", [this] {
-        ShowHelp({shared_.toolkit, shared_.services.files, shared_.services.shell,
-                  shared_.common.ProgramFolder(), shared_.settings->UseDefaultLanguage != 0,
-                  shared_.settings->LanguageFile, shared_.Texts()},
-                 *this);
-    });
+    on("mnuHelpHelpTopics", [this] { help_.ShowTopics(); });
     on("mnuHelpAbout", [this] { ShowAbout(); });
     on("mnuContextCopySource", [this] { copy_.CopySource(); });
     on("mnuContextCopyTarget", [this] { copy_.CopyTarget(); });

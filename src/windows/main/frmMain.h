@@ -17,6 +17,7 @@
 #include "windows/main/CopyCommands.h"
 #include "windows/main/FileManagerCommands.h"
 #include "windows/main/FindCommands.h"
+#include "windows/main/HelpCommands.h"
 #include "windows/main/HistoryCommands.h"
 #include "windows/main/LogFileReading.h"
 #include "windows/main/LogFileSet.h"
@@ -99,6 +100,7 @@ class frmMain : public toolkit::Form {
     FindCommands find_;
     CalendarCommands calendar_;
     HistoryCommands history_;
+    HelpCommands help_;
     // While they are shown.
     std::unique_ptr<frmAbout> about_;
     std::unique_ptr<frmOptions> options_;

@@ -80,7 +80,8 @@ constexpr toolkit::MenuDesign kMenus[] = {
     {1, "mnuViewCalendar", text_id::kCalendarItem.tag, {'K', kControl}},
     {1, "mnuViewFollow", text_id::kFollowLog.tag},
     {0, "mnuHelp", text_id::kHelpMenu.tag},
-    {1, "mnuHelpHelpTopics", text_id::kHelpTopics.tag, {key::F1, {}}},
+    // The key opens the help at the page on the window that it is pressed in.
+    {1, "mnuHelpHelpTopics", text_id::kHelpTopics.tag, {}, "F1"},
     {1, "mnuHelpSeparator", "-"},
     {1, "mnuHelpAbout", text_id::kAboutItem.tag},
     // These keys are handled when they are released, so they are hints and no shortcuts.
@@ -107,6 +108,7 @@ const toolkit::FormDesign kMainDesign = {
               .takesDroppedFiles = true},
     .controls = kControls,
     .menus = kMenus,
+    .helpPage = "window",
 };
 
 }  // namespace ordalyn

@@ -13,6 +13,7 @@ using toolkit::Twips;
 
 namespace {
 
+constexpr int kLanguageTab = 2;
 constexpr int kForeground = 0;
 constexpr int kBackground = 1;
 constexpr int kPageOffset = 8;  // pixels from the tab strip's edges
@@ -282,6 +283,7 @@ void frmOptions::ShowPage(int tab) {
             picture.BringToFront();
     }
     around_.settings.OptionsPage = tab - 1;
+    SetHelpPage(tab == kLanguageTab ? "languages" : "options");
 }
 
 void frmOptions::WireControls() {

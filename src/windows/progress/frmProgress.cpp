@@ -40,6 +40,7 @@ constexpr toolkit::FormDesign kDesign = {
     .clientSize = {kWidth, 885},
     .style = {.closeBox = false},  // closing would leave a read without its window
     .controls = kControls,
+    .helpPage = "progress",
 };
 
 }  // namespace

@@ -64,6 +64,23 @@ TEST_P(Keys, AShortcutChoosesItsMenuItemWhateverHasTheFocus) {
     EXPECT_EQ(Get<ComboBox>("cboEdit").Text(), "");
 }
 
+TEST_P(Keys, F1AsksForThePageOfTheFormWhateverHasTheFocus) {
+    std::vector<std::string> pages;
+    Kit().SetHelpHandler([&](toolkit::Form&, std::string_view page) { pages.emplace_back(page); });
+    Form().SetHelpPage("find");
+    for (Control* control : {static_cast<Control*>(&Get<TextBox>("txtBox")),
+                             static_cast<Control*>(&Get<ListView>("lvwRows")),
+                             static_cast<Control*>(&Get<ComboBox>("cboEdit"))}) {
+        control->SetFocus();
+        Settle();
+        Press(key::F1);
+        EXPECT_THAT(std::exchange(pages, {}), ElementsAre("find")) << control->Name();
+    }
+    Press(key::F1, kControlKey);
+    EXPECT_THAT(pages, testing::IsEmpty());
+    Kit().SetHelpHandler(nullptr);
+}
+
 TEST_P(Keys, AShortcutNeverReachesTheControl) {
     auto& box = Get<TextBox>("txtBox");
     box.SetFocus();

@@ -140,6 +140,8 @@ std::string MemoryLocale::MonthName(std::chrono::month month) {
 void MemoryShell::Open(platform::WindowHandle owner, const platform::ShellTarget& target) {
     if (target.What() == platform::ShellTarget::Deed::Select)
         selected.push_back(target.Text());
+    else if (target.What() == platform::ShellTarget::Deed::ShowPage)
+        helpPages.emplace_back(owner, target.Text() + "::/" + target.Arguments());
     else if (!target.Arguments().empty())
         started.push_back(target.Text() + " " + target.Arguments());
     else

@@ -56,6 +56,8 @@ class MemoryLocale : public platform::Locale {
 class MemoryShell : public platform::Shell {
   public:
     std::vector<std::pair<platform::WindowHandle, std::string>> opened;
+    // Owner and page, as in "C:\\Ordalyn\\Readme.chm::/find.html".
+    std::vector<std::pair<platform::WindowHandle, std::string>> helpPages;
     // Programs that were started, with their command lines, and paths that were to be selected.
     std::vector<std::string> started, selected;
     void Open(platform::WindowHandle owner, const platform::ShellTarget& target) override;

@@ -31,6 +31,16 @@ TEST(ShellTarget, IsNothingElse) {
                  InvalidPropertyValue);
 }
 
+TEST(ShellTarget, IsAPageOfAHelpFile) {
+    const ShellTarget target = ShellTarget::HelpPage("C:\\a b\\Readme German.chm", "history");
+    EXPECT_EQ(target.What(), ShellTarget::Deed::ShowPage);
+    EXPECT_EQ(target.Text(), "C:\\a b\\Readme German.chm");
+    EXPECT_EQ(target.Arguments(), "history.html");
+    for (const char* page : {"", "History", "a b", "a\" /x", "../a", "a.html", "a#b", "::a"})
+        EXPECT_THROW(ShellTarget::HelpPage("C:\\Readme.chm", page), InvalidPropertyValue) << page;
+    EXPECT_THROW(ShellTarget::HelpPage("C:\\a.exe", "find"), InvalidPropertyValue);
+}
+
 TEST(ShellTarget, IsTheFileManagerWithOnePathToShow) {
     const auto line = [](std::string_view program, std::string_view path) {
         const ShellTarget target = ShellTarget::FileManager(program, path);

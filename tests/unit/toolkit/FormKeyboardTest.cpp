@@ -46,6 +46,23 @@ TEST_F(FormKeyboardTest, AShortcutIsUsedUpByTheForm) {
     EXPECT_THAT(order, ElementsAre("form", "menu"));
 }
 
+TEST_F(FormKeyboardTest, F1AsksForThePageOfTheForm) {
+    std::vector<std::string> pages;
+    kit.SetHelpHandler([&](Form& asking, std::string_view page) {
+        EXPECT_EQ(&asking, form.get());
+        pages.emplace_back(page);
+    });
+    Get<Label>("lblStop").SetFocus();
+    EXPECT_FALSE(Press(key::F1));
+    form->SetHelpPage("find");
+    EXPECT_TRUE(Press(key::F1));
+    EXPECT_FALSE(PressHeld(key::F1));
+    EXPECT_FALSE(Press(key::F1, kShift));
+    EXPECT_THAT(pages, ElementsAre("find"));
+    kit.SetHelpHandler(nullptr);
+    EXPECT_TRUE(Press(key::F1));
+}
+
 TEST_F(FormKeyboardTest, AnOpenListGetsEnterAndEscapeAfterTheForm) {
     std::vector<std::string> order;
     Record(order);

@@ -99,6 +99,28 @@ TEST_F(Help, SaysThatTheFileIsMissingWithoutNamingIt) {
     EXPECT_TRUE(system.shell.opened.empty());
 }
 
+TEST_F(Help, OpensAtAPage) {
+    system.files.Set("C:\\Ordalyn\\Readme Deutsch.chm", "x");
+    help.useDefaultLanguage = false;
+    help.languageFile = "C:\\Ordalyn\\Languages\\Deutsch.lng";
+    ShowHelpPage(help, owner, "find");
+    EXPECT_THAT(system.shell.helpPages,
+                ElementsAre(std::pair(owner.Handle(),
+                                      std::string("C:\\Ordalyn\\Readme Deutsch.chm::/find.html"))));
+    EXPECT_TRUE(system.shell.opened.empty());
+}
+
+TEST_F(Help, OfAWindowThatIsMissingIsReportedAndOfAMessageNot) {
+    ShowHelpPage(help, owner, "find");
+    ASSERT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.messages[0].text, "text 3056");
+    EXPECT_EQ(tools.messages[0].owner, &owner);
+    ShowHelpPage(help, owner, toolkit::Toolkit::kHelpPageOfMessages);
+    EXPECT_EQ(tools.messages.size(), 1U);
+    EXPECT_EQ(tools.beeps, 1);
+    EXPECT_TRUE(system.shell.helpPages.empty());
+}
+
 using About = Dialogs;
 
 TEST_F(About, ShowsTheTextsOfMakerAndVersion) {

@@ -235,32 +235,6 @@ TEST_F(MainWindow, ShortcutsDoNothingWhileADialogIsModal) {
     Choose("mnuHelpAbout");
 }
 
-TEST_F(MainWindow, F1LooksForTheHelpFile) {
-    Start();
-    tools.Press(Main(), key::F1);
-    ASSERT_EQ(tools.messages.size(), 1U);
-    EXPECT_EQ(tools.messages[0].text, "File not found.");
-    system.files.Set("C:\\Ordalyn\\Readme.chm", "x");
-    tools.Press(Main(), key::F1);
-    EXPECT_EQ(system.shell.opened.size(), 1U);
-}
-
-TEST_F(MainWindow, F1OpensTheHelpInTheChosenLanguage) {
-    system.files.Set("C:\\Ordalyn\\Ordalyn.ini",
-                     "[Ordalyn]\r\nUseDefaultLanguage=0\r\n"
-                     "[Common]\r\nLanguageFile=D:\\x\\Deutsch.old.lng\r\n");
-    system.files.Set("D:\\x\\Deutsch.old.lng", "[UserLanguage]\r\n");
-    system.files.Set("C:\\Ordalyn\\Readme.chm", "x");
-    system.files.Set("C:\\Ordalyn\\Readme Deutsch.old.chm", "x");
-    Start();
-    tools.Press(Main(), key::F1);
-    program->Shared().settings->UseDefaultLanguage = 1;
-    tools.Press(Main(), key::F1);
-    ASSERT_EQ(system.shell.opened.size(), 2U);
-    EXPECT_EQ(system.shell.opened[0].second, "C:\\Ordalyn\\Readme Deutsch.old.chm");
-    EXPECT_EQ(system.shell.opened[1].second, "C:\\Ordalyn\\Readme.chm");
-}
-
 TEST_F(MainWindow, EveryMenuHasItsText) {
     Start();
     EXPECT_EQ(Main().Menu("mnuFile").Caption(), "&File");
