@@ -3,8 +3,10 @@
 installation and the program folder that build.sh made (dist/x64).
 
     docs/screenshots/make.py [LANGUAGE ...] [--folder FOLDER] [--dpi N]
+    docs/screenshots/make.py --for-help
 
-A LANGUAGE is the name of a file in languages/ without its ending, or "English".
+A LANGUAGE is the name of a file in languages/ without its ending, or "English". With --for-help, the
+pictures are those of the help, beside its pages in help/LANGUAGE: windows no wider than its lines.
 """
 
 import argparse
@@ -27,12 +29,17 @@ SAMPLES = PROJECT / "samples" / "totalcmd"
 LANGUAGES = PROJECT / "languages"
 SHOWN = ("English", "German", "Russian", "Hebrew")
 BUILT_IN = "English"
+USUAL_PLACES = ["MainPosition=300,300,12900,7500"]
+# As wide as the text of a page of the help (help/shared/style.css).
+NARROW_PLACES = ["MainPosition=300,300,9600,6450", "HistoryPosition=600,900,9600,4800",
+                 "CalendarPosition=900,600,9000,8700", "ColumnsWidth=884,8200,9090"]
 # Ids of the menu entries' texts: the entry that opens a window, below which menu.
 MENUS = {"find": (250, 251), "filter": (250, 4030), "history": (250, 5110),
          "options": (141, 150), "about": (161, 163), "calendar": (141, 5140)}
 ENGLISH = {141: "&View", 150: "&Options...", 161: "&Help", 163: "&About...", 250: "&Search",
            251: "&Find...", 4030: "Filte&r...", 5110: "File &History...", 5140: "&Calendar"}
-
+# Whose dates and names of months are shown.
+LOCALES = {"German": "de_DE.UTF-8", "Russian": "ru_RU.UTF-8"}
 
 # Wine's own fonts have no Hebrew letters; the dialogs' font is chosen by the system, and lists take
 # missing letters from a font that is linked to theirs.
@@ -62,13 +69,14 @@ def take_fonts_back(wine):
 
 
 class Photographer:
-    def __init__(self, folder, language, pictures):
+    def __init__(self, folder, language, picture, places):
+        """picture(name) is the file that a picture goes into."""
         self.folder = folder
         self.language = language
-        self.pictures = pictures
+        self.picture = picture
         self.texts = dict(ENGLISH)
         drive = folder.wine.folder / "drive_c"
-        settings = ["[Ordalyn]", "MainPosition=300,300,12900,7500"]
+        settings = ["[Ordalyn]", *places]
         if language != BUILT_IN:
             file = LANGUAGES / f"{language}.lng"
             for line in file.read_text("utf-8-sig").splitlines():
@@ -83,13 +91,14 @@ class Photographer:
         folder.settings_file.write_bytes("\r\n".join(settings + [""]).encode("latin-1"))
         shutil.copytree(SAMPLES, drive / HOST_FOLDER, dirs_exist_ok=True)
         self.app = folder.start(env={"Commander_Path": rf"C:\{HOST_FOLDER}",
-                                     "Commander_INI": rf"C:\{HOST_FOLDER}\wincmd.ini"})
+                                     "Commander_INI": rf"C:\{HOST_FOLDER}\wincmd.ini"},
+                                locale=LOCALES.get(language))
         self.app.wait_for_rows()
 
     def take(self, window, name):
         self.app.settle()
         left, top, right, bottom = window.rect
-        picture = self.pictures / f"{name}-{self.language}.png"
+        picture = self.picture(name)
         self.app.wine.display.screenshot(picture, (left, top, right - left, bottom - top))
         print(picture.name, f"{right - left} x {bottom - top}")
 
@@ -130,13 +139,23 @@ class Photographer:
         wait_until(lambda: not self.app.has_window(window.handle), "the dialog to go")
 
 
+def photographer(folder, language, options):
+    if options.for_help:
+        return Photographer(folder, language, lambda name: PROJECT / "help" / language / f"{name}.png",
+                            NARROW_PLACES)
+    return Photographer(folder, language, lambda name: options.folder / f"{name}-{language}.png", USUAL_PLACES)
+
+
 def main():
     arguments = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     arguments.add_argument("language", nargs="*", default=SHOWN)
     arguments.add_argument("--folder", type=pathlib.Path, default=PROJECT / "docs" / "screenshots")
     arguments.add_argument("--dpi", type=int, default=96)
+    arguments.add_argument("--for-help", action="store_true")
     options = arguments.parse_args()
     options.folder.mkdir(parents=True, exist_ok=True)
+    if options.for_help:
+        options.language = [project.parent.name for project in sorted(PROJECT.glob("help/*/*.hhp"))]
     display = Display()
     try:
         wine = Wine(display)
@@ -148,7 +167,7 @@ def main():
                 with tempfile.TemporaryDirectory(dir=WORK) as path:
                     folder = Folder(wine, pathlib.Path(path))
                     try:
-                        Photographer(folder, language, options.folder).take_all()
+                        photographer(folder, language, options).take_all()
                     finally:
                         folder.end_all()
                         if language in WITHOUT_LETTERS:
