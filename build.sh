@@ -2,10 +2,11 @@
 # Builds the ready program folders dist/x64 and dist/x86 (or only those that are named), and checks
 # that what is in them runs on a Windows that has nothing installed.
 #
-#   ./build.sh [x64] [x86] [release]
+#   ./build.sh [x64] [x86] [release] [site]
 #
 # release builds both, and packs them into dist/ordalyn-VERSION-x64.zip, -x86.zip and -setup.exe with
 # their SHA256SUMS. The same commit gives the same bytes on any day, in any folder, for any user.
+# site makes dist/site of the pages of the help, for a web server.
 set -euo pipefail
 cd "$(dirname "$0")"
 case " $* " in *" release "*) tools/setup.sh build release ;; *) tools/setup.sh build ;; esac
@@ -37,16 +38,21 @@ compile_help() {
     fi
 }
 
-# Compiles the help sources, when the tree has them: help/NAME.hhp becomes NAME.chm.
+# Compiles the help, once in a run: help/LANGUAGE/NAME.hhp becomes NAME.chm.
+help_is_built=
 build_help() {
-    local target=$1 project name
-    for project in help/*.hhp help/*/*.hhp; do
-        [ -e "$project" ] || continue
-        name=$(sed -n 's/^Compiled file=\(.*\)\r\?$/\1/Ip' "$project" | tr -d '\r')
-        (cd "$(dirname "$project")" && compile_help "$(basename "$project")" >/dev/null 2>&1) ||
-            fail "the help file of $project does not compile"
-        mv "$(dirname "$project")/$name" "$target/"
-    done
+    local target=$1 project
+    if [ -z "$help_is_built" ]; then
+        rm -rf build/help
+        /usr/bin/python3 -B tools/make_help.py sources build/help
+        for project in build/help/*/*.hhp; do
+            (cd "$(dirname "$project")" && compile_help "$(basename "$project")" >/dev/null 2>&1) ||
+                fail "the help file of $project does not compile"
+        done
+        help_is_built=yes
+    fi
+    rm -f "$target"/*.chm
+    cp build/help/*/*.chm "$target/"
 }
 
 build_folder() {
@@ -86,6 +92,7 @@ for bits in "$@"; do
             build_folder x86 x86 i686-w64-mingw32
             /usr/bin/python3 -B tools/make_release.py dist "$(commit_seconds)"
             ;;
+        site) /usr/bin/python3 -B tools/make_help.py site dist/site ;;
         *) fail "no such folder: $bits" ;;
     esac
 done

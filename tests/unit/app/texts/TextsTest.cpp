@@ -128,6 +128,48 @@ std::vector<std::string> NotShown(Speaker& speaker, const std::string& allShown)
     return missing;
 }
 
+// The texts of which the help says what they mean in a message; none in a language without help.
+std::set<std::int32_t> ExplainedMessages(const std::string& language) {
+    std::ifstream file(ORDALYN_SOURCE_DIR "/help/" + language + "/messages.html");
+    const std::string page{std::istreambuf_iterator<char>(file), {}};
+    std::set<std::int32_t> ids;
+    static const std::regex marked(R"re(data-id="(\d+)")re");
+    for (std::sregex_iterator found(page.begin(), page.end(), marked), end; found != end; ++found)
+        ids.insert(std::stoi(found->str(1)));
+    return ids;
+}
+
+// The text of the program that the line of a message begins with; 0 when it is only what the
+// program put in.
+std::int32_t TextOfLine(Speaker& speaker, const std::string& line) {
+    std::int32_t longest = 0;
+    std::size_t length = 0;
+    for (const std::string_view entry : cDefaultStrings::BuiltInTable()) {
+        const std::int32_t id = std::stoi(std::string(entry));
+        const std::string text = speaker.Text(id);
+        const std::string first = Trimmed(text.substr(0, text.find('%')));
+        if (first.size() <= length || !line.starts_with(first))
+            continue;
+        const std::vector<std::string> pieces = PiecesOf(text);
+        if (std::all_of(pieces.begin(), pieces.end(), [&](const std::string& piece) {
+                return line.find(piece) != std::string::npos;
+            })) {
+            longest = id;
+            length = first.size();
+        }
+    }
+    return longest;
+}
+
+void ExpectExplained(Speaker& speaker, const std::set<std::int32_t>& explained,
+                     const std::string& shown) {
+    for (const std::string& line : LinesOf(shown)) {
+        const std::int32_t id = TextOfLine(speaker, line);
+        EXPECT_TRUE(id == 0 || explained.contains(id))
+            << "messages.html says nothing of " << id << ": " << line;
+    }
+}
+
 TEST(Texts, ReadAsAWholeInEveryLanguage) {
     std::vector<TextsSection> sections;
     for (const Situation& situation : Situations())
@@ -138,12 +180,17 @@ TEST(Texts, ReadAsAWholeInEveryLanguage) {
         Speaker speaker(language);
         speaker.Start();
         std::string allShown;
+        const std::set<std::int32_t> explained = ExplainedMessages(language);
+        EXPECT_EQ(explained.contains(kMissingLanguageFile),
+                  language == kBuiltInLanguage || language == "German");
         for (std::size_t i = 0; i < sections.size(); ++i) {
             const Situation& situation = Situations()[i];
             SCOPED_TRACE(std::string(situation.name) + ", " + language);
             speaker.tools.messages.clear();
             const std::string shown = situation.shown(speaker);
             ExpectReadable(situation, language, shown);
+            if (situation.kind == Kind::Message && !explained.empty())
+                ExpectExplained(speaker, explained, shown);
             sections[i].texts.emplace_back(language, shown);
             allShown += shown + "\n";
             EXPECT_EQ(language != kBuiltInLanguage && shown == sections[i].texts[0].second,
