@@ -183,16 +183,12 @@ def make_sources(help_, folder):
 
 
 def navigation(help_, page, others):
-    lines, depth = ['<nav class="site">'], 0
-    for other in others:
-        lines.append(f'<p><a href="../{other.code}/{page.name}" hreflang="{other.code}">{NAMES[other.code]}</a></p>')
-    for level, name, target in help_.contents:
-        lines += ["<ul>"] * (level - depth) + ["</ul>"] * (depth - level)
-        depth = level
-        here = ' class="here"' if target == page.name else ""
-        lines.append(f'<li{here}><a href="{target}">{html.escape(name)}</a></li>' if target
-                     else f"<li>{html.escape(name)}</li>")
-    return "\n".join([*lines, *["</ul>"] * depth, "</nav>"])
+    """Links to the page in the other languages, and the contents."""
+    links = "".join(f'<p><a href="../{other.code}/{page.name}" hreflang="{other.code}">{NAMES[other.code]}</a></p>\n'
+                    for other in others)
+    contents = re.search("<ul>.*</ul>", (help_.folder / CONTENTS).read_text("utf-8"), re.S)[0]
+    here = contents.replace(f'<a href="{page.name}">', f'<a class="here" href="{page.name}">')
+    return f'<nav class="site">\n{links}{here}\n</nav>'
 
 
 def make_site(all_, folder):
