@@ -22,6 +22,7 @@ import pathlib
 import re
 import shutil
 import sys
+import unicodedata
 
 PROJECT = pathlib.Path(__file__).resolve().parents[1]
 HELP = PROJECT / "help"
@@ -144,7 +145,9 @@ class Help:
     def words(self):
         found = [(word, page.name + (f"#{anchor}" if anchor else ""))
                  for page in self.pages for word, anchor in page.words]
-        return sorted(found, key=lambda entry: (entry[0].casefold(), entry[1]))
+        # As in a dictionary: letters with marks beside those without.
+        return sorted(found, key=lambda entry: (unicodedata.normalize("NFKD", entry[0].casefold())
+                                                .encode("ascii", "ignore"), entry))
 
 
 def languages():
