@@ -170,8 +170,10 @@ def make_sources(help_, folder):
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     encoding = help_.code_page()
+    # In the form that the viewer has known from the first.
+    said = f'http-equiv="Content-Type" content="text/html; charset={encoding.replace("cp", "windows-")}"'
     for page in help_.pages:
-        text = help_.flat(page).replace('charset="utf-8"', f'charset="{encoding.replace("cp", "windows-")}"')
+        text = help_.flat(page).replace('charset="utf-8"', said)
         (folder / page.name).write_bytes(text.encode(encoding, "xmlcharrefreplace"))
     for file in help_.shared_files():
         shutil.copyfile(file, folder / file.name)

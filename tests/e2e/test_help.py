@@ -5,6 +5,7 @@ import shutil
 import pytest
 
 from harness.dialogs import open_calendar, open_filter, open_find, open_history, open_options
+from harness.filedialog import FileDialog
 from harness.folder import tools_folder
 from harness.waiting import wait_until
 
@@ -77,6 +78,11 @@ def test_each_window_has_its_page(show, folder, viewer):
     press()
     app.keys("Escape")
     wait_until(lambda: not app.has_window(options.handle), "the options to go")
+    # The system's own dialogs have help of their own, or none.
+    app.keys("Ctrl+O")
+    dialog = FileDialog.of(app)
+    app.keys("F1")
+    dialog.cancel()
     app.main.choose("Help", "About...")
     press()
     app.keys("Escape")

@@ -89,7 +89,8 @@ def test_the_program_finds_the_help_by_the_name_of_the_language_file():
 def test_the_help_file_holds_every_page_picture_and_list(help_, opened):
     folder = opened / help_.name
     for page in help_.pages:
-        assert (folder / page.name).read_text(help_.code_page()).count(page.title), page.name
+        text = (folder / page.name).read_text(help_.code_page())
+        assert page.title in text and "charset=windows-1252" in text and "utf-8" not in text, page.name
     for file in help_.shared_files():
         assert (folder / file.name).read_bytes() == file.read_bytes()
     for name in SYSTEM:
