@@ -43,6 +43,11 @@ void Label::SetPlainText(bool plain) {
     peer_->SetPlainText(plain);
 }
 
+void Label::SetShortensPath(bool shortens) {
+    shortensPath_ = shortens;
+    peer_->SetShortensPath(shortens);
+}
+
 bool Label::UserPressedKey(int key, bool held) {
     if (key != key::Space)
         return false;

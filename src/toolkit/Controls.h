@@ -46,12 +46,19 @@ class Label : public Control {
     // Whether the caption is data ("R&D.log"): "&" is then a character like any other.
     bool PlainText() const { return plainText_; }
     void SetPlainText(bool plain);
+    // Whether the caption is a path on one line, which loses what is in its middle where there is
+    // no room for all of it. Otherwise the caption takes the lines that it needs.
+    bool ShortensPath() const { return shortensPath_; }
+    void SetShortensPath(bool shortens);
+    // How high the caption is in a label of that width.
+    Twips HeightFor(Twips width) const { return peer_->HeightFor(width); }
     char32_t AccessKey() const override { return plainText_ ? 0 : Control::AccessKey(); }
     bool UserPressedKey(int key, bool held) override;
 
   private:
     std::unique_ptr<LabelPeer> peer_;
     bool plainText_ = false;
+    bool shortensPath_ = false;
 };
 
 // A check box or an option button. Options of one container exclude each other. Click is raised

@@ -39,6 +39,8 @@ class ControlPeer {
     virtual void TakeFocus() = 0;
     // Whether the user can use it now: it and everything around it are visible and enabled.
     virtual bool CanTakeInput() const = 0;
+    // Whether keys come to it now.
+    virtual bool HasFocus() const = 0;
     virtual void Refresh() = 0;  // repaints at once
 };
 
@@ -46,6 +48,8 @@ class LabelPeer : public ControlPeer {
   public:
     // Whether "&" is a character like any other.
     virtual void SetPlainText(bool plain) = 0;
+    virtual void SetShortensPath(bool shortens) = 0;
+    virtual Twips HeightFor(Twips width) = 0;
 };
 
 // Check boxes and option buttons.

@@ -1,6 +1,9 @@
 #include "win32/controls/Areas.h"
 
+#include <algorithm>
+
 #include "win32/common/DeviceContext.h"
+#include "win32/common/WideText.h"
 #include "win32/controls/WindowClasses.h"
 #include "win32/drawing/FocusMark.h"
 
@@ -34,6 +37,29 @@ void LabelWindow::SetPlainText(bool plain) {
     ChangeStyle(GWL_STYLE, SS_NOPREFIX, plain ? SS_NOPREFIX : 0);
     if (handle() != nullptr)
         InvalidateRect(handle(), nullptr, TRUE);
+}
+
+void LabelWindow::SetShortensPath(bool shortens) {
+    ChangeStyle(GWL_STYLE, SS_ELLIPSISMASK, shortens ? SS_PATHELLIPSIS : 0);
+    if (handle() != nullptr)
+        InvalidateRect(handle(), nullptr, TRUE);
+}
+
+// As the class breaks the text. A pixel less than there is: edges are rounded.
+Twips LabelWindow::HeightFor(Twips width) {
+    if (handle() == nullptr)
+        return 0;
+    const Label& label = static_cast<const Label&>(control());
+    UINT how = DT_CALCRECT | DT_EXPANDTABS;
+    how |= label.ShortensPath() ? DT_SINGLELINE : DT_WORDBREAK;
+    if (label.PlainText())
+        how |= DT_NOPREFIX;
+    const WindowDc dc(handle());
+    const SelectedObject font(dc.Get(), reinterpret_cast<HFONT>(Send(WM_GETFONT)));
+    const std::wstring text = WideForDisplay(label.Caption());
+    RECT place = {0, 0, std::max(scale().PixelsX(width) - 1, 1), 0};
+    DrawTextW(dc.Get(), text.c_str(), static_cast<int>(text.size()), &place, how);
+    return scale().TwipsY(place.bottom);
 }
 
 void LabelWindow::MarkFocus() {

@@ -11,6 +11,8 @@ class LabelWindow : public Peer<toolkit::LabelPeer> {
     LabelWindow(Desktop& desktop, toolkit::Label& label, toolkit::ControlPeer& container);
     void SetReadingOrder(bool rightToLeft, toolkit::Alignment alignment) override;
     void SetPlainText(bool plain) override;
+    void SetShortensPath(bool shortens) override;
+    toolkit::Twips HeightFor(toolkit::Twips width) override;
     // For a label that only shows a colour.
     void SetAccessibleName(std::string_view name) override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;

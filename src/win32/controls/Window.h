@@ -161,6 +161,7 @@ class Peer : public Interface, public Window {
     void BringToFront() override { RaiseToTop(); }
     void TakeFocus() override { Focus(); }
     bool CanTakeInput() const override { return Window::CanTakeInput(); }
+    bool HasFocus() const override { return Window::HasFocus(); }
     void Refresh() override { RepaintNow(); }
 
     toolkit::Rect ShowRescaled() override {

@@ -154,6 +154,46 @@ TEST_P(Controls, TheSecondPressOfADoubleClickCountsToo) {
     EXPECT_EQ(clicked.Take(), 2);
 }
 
+TEST_P(Controls, ALabelSaysHowHighItsCaptionIs) {
+    auto& label = Get<Label>("lblText");
+    label.SetCaption("One");
+    const Twips line = label.HeightFor(3000);
+    EXPECT_GT(line, 0);
+    EXPECT_EQ(label.HeightFor(300000), line);
+    label.SetCaption("Several words that are broken between them where there is no more room");
+    EXPECT_EQ(label.HeightFor(300000), line);
+    EXPECT_GE(label.HeightFor(1500), 2 * line);
+    EXPECT_GE(label.HeightFor(900), label.HeightFor(1500));
+    toolkit::Font font = label.Font();
+    font.size = 2 * font.size;
+    label.SetFont(font);
+    EXPECT_GT(label.HeightFor(300000), line);
+    // What is no width leaves room for something.
+    EXPECT_GT(label.HeightFor(0), 0);
+    // A path stays on its line, and programs that speak the screen find all of it.
+    label.SetPlainText(true);
+    label.SetShortensPath(true);
+    label.SetCaption("C:\\R&D\\a folder\\another folder\\one more folder\\totalcmd.log");
+    EXPECT_EQ(label.HeightFor(1500), label.HeightFor(300000));
+    Show();
+    EXPECT_EQ(User().CaptionOf(label), label.Caption());
+    label.SetShortensPath(false);
+    EXPECT_GT(label.HeightFor(1500), label.HeightFor(300000));
+}
+
+TEST_P(Controls, OneControlAtMostHasTheFocus) {
+    auto& button = Get<CommandButton>("cmdOk");
+    auto& box = Get<CheckBox>("chkBox");
+    EXPECT_FALSE(button.HasFocus());
+    Show();
+    button.SetFocus();
+    EXPECT_TRUE(button.HasFocus());
+    EXPECT_FALSE(box.HasFocus());
+    box.SetFocus();
+    EXPECT_FALSE(button.HasFocus());
+    EXPECT_TRUE(box.HasFocus());
+}
+
 TEST_P(Controls, ACheckBoxRaisesTheSameForCodeAndForTheUser) {
     Show();
     auto& box = Get<CheckBox>("chkBox");

@@ -86,6 +86,7 @@ class Peer : public Interface, public HasShown {
         }
         return true;
     }
+    bool HasFocus() const override { return toolkit_.focus == &control_; }
     void Refresh() override { ++shown.refreshes; }
 
   protected:
@@ -114,6 +115,15 @@ class MemoryLabel : public Peer<toolkit::LabelPeer> {
   public:
     using Peer::Peer;
     void SetPlainText(bool plain) override { shown.plainText = plain; }
+    void SetShortensPath(bool shortens) override { shown.shortensPath = shortens; }
+    // Letters that are all alike, broken anywhere.
+    toolkit::Twips HeightFor(toolkit::Twips width) override {
+        const double letter = 12.5 * shown.font.size, line = 25 * shown.font.size;
+        const double needed = letter * static_cast<double>(CharacterCount(shown.caption));
+        const bool single = shown.shortensPath || !(width > letter);
+        return static_cast<toolkit::Twips>(
+            single ? line : line * std::max(1.0, std::ceil(needed / static_cast<double>(width))));
+    }
 };
 
 class MemoryToggle : public Peer<toolkit::TogglePeer> {

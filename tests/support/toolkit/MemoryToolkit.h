@@ -42,6 +42,7 @@ struct Shown {
     std::string accessibleName;
     std::optional<bool> tabStop;  // what the control was designed with
     bool plainText = false;
+    bool shortensPath = false;
     int refreshes = 0;
     int broughtToFront = 0;
     // Kinds with more.
