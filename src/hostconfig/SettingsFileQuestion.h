@@ -23,6 +23,8 @@ class SettingsFileQuestion {
     // Says that there is no settings file and offers to look for one, first in `startFolder`.
     // Messages may be handled meanwhile: whatever events can change may have changed on return.
     virtual Answer AskForSettingsFile(const std::string& startFolder) = 0;
+    // The same for a user who wants to look for one, and knows why.
+    virtual Answer ChooseSettingsFile(const std::string& startFolder) = 0;
 };
 
 }  // namespace ordalyn

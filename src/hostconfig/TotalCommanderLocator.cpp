@@ -1,5 +1,9 @@
 #include "hostconfig/TotalCommanderLocator.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "base/FileNames.h"
 #include "base/Text.h"
 #include "hostconfig/cProfile.h"
 #include "hostconfig/cRegistry.h"
@@ -18,6 +22,13 @@ constexpr std::string_view kRegistryPlaces[] = {
 bool HasBehind(std::string_view text, std::size_t count, std::string_view part) {
     return text.substr(FirstCharacters(text, count).size()).substr(0, part.size()) == part;
 }
+
+// What a fresh settings file is given, so that it is one.
+struct FreshEntry {
+    std::string_view key;
+    std::string_view value;
+};
+constexpr FreshEntry kFreshEntries[] = {{"firstmnu", "512"}, {"PanelsVertical", "0"}};
 
 std::string_view WithoutEnclosingQuotes(std::string_view text) {
     if (text.empty() || text.front() != '"' || text.back() != '"')
@@ -55,11 +66,36 @@ std::string TotalCommanderLocator::FindCommanderIni() {
     return path;
 }
 
-std::string TotalCommanderLocator::FindLogFile() {
-    const std::string commandLine = around_.environment.CommandLine();
-    const std::string_view argument = WithoutEnclosingQuotes(commandLine);
-    if (!argument.empty())
-        return std::string(argument);
+bool TotalCommanderLocator::ChooseCommanderIni() {
+    const SettingsFileQuestion::Answer answer =
+        around_.question.ChooseSettingsFile(around_.common.CommanderFolder());
+    if (answer.outcome != SettingsFileQuestion::Outcome::Chosen)
+        return false;
+    FindFolderBeside(answer.path);
+    around_.common.SetCommanderIni(TakeChosenIni(answer.path));
+    return true;
+}
+
+void TotalCommanderLocator::FindFolderBeside(std::string_view ini) const {
+    mAppCommon& common = around_.common;
+    const std::string folder = mAppCommon::FolderPart(ini);
+    if (!common.IsNoValue(common.CommanderFolder()) ||
+        (!common.FileExists(folder + "TOTALCMD64.EXE") &&
+         !common.FileExists(folder + "TOTALCMD.EXE")))
+        return;
+    WriteCommonEntry(kFolderKey, WithoutEndingBackslash(folder));
+    common.SetCommanderFolder(folder);
+    common.ProvideCommanderVariable(folder);
+}
+
+std::string TotalCommanderLocator::LogOfCommandLine(platform::Environment& environment) {
+    return std::string(WithoutEnclosingQuotes(environment.CommandLine()));
+}
+
+std::string TotalCommanderLocator::FindLogFile() const {
+    std::string given = LogOfCommandLine(around_.environment);
+    if (!given.empty())
+        return given;
     const mAppCommon& common = around_.common;
     std::string logFile =
         common.ExpandPath(around_.profile
@@ -131,8 +167,7 @@ std::string TotalCommanderLocator::AskForIni() {
         around_.question.AskForSettingsFile(common.CommanderFolder());
     switch (answer.outcome) {
         case SettingsFileQuestion::Outcome::Chosen:
-            WriteCommonEntry(kIniKey, common.UnExpandPath(answer.path));
-            return common.ExpandPath(answer.path);
+            return TakeChosenIni(answer.path);
         case SettingsFileQuestion::Outcome::Cancelled:
             return MakeFreshIni();
         case SettingsFileQuestion::Outcome::ProgramEnded:
@@ -141,20 +176,39 @@ std::string TotalCommanderLocator::AskForIni() {
     return common.NoValueMarker();
 }
 
+std::string TotalCommanderLocator::TakeChosenIni(const std::string& path) const {
+    const mAppCommon& common = around_.common;
+    WriteCommonEntry(kIniKey, common.UnExpandPath(path));
+    return common.ExpandPath(path);
+}
+
 std::string TotalCommanderLocator::MakeFreshIni() {
     const mAppCommon& common = around_.common;
     std::string path = InFolderOf("windir", "wincmd.ini");
     // One that is there belongs to the file manager.
     if (!common.FileExists(path)) {
         around_.profile.Together([&] {
-            around_.profile.WriteValue(kConfigurationSection, "firstmnu", "512", path);
-            around_.profile.WriteValue(kConfigurationSection, "PanelsVertical", "0", path);
+            for (const FreshEntry& entry : kFreshEntries)
+                around_.profile.WriteValue(kConfigurationSection, entry.key, entry.value, path);
         });
     }
     // Not everybody may write there.
     if (common.FileExists(path))
         WriteCommonEntry(kIniKey, common.UnExpandPath(path));
     return path;
+}
+
+bool TotalCommanderLocator::IsFreshIni(cProfile& profile, std::string_view path) {
+    profile.ReadFileSectionsName(path);
+    profile.ReadSectionKeysNameOnly(kConfigurationSection, path);
+    constexpr auto kLast = static_cast<std::int32_t>(std::size(kFreshEntries)) - 1;
+    return profile.FileSectionsNameLastIndex() == 0 &&
+           profile.SectionKeysNameOnlyLastIndex() == kLast &&
+           std::all_of(std::begin(kFreshEntries), std::end(kFreshEntries),
+                       [&](const FreshEntry& entry) {
+                           return profile.ReadValue(kConfigurationSection, entry.key, "", path) ==
+                                  entry.value;
+                       });
 }
 
 std::string TotalCommanderLocator::ReadCommonEntry(std::string_view key) const {

@@ -52,10 +52,20 @@ class TotalCommanderLocator {
     // program has ended meanwhile.
     std::string FindCommanderIni();
 
+    // The user wants to choose the settings file; returns whether one was chosen, which is
+    // remembered then. One who cancels changes nothing. A file manager that nobody has found and
+    // whose program stands beside the file is found with it: its settings name the log by its
+    // folder. Whatever events can change may have changed on return.
+    bool ChooseCommanderIni();
+
     // The log of the command line, else the one that the settings file names; as it is, or in the
     // folder of the variable "temp" or "tmp" when only there is such a file. Nothing says that the
     // answer exists.
-    std::string FindLogFile();
+    std::string FindLogFile() const;
+    // The file that the program was started with; empty when there was none.
+    static std::string LogOfCommandLine(platform::Environment& environment);
+    // Whether all that the file says is what FindCommanderIni writes into a fresh one.
+    static bool IsFreshIni(cProfile& profile, std::string_view path);
 
     // The existing file that a path of the registry means: with ".\" it lies in the file manager's
     // folder, else, unless it begins with a drive, in the Windows folder. The marker of absent
@@ -66,6 +76,8 @@ class TotalCommanderLocator {
     std::string SearchFolder();
     std::string SearchIni();
     std::string AskForIni();
+    std::string TakeChosenIni(const std::string& path) const;
+    void FindFolderBeside(std::string_view ini) const;
     std::string MakeFreshIni();
     std::optional<std::string> FolderInRegistry(std::string_view path) const;
     std::string ReadCommonEntry(std::string_view key) const;

@@ -20,6 +20,11 @@ SettingsFileQuestion::Answer SettingsFileDialog::AskForSettingsFile(
                          toolkit::MessageIcon::Exclamation, toolkit::MessageButtons::Ok);
     if (Ended())
         return {Outcome::ProgramEnded, {}};
+    return ChooseSettingsFile(startFolder);
+}
+
+SettingsFileQuestion::Answer SettingsFileDialog::ChooseSettingsFile(
+    const std::string& startFolder) {
     dialog_.ShowOpenDialog(owner_ != nullptr ? owner_->Handle() : 0, startFolder, "Wincmd.ini",
                            cCommonDialog::kSettingsFiles, "", true);
     if (dialog_.Confirmed)

@@ -21,6 +21,7 @@ class SettingsFileDialog : public SettingsFileQuestion {
                        TextSource text);
 
     Answer AskForSettingsFile(const std::string& startFolder) override;
+    Answer ChooseSettingsFile(const std::string& startFolder) override;
 
   private:
     bool Ended() const { return owner_ != nullptr && owner_->Unloaded(); }

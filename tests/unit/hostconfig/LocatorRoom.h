@@ -21,8 +21,14 @@ class ScriptedUser : public SettingsFileQuestion {
         return answer;
     }
 
+    Answer ChooseSettingsFile(const std::string& startFolder) override {
+        choseIn.push_back(startFolder);
+        return answer;
+    }
+
     Answer answer{Outcome::Cancelled, ""};
     std::vector<std::string> askedIn;
+    std::vector<std::string> choseIn;
 };
 
 struct LocatorRoom {

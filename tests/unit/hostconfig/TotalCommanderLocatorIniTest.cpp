@@ -159,5 +159,61 @@ TEST_F(CommanderIni, AProgramThatEndsMeanwhileGetsNoFileAndLeavesNone) {
     EXPECT_EQ(Remembered("UserDefinedWincmd"), "(absent)");
 }
 
+// Later than at the start, when the user wants to.
+using ChosenIni = CommanderIni;
+
+TEST_F(ChosenIni, IsTheSettingsFileFromThenOnAndRemembered) {
+    Choose("c:\\totalcmd\\own.ini");
+    EXPECT_TRUE(locator.ChooseCommanderIni());
+    EXPECT_EQ(common.CommanderIni(), "c:\\totalcmd\\own.ini");
+    EXPECT_EQ(Remembered("UserDefinedWincmd"), "%Commander_Path%\\own.ini");
+    EXPECT_EQ(user.choseIn, std::vector<std::string>{"c:\\totalcmd\\"});
+    EXPECT_TRUE(AskedNothing());
+    EXPECT_EQ(Remembered("TCInstallDir"), "(absent)");
+}
+
+TEST_F(ChosenIni, ThatWasNotChosenChangesNothing) {
+    common.SetCommanderIni("d:\\before.ini");
+    for (const auto outcome :
+         {SettingsFileQuestion::Outcome::Cancelled, SettingsFileQuestion::Outcome::ProgramEnded}) {
+        user.answer = {outcome, ""};
+        EXPECT_FALSE(locator.ChooseCommanderIni());
+    }
+    EXPECT_EQ(common.CommanderIni(), "d:\\before.ini");
+    EXPECT_EQ(Remembered("UserDefinedWincmd"), "(absent)");
+    EXPECT_FALSE(system.files.Get("C:\\Windows\\wincmd.ini").has_value());
+}
+
+// One on a stick, which no registry knows.
+TEST_F(ChosenIni, LeadsToAFileManagerThatNobodyHasFound) {
+    for (const char* program : {"TOTALCMD64.EXE", "TOTALCMD.EXE"}) {
+        system.environment.RemoveVariable("Commander_Path");
+        common.SetCommanderFolder(common.NoValueMarker());
+        system.files.Set(std::string("E:\\tc\\") + program, "");
+        Choose("E:\\tc\\wincmd.ini");
+        EXPECT_TRUE(locator.ChooseCommanderIni());
+        EXPECT_EQ(common.CommanderFolder(), "E:\\tc\\") << program;
+        EXPECT_EQ(system.environment.Variable("Commander_Path"), "E:\\tc");
+        EXPECT_EQ(Remembered("TCInstallDir"), "E:\\tc");
+        EXPECT_EQ(Remembered("UserDefinedWincmd"), "%Commander_Path%\\wincmd.ini");
+        system.files.Delete(std::string("E:\\tc\\") + program);
+    }
+}
+
+TEST_F(ChosenIni, InAnotherFolderFindsNoFileManager) {
+    common.SetCommanderFolder(common.NoValueMarker());
+    Choose("E:\\ini\\wincmd.ini");
+    EXPECT_TRUE(locator.ChooseCommanderIni());
+    EXPECT_TRUE(common.IsNoValue(common.CommanderFolder()));
+    EXPECT_EQ(Remembered("TCInstallDir"), "(absent)");
+}
+
+TEST_F(ChosenIni, LeavesAFolderThatWasFoundAsItIs) {
+    system.files.Set("E:\\tc\\TOTALCMD.EXE", "");
+    Choose("E:\\tc\\wincmd.ini");
+    EXPECT_TRUE(locator.ChooseCommanderIni());
+    EXPECT_EQ(common.CommanderFolder(), "c:\\totalcmd\\");
+}
+
 }  // namespace
 }  // namespace ordalyn

@@ -54,6 +54,17 @@ TEST_F(SettingsFile, IsAskedForInTheOpenDialog) {
     EXPECT_EQ(request.flags, 0x1088140EU);
 }
 
+TEST_F(SettingsFile, IsChosenWithoutAMessageByWhoeverWantsTo) {
+    system.dialogs.onOpenFile = [](const auto&) { return "d:\\ini\\my.ini"; };
+    const SettingsFileQuestion::Answer answer = question.ChooseSettingsFile("c:\\totalcmd\\");
+    EXPECT_EQ(answer.outcome, Outcome::Chosen);
+    EXPECT_EQ(answer.path, "d:\\ini\\my.ini");
+    EXPECT_TRUE(kit.messages.empty());
+    ASSERT_EQ(system.dialogs.openRequests.size(), 1U);
+    EXPECT_EQ(system.dialogs.openRequests[0].initialFolder, "c:\\totalcmd\\");
+    EXPECT_EQ(system.dialogs.openRequests[0].fileName, "Wincmd.ini");
+}
+
 TEST_F(SettingsFile, TheMessageComesBeforeTheDialog) {
     kit.onMessage = [&](const ShownMessage&) {
         EXPECT_TRUE(system.dialogs.openRequests.empty());
