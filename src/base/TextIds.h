@@ -187,6 +187,26 @@ inline constexpr TextId kFewerOperations{"5150"};
 inline constexpr TextId kMoreOperations{"5151"};
 inline constexpr TextId kSomethingFailed{"5152"};
 
+// What to do while no log is shown.
+inline constexpr TextId kFileManagerNotFound{"5182"};
+inline constexpr TextId kWhereSettingsAre{"5183"};
+inline constexpr TextId kChooseSettings{"5184"};
+inline constexpr TextId kWritesNoLog{"5185"};
+inline constexpr TextId kSwitchLogOn{"5186"};
+inline constexpr TextId kLogNotYetThere{"5187"};
+inline constexpr TextId kLogBeginsLater{"5188"};
+inline constexpr TextId kLogShowsItself{"5189"};
+inline constexpr TextId kLogIsEmpty{"5190"};
+inline constexpr TextId kLogFolderMissing{"5191"};
+inline constexpr TextId kConnectDrive{"5192"};
+inline constexpr TextId kNoSuchFile{"5193"};
+inline constexpr TextId kLogNotReadable{"5194"};
+inline constexpr TextId kWhyNotReadable{"5195"};
+inline constexpr TextId kLookAgain{"5196"};
+inline constexpr TextId kOpenLogFile{"5197"};
+inline constexpr TextId kFollowThisLog{"5198"};
+inline constexpr TextId kSettingsNotFound{"5199"};
+
 }  // namespace text_id
 
 }  // namespace ordalyn

@@ -242,13 +242,24 @@ void LogFileReading::ShowAnother(const LogReader& reader, EntryLists& fresh, boo
 }
 
 LogFileReading::Followed LogFileReading::Follow() {
+    return Quietly([this] {
+        bool anotherFile = mark_.lineCount == 0;
+        const Followed result = anotherFile ? Followed::Done : FollowOn(anotherFile);
+        return anotherFile ? FollowAnew(mark_.path) : result;
+    });
+}
+
+LogFileReading::Followed LogFileReading::FollowFromBeginning(const std::string& path) {
+    return Quietly([&] { return FollowAnew(path); });
+}
+
+template <typename Read>
+LogFileReading::Followed LogFileReading::Quietly(const Read& read) {
     if (reading_ || stopped_)
         return Followed::NotYet;
     const toolkit::ScopedFlag reading(reading_);
     try {
-        bool anotherFile = mark_.lineCount == 0;
-        const Followed result = anotherFile ? Followed::Done : FollowOn(anotherFile);
-        return anotherFile ? FollowAnew() : result;
+        return read();
     } catch (const FileError&) {
         return Followed::NotYet;
     } catch (const std::exception&) {
@@ -279,12 +290,12 @@ LogFileReading::Followed LogFileReading::FollowOn(bool& anotherFile) {
     return result;
 }
 
-LogFileReading::Followed LogFileReading::FollowAnew() {
+LogFileReading::Followed LogFileReading::FollowAnew(const std::string& path) {
     EntryLists fresh;
     PassedOverLines passedOver;
     LogReader reader(shared_.services.files, shared_.services.codePages, fresh,
                      NotedIn(passedOver));
-    reader.ReadGrowingFile(mark_.path);
+    reader.ReadGrowingFile(path);
     if (fresh.EntrySources().ListCount() < 0)
         return Followed::Done;
     ShowAnother(reader, fresh, false);

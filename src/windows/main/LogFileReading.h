@@ -70,6 +70,8 @@ class LogFileReading {
     // under the user, who is shown the last row only when it was selected, or when the file is
     // another one.
     Followed Follow();
+    // The same for a log that was not there, or had nothing in it, while none was shown.
+    Followed FollowFromBeginning(const std::string& path);
     // How much of the file has been read; one that has this size has nothing new.
     std::uint64_t BytesRead() const { return mark_.trace.Size(); }
     // The file that is shown; empty when none is.
@@ -89,8 +91,10 @@ class LogFileReading {
     void ReadWhatIsNew(AppendedLines& appended, PassedOverLines& passedOver);
     void ReadAnew(PassedOverLines& passedOver);
     void ShowAnother(const LogReader& reader, EntryLists& fresh, bool takeFocus);
+    template <typename Read>
+    Followed Quietly(const Read& read);
     Followed FollowOn(bool& anotherFile);
-    Followed FollowAnew();
+    Followed FollowAnew(const std::string& path);
     void Show(EntryLists& entries, bool selectLastDate, bool takeFocus = true);
     void ShowReadError(const std::string& fileName, std::int32_t lineNumber, bool tooLarge);
     void ReportPassedOver(const PassedOverLines& passedOver);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 #include "base/FileNames.h"
 
@@ -22,11 +23,12 @@ constexpr std::chrono::milliseconds kLong{500};
 }  // namespace
 
 LogFollowing::LogFollowing(SharedObjects& shared, const Controls& controls, LogFileReading& reading,
-                           LogFileSet& files)
+                           LogFileSet& files, std::function<std::string()> awaited)
     : shared_(shared),
       controls_(controls),
       reading_(reading),
       files_(files),
+      awaited_(std::move(awaited)),
       timer_(controls.form) {
     timer_.Elapsed.Subscribe([this] { TimeHasPassed(); });
     ShowState();
@@ -60,7 +62,12 @@ void LogFollowing::Begin(const std::string& path) {
 }
 
 void LogFollowing::TimeHasPassed() {
-    const std::string path = files_.ShowsGrowingLog() ? reading_.CurrentLogFile() : "";
+    waits_ = reading_.CurrentLogFile().empty();
+    std::string path;
+    if (waits_)
+        path = awaited_();
+    else if (files_.ShowsGrowingLog())
+        path = reading_.CurrentLogFile();
     if (path != path_)
         Begin(path);
     if (path.empty() || controls_.cboDate.IsDroppedDown() || controls_.cboFiles.IsDroppedDown())
@@ -89,12 +96,19 @@ void LogFollowing::ReadWhatIsNew() {
         seen_ = now;
         return;
     }
-    const LogFileReading::Followed result = reading_.Follow();
+    // The title names the folder of the list.
+    if (waits_)
+        files_.BuildLogFileList();
+    const LogFileReading::Followed result =
+        waits_ ? reading_.FollowFromBeginning(path_) : reading_.Follow();
     if (result == LogFileReading::Followed::NotYet)
         return;
     seen_ = now;
-    // The log was rotated: there is another one beside it.
-    if (result == LogFileReading::Followed::AnotherFile)
+    if (result != LogFileReading::Followed::AnotherFile)
+        return;
+    if (waits_)
+        files_.LogOpened();
+    else  // The log was rotated: there is another one beside it.
         files_.BuildLogFileList();
 }
 

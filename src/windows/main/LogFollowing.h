@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -27,10 +28,12 @@ class LogFollowing {
         toolkit::MenuItem& mnuViewFollow;
     };
 
-    // As the settings say. Nothing is looked at while the user cannot use the form
-    // (toolkit/Timer.h) or has one of its lists open: what came meanwhile is read afterwards.
+    // `awaited` returns the path of a log that is to be shown as soon as there is one, while none
+    // is shown, and otherwise nothing. As the settings say. Nothing is looked at while the user
+    // cannot use the form (toolkit/Timer.h) or has one of its lists open: what came meanwhile is
+    // read afterwards.
     LogFollowing(SharedObjects& shared, const Controls& controls, LogFileReading& reading,
-                 LogFileSet& files);
+                 LogFileSet& files, std::function<std::string()> awaited);
 
     // View > Follow the Log; remembered.
     void Toggle();
@@ -53,8 +56,10 @@ class LogFollowing {
     Controls controls_;
     LogFileReading& reading_;
     LogFileSet& files_;
+    std::function<std::string()> awaited_;
     toolkit::Timer timer_;
-    std::string path_;  // the log that is followed; empty when none is
+    std::string path_;    // the log that is followed; empty when none is
+    bool waits_ = false;  // for that log: it is not shown yet
     std::unique_ptr<platform::FolderWatch> watch_;
     Look seen_;          // what the log was like when it was read
     int untilLook_ = 0;  // how often time has to pass before the next look

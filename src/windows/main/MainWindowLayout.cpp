@@ -71,6 +71,20 @@ void MainWindowLayout::WindowResized() {
             Attempt([&] { controls_.SourceListView.SetWidth(area.width); });
         }
     });
+    Attempt([this] { Arranged.Raise(); });
+}
+
+void MainWindowLayout::ShowPanels(bool shown) {
+    panelsShown_ = shown;
+    ShowThisManyPanels();
+}
+
+// Two panels are inside the container, a single one is not.
+void MainWindowLayout::ShowThisManyPanels() {
+    const bool twoPanels = settings_.TwoPanels != 0;
+    controls_.picSpliterContainer.SetVisible(twoPanels && panelsShown_);
+    if (!twoPanels)
+        controls_.SourceListView.SetVisible(panelsShown_);
 }
 
 void MainWindowLayout::ArrangePanels() {
@@ -121,7 +135,8 @@ void MainWindowLayout::ChangePanelsCount() {
             RowMoved.Raise(selected);
     });
     WindowResized();
-    controls_.SourceListView.SetFocus();
+    if (panelsShown_)
+        controls_.SourceListView.SetFocus();
 }
 
 void MainWindowLayout::MoveToTwoPanels() {
@@ -139,7 +154,7 @@ void MainWindowLayout::MoveToTwoPanels() {
     });
     ArrangePanels();
     source.RemoveLastColumn();
-    controls_.picSpliterContainer.SetVisible(true);
+    ShowThisManyPanels();
 }
 
 void MainWindowLayout::MoveToOnePanel() {
@@ -147,6 +162,7 @@ void MainWindowLayout::MoveToOnePanel() {
     controls_.SourceListView.AddColumn(targetCaption_(), controls_.TargetListView.ColumnWidth(0),
                                        kTargetField);
     PutSourceListOnWindow();
+    ShowThisManyPanels();
     controls_.TargetListView.ClearRows();
 }
 

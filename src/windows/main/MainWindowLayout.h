@@ -44,12 +44,18 @@ class MainWindowLayout {
 
     // The selected row (0-based) is shown by another number of panels than before.
     toolkit::Event<int> RowMoved;
+    // The place of the panels may be another one.
+    toolkit::Event<> Arranged;
 
     // Sets the menu's marks and makes the first arrangement as the settings say. The columns must
     // be there already.
     void ArrangeFirstTime();
     // The window has another size. Whatever cannot be placed stays as it is.
     void WindowResized();
+    // Whether the panels are shown, or something else is in their place.
+    void ShowPanels(bool shown);
+    // Where one or two panels go: below the boxes, above the status bar, with a pixel at each side.
+    toolkit::Rect PanelsArea() const;
 
     void ToggleStatusBar();
     void ToggleTwoPanels();
@@ -67,8 +73,7 @@ class MainWindowLayout {
 
   private:
     toolkit::Twips StatusBarHeight() const;
-    // Where one or two panels go: below the boxes, above the status bar, with a pixel at each side.
-    toolkit::Rect PanelsArea() const;
+    void ShowThisManyPanels();
     // The setting for the bar of the present orientation.
     std::int32_t& BarPosition();
     // Takes the bar's position for the setting when it was moved since the panels were arranged. A
@@ -86,6 +91,7 @@ class MainWindowLayout {
     PixelSize pixel_;
     std::function<std::string()> targetCaption_;
     float arrangedPosition_ = 0;
+    bool panelsShown_ = true;
 };
 
 }  // namespace ordalyn

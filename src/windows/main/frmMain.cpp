@@ -51,7 +51,8 @@ frmMain::frmMain(SharedObjects& shared)
                 [this] { reading_.CancelReading = true; }),
       reading_(shared, *this, entries_, panels_, progress_, title_),
       files_(shared, {*this, cboFiles, SourceListView, Menu("mnuViewRefresh")}, reading_, title_),
-      following_(shared, {*this, cboDate, cboFiles, Menu("mnuViewFollow")}, reading_, files_),
+      following_(shared, {*this, cboDate, cboFiles, Menu("mnuViewFollow")}, reading_, files_,
+                 [this] { return firstSteps_.AwaitedLog(); }),
       rows_({shared, *this, SourceListView, entries_, operations_, reading_, files_, progress_}),
       layout_({*this, cboDate, Get<toolkit::PictureBox>("picSpliterContainer"),
                Get<toolkit::Frame>("Frame1"), SourceListView, TargetListView, StatusBar1,
@@ -68,7 +69,8 @@ frmMain::frmMain(SharedObjects& shared)
       find_(shared, *this, entries_, panels_, filter_),
       calendar_(shared, *this, entries_, panels_, operations_),
       history_(shared, *this, {entries_, panels_, operations_, find_, files_, SourceListView}),
-      help_(shared, *this) {
+      help_(shared, *this),
+      firstSteps_(shared, *this, {layout_, panels_, reading_, locator_, SourceListView}) {
     for (const toolkit::Twips width : kStatusPanels)
         StatusBar1.AddPanel(width);
     // A step that fails leaves its own result out, not the steps behind it.
@@ -136,6 +138,7 @@ void frmMain::ApplySettings() {
     find_.LoadFilterInterface();
     calendar_.LoadInterface();
     history_.LoadInterface();
+    firstSteps_.LoadInterface();
 }
 
 void frmMain::WireMenus() {
@@ -157,7 +160,10 @@ void frmMain::WireMenus() {
         Menu("mnuViewFailedOnly").SetChecked(only);
         panels_.ShowFailedOnly(only);
     });
-    on("mnuViewFollow", [this] { following_.Toggle(); });
+    on("mnuViewFollow", [this] {
+        following_.Toggle();
+        firstSteps_.Update();
+    });
     on("mnuViewCalendar", [this] { calendar_.Show(); });
     on("mnuHelpHelpTopics", [this] { help_.ShowTopics(); });
     on("mnuHelpAbout", [this] { ShowAbout(); });
@@ -179,7 +185,14 @@ void frmMain::WireParts() {
         calendar_.Enable(enabled);
         history_.Enable(enabled);
     });
-    reading_.EntriesChanged.Subscribe([this] { history_.EntriesChanged(); });
+    reading_.EntriesChanged.Subscribe([this] {
+        history_.EntriesChanged();
+        firstSteps_.Update();
+    });
+    firstSteps_.SettingsFileChosen.Subscribe([this] {
+        operations_.Forget();
+        ReadFoundLog(false);
+    });
     reading_.FileOpened.Subscribe([this](const std::string& path) {
         shared_.recentFiles->AddFile(path);
         SaveRecentFiles();
@@ -217,19 +230,25 @@ void frmMain::FindLog() {
     Attempt([this] { locator_.FindCommanderFolder(); });
     Attempt([this] { locator_.FindCommanderIni(); });
     operations_.Forget();
+    ReadFoundLog(true);
+}
+
+void frmMain::ReadFoundLog(bool sayNone) {
     if (Unloaded())
         return;
     std::string logFile;
     Attempt([&] { logFile = locator_.FindLogFile(); });
-    if (!shared_.common.FileExists(logFile)) {
+    if (shared_.common.FileExists(logFile)) {
+        files_.BuildLogFileList();
+        if (reading_.ReadLogFile(false, logFile, false))
+            files_.LogOpened();
+    } else {
         SetTitle("");
-        shared_.toolkit.ShowMessage(this, shared_.Text(text_id::kNoCommanderLog),
-                                    mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
-        return;
+        if (sayNone)
+            shared_.toolkit.ShowMessage(this, shared_.Text(text_id::kNoCommanderLog),
+                                        mAppCommon::kProgramTitle, toolkit::MessageIcon::Critical);
     }
-    files_.BuildLogFileList();
-    if (reading_.ReadLogFile(false, logFile, false))
-        files_.LogOpened();
+    firstSteps_.LogWasLookedFor();
 }
 
 void frmMain::KeyReleased(int key, toolkit::Modifiers modifiers) {
@@ -326,6 +345,7 @@ void frmMain::ApplyNewLanguage() {
     recentFilesMenu_.ChangeLanguage();
     files_.LanguageChanged();
     panels_.LanguageChanged();
+    firstSteps_.Update();
 }
 
 void frmMain::Close() {

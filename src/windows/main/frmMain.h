@@ -17,6 +17,7 @@
 #include "windows/main/CopyCommands.h"
 #include "windows/main/FileManagerCommands.h"
 #include "windows/main/FindCommands.h"
+#include "windows/main/FirstSteps.h"
 #include "windows/main/HelpCommands.h"
 #include "windows/main/HistoryCommands.h"
 #include "windows/main/LogFileReading.h"
@@ -65,6 +66,8 @@ class frmMain : public toolkit::Form {
     void FirstActivation();
     // Finds the file manager's settings and the log, and reads it.
     void FindLog();
+    // The last part of it. Whoever was told already what is missing needs no message.
+    void ReadFoundLog(bool sayNone);
     void KeyReleased(int key, toolkit::Modifiers modifiers);
     void OpenLog(const std::string& path);
     void OpenRecentFile(std::int32_t index);
@@ -101,6 +104,7 @@ class frmMain : public toolkit::Form {
     CalendarCommands calendar_;
     HistoryCommands history_;
     HelpCommands help_;
+    FirstSteps firstSteps_;
     // While they are shown.
     std::unique_ptr<frmAbout> about_;
     std::unique_ptr<frmOptions> options_;

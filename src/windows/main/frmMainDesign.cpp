@@ -13,6 +13,9 @@ namespace key = toolkit::key;
 constexpr toolkit::Twips kComboWidth = 3000;
 constexpr toolkit::Twips kComboTop = 30;
 constexpr toolkit::Twips kEdge = 15;
+// FirstSteps says how large they are.
+constexpr toolkit::Twips kTextWidth = 7200, kTextHeight = 300;
+constexpr toolkit::Twips kButtonWidth = 2550, kButtonHeight = 375;
 
 // In tab order. The combo boxes decide on their own heights, the status bar on its place, and the
 // layout places the rest.
@@ -26,6 +29,50 @@ constexpr toolkit::ControlDesign kControls[] = {
      .bounds = {kEdge + kComboWidth + 90, kComboTop, kComboWidth, 315},
      .visible = false,
      .nameTag = text_id::kLogFileName.tag},
+    // What stands in the place of the panels while no log is shown.
+    {.kind = Kind::PictureBox,
+     .name = "picFirstSteps",
+     .bounds = {kEdge, 405, 11880, 6600},
+     .visible = false},
+    {.kind = Kind::Label,
+     .name = "lblHeadline",
+     .bounds = {0, 0, kTextWidth, kTextHeight},
+     .container = "picFirstSteps",
+     .visible = false},
+    {.kind = Kind::Label,
+     .name = "lblLogPath",
+     .bounds = {0, 0, kTextWidth, kTextHeight},
+     .container = "picFirstSteps",
+     .visible = false},
+    {.kind = Kind::Label,
+     .name = "lblAdvice",
+     .bounds = {0, 0, kTextWidth, kTextHeight},
+     .container = "picFirstSteps",
+     .visible = false},
+    {.kind = Kind::CommandButton,
+     .name = "cmdChooseSettings",
+     .tag = text_id::kChooseSettings.tag,
+     .bounds = {0, 0, kButtonWidth, kButtonHeight},
+     .container = "picFirstSteps",
+     .visible = false},
+    {.kind = Kind::CommandButton,
+     .name = "cmdLookAgain",
+     .tag = text_id::kLookAgain.tag,
+     .bounds = {0, 0, kButtonWidth, kButtonHeight},
+     .container = "picFirstSteps",
+     .visible = false},
+    {.kind = Kind::CommandButton,
+     .name = "cmdOpenLog",
+     .tag = text_id::kOpenLogFile.tag,
+     .bounds = {0, 0, kButtonWidth, kButtonHeight},
+     .container = "picFirstSteps",
+     .visible = false},
+    {.kind = Kind::CommandButton,
+     .name = "cmdFollowLog",
+     .tag = text_id::kFollowThisLog.tag,
+     .bounds = {0, 0, kButtonWidth, kButtonHeight},
+     .container = "picFirstSteps",
+     .visible = false},
     {.kind = Kind::PictureBox, .name = "picSpliterContainer", .bounds = {kEdge, 405, 11880, 6600}},
     {.kind = Kind::ListView,
      .name = "SourceListView",

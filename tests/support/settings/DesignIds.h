@@ -22,6 +22,10 @@ struct DesignId {
 };
 
 inline constexpr DesignId kDesignIds[] = {
+    {"frmMain", "cmdChooseSettings", "5184"},
+    {"frmMain", "cmdLookAgain", "5196"},
+    {"frmMain", "cmdOpenLog", "5197"},
+    {"frmMain", "cmdFollowLog", "5198"},
     {"frmMain", "mnuFile", "101"},
     {"frmMain", "mnuFileOpen", "103"},
     {"frmMain", "mnuFileRecentGroup", "107"},

@@ -46,7 +46,7 @@ TEST(DefaultStrings, TheTableIsOrderedAndHasEachIdOnce) {
         EXPECT_GT(id, before);
         before = id;
     }
-    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 144U);
+    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 162U);
 }
 
 // Translators and settings files know the texts by these numbers.
@@ -199,6 +199,34 @@ constexpr Expected kExpected[] = {
     {5179, "This path holds a sign that no path can have:"},
     {5180, "Only the file manager can show this path, and its program was not found:"},
     {5181, "Follow the &Log"},
+    {5182, "Total Commander was not found"},
+    {5183,
+     "Its settings file wincmd.ini says where the log is. Choose that file (a portable Total "
+     "Commander has it in its own folder), or open a log file directly."},
+    {5184, "&Choose wincmd.ini..."},
+    {5185, "Total Commander writes no log"},
+    {5186,
+     "In Total Commander, choose Configuration > Options > Log file. Check Create log file there "
+     "and, below it, the operations that are to be logged. Then come back and look again."},
+    {5187, "The log is not there yet"},
+    {5188,
+     "Total Commander begins it with the next operation, such as copying a file. Look again then, "
+     "or follow the log: it will be shown as soon as there is something in it."},
+    {5189,
+     "It will be shown here as soon as Total Commander has logged an operation, such as copying a "
+     "file."},
+    {5190, "The log is empty"},
+    {5191, "The folder of the log is not there"},
+    {5192,
+     "Total Commander's settings name this file, but its drive or folder is missing. Connect the "
+     "drive and look again, or open a log file in another place."},
+    {5193, "This file does not exist"},
+    {5194, "The log could not be read"},
+    {5195, "Another program may be using the file, or it is no log of Total Commander."},
+    {5196, "&Look Again"},
+    {5197, "&Open Log File..."},
+    {5198, "Follow the Lo&g"},
+    {5199, "The settings of Total Commander were not found"},
 };
 
 TEST(DefaultStrings, TextsAreAsWritten) {

@@ -310,6 +310,51 @@ std::string NoLog(Speaker& speaker) {
     return other.LastMessage();
 }
 
+// What stands in the place of the panels with these settings of the file manager, if it has any.
+std::string FirstStepsWith(const std::string& language, const char* settings,
+                           const char* started = "", bool follow = false) {
+    Speaker other(language);
+    other.system.files.Set("C:\\logs\\empty.log", "");
+    other.system.files.Set("C:\\logs\\damaged.log", "damaged");
+    if (settings == nullptr)
+        other.system.environment.RemoveVariable("Commander_INI");
+    else
+        other.SetIni(settings);
+    other.system.environment.commandLine = started;
+    other.Start();
+    if (follow)
+        other.Choose("mnuViewFollow");
+    Lines lines;
+    for (const auto& control : other.Main().Controls()) {
+        const toolkit::Kind kind = control->ControlKind();
+        if ((kind == toolkit::Kind::Label || kind == toolkit::Kind::CommandButton) &&
+            control->CanTakeInput())
+            lines.Add(control->Caption());
+    }
+    return lines.All();
+}
+
+std::string FirstStepsInTheFileManager(Speaker& speaker) {
+    const std::string& language = speaker.Language();
+    Speaker other(language);
+    other.system.environment.RemoveVariable("Commander_Path");
+    other.system.environment.RemoveVariable("Commander_INI");
+    other.Start();
+    return other.Main().Get<toolkit::Label>("lblHeadline").Caption() + "\n" +
+           FirstStepsWith(language, nullptr) + "\n" + FirstStepsWith(language, "LogOptions=7198");
+}
+
+std::string FirstStepsToALog(Speaker& speaker) {
+    const std::string& language = speaker.Language();
+    constexpr const char* kMissing = "LogOptions=7199\r\nLogFile=C:\\logs\\missing.log";
+    return FirstStepsWith(language, kMissing) + "\n" +
+           FirstStepsWith(language, kMissing, "", true) + "\n" +
+           FirstStepsWith(language, "LogOptions=7199\r\nLogFile=C:\\logs\\empty.log") + "\n" +
+           FirstStepsWith(language, "LogOptions=7199\r\nLogFile=X:\\logs\\x.log") + "\n" +
+           FirstStepsWith(language, "LogOptions=7199\r\nLogFile=C:\\logs\\damaged.log") + "\n" +
+           FirstStepsWith(language, kMissing, "C:\\nowhere.log");
+}
+
 std::string NoSettingsOfTheFileManager(Speaker& speaker) {
     Speaker other(speaker.Language());
     other.system.environment.RemoveVariable("Commander_INI");
@@ -470,6 +515,11 @@ const std::vector<Situation>& Situations() {
          "The file manager's settings are not found",
          {"[Wincmd.ini]"},
          NoSettingsOfTheFileManager},
+        {Kind::Window, "The file manager shows no log", {"wincmd.ini"}, FirstStepsInTheFileManager},
+        {Kind::Window,
+         "The log cannot be shown",
+         {"C:\\logs\\missing.log", "X:\\logs\\x.log"},
+         FirstStepsToALog},
         {Kind::Message, "There is no help file", {}, NoHelp},
         {Kind::Message,
          "What is to be shown in the file manager is gone",
