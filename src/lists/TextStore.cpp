@@ -1,5 +1,7 @@
 #include "lists/TextStore.h"
 
+#include <utility>
+
 #include "base/Errors.h"
 
 namespace ordalyn {
@@ -26,9 +28,9 @@ TextPosition TextStore::AddOwnBlock(std::string_view text) {
     return {(address << kLengthBits) | (lengthBefore ? kLengthMask : length)};
 }
 
-char* TextStore::Lend(std::size_t size) {
+char* TextStore::Lend(std::unique_ptr<char[]> memory, std::size_t size) {
     const std::uint64_t number = blocks_.size();
-    char* block = NewBlock(size);
+    char* block = AddBlock(std::move(memory), size);
     loan_ = reinterpret_cast<std::uintptr_t>(block);
     loanSize_ = size;
     loanAddress_ = number << kBlockBits;
@@ -36,11 +38,15 @@ char* TextStore::Lend(std::size_t size) {
 }
 
 char* TextStore::NewBlock(std::size_t size) {
+    return AddBlock(std::make_unique_for_overwrite<char[]>(size), size);
+}
+
+char* TextStore::AddBlock(std::unique_ptr<char[]> memory, std::size_t size) {
     constexpr std::uint64_t kMostBlocks = std::uint64_t{1} << (64 - kLengthBits - kBlockBits);
     const std::size_t numbers = (size + kBlockSize - 1) / kBlockSize;
     if (blocks_.size() + numbers > kMostBlocks)
         throw Overflow();
-    memory_.push_back(std::make_unique_for_overwrite<char[]>(size));
+    memory_.push_back(std::move(memory));
     char* block = memory_.back().get();
     for (std::size_t i = 0; i < numbers; ++i)
         blocks_.push_back(block + i * kBlockSize);

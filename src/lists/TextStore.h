@@ -46,10 +46,10 @@ class TextStore {
         return position;
     }
 
-    // Lends memory for `size` bytes to read into (at least kLeastLoan are lent best, as a loan is a
-    // block of its own). What was put there and then added must not be changed any more. The memory
-    // lives as long as the store; the next loan ends this one.
-    char* Lend(std::size_t size);
+    // Takes memory of `size` bytes and lends it to be read into (at least kLeastLoan are lent best,
+    // as a loan is a block of its own). What was put there and then added must not be changed any
+    // more. The memory lives as long as the store; the next loan ends this one.
+    char* Lend(std::unique_ptr<char[]> memory, std::size_t size);
     static constexpr std::size_t kLeastLoan = std::size_t{256} * 1024;
 
     // Valid as long as the store lives. The position must come from this store.
@@ -88,6 +88,7 @@ class TextStore {
     TextPosition AddOwnBlock(std::string_view text);
     // Takes memory for `size` bytes and gives it as many block numbers as it fills.
     char* NewBlock(std::size_t size);
+    char* AddBlock(std::unique_ptr<char[]> memory, std::size_t size);
     static std::size_t LongLength(const char* text) {
         std::uint64_t length = 0;
         std::memcpy(&length, text - sizeof length, sizeof length);

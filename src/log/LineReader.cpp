@@ -23,10 +23,11 @@ constexpr std::size_t kSearchedAtOnce = std::size_t{32} * 1024;
 }  // namespace
 
 LineReader::LineReader(std::unique_ptr<platform::ReadableFile> file, platform::CodePages& codePages,
-                       TextStore* store)
+                       TextStore* store, ReadyBlocks* ready)
     : bytes_(std::move(file)),
       codePages_(codePages),
       store_(store),
+      ready_(ready),
       ends_(std::make_unique_for_overwrite<std::uint32_t[]>(kSearchedAtOnce)) {}
 
 bool LineReader::Skip() {
@@ -77,14 +78,17 @@ void LineReader::MakeRoom() {
     if (store_ == nullptr && size <= capacity_ + bytescan::kSlack) {
         std::memmove(buffer_, line, left);
     } else {
-        std::unique_ptr<char[]> own;
-        if (store_ == nullptr)
-            own = std::make_unique_for_overwrite<char[]>(size);
-        char* room = store_ != nullptr ? store_->Lend(size) : own.get();
+        std::unique_ptr<char[]> memory = ready_ != nullptr && size == kBlock
+                                             ? ready_->Take()
+                                             : std::make_unique_for_overwrite<char[]>(size);
+        char* const room = memory.get();
         std::copy_n(line, left, room);
+        if (store_ != nullptr)
+            store_->Lend(std::move(memory), size);
+        else
+            ownBuffer_ = std::move(memory);
         buffer_ = room;
         capacity_ = size - bytescan::kSlack;
-        ownBuffer_ = std::move(own);
     }
     begin_ = 0;
     searched_ = left;
@@ -102,7 +106,7 @@ std::string_view LineReader::Decode(std::string_view line) {
     return std::string_view(decoded_).substr(0, text.size());
 }
 
-std::int32_t CountFileLines(platform::Files& files, std::string_view path) {
+std::int32_t CountFileLines(platform::Files& files, std::string_view path, ReadyBlocks* ready) {
     LogBytes bytes(files.OpenForReading(path));
     const auto buffer = std::make_unique_for_overwrite<char[]>(kBlock);
     std::int64_t lines = 1;
@@ -111,6 +115,8 @@ std::int32_t CountFileLines(platform::Files& files, std::string_view path) {
         lines += static_cast<std::int64_t>(
             bytescan::CountLineEnds(buffer.get(), buffer.get() + count, last == '\r'));
         last = buffer[count - 1];
+        if (ready)
+            ready->Expect(count);
     }
     if (last != '\n' && last != '\r')
         ++lines;  // the last line has no end

@@ -15,6 +15,7 @@
 #include <string_view>
 
 #include "base/Text.h"
+#include "lists/ReadyBlocks.h"
 #include "lists/TextStore.h"
 #include "log/LogBytes.h"
 #include "platform/Platform.h"
@@ -24,9 +25,9 @@ namespace ordalyn {
 class LineReader {
   public:
     // With a text store the file is read into memory lent by it, so that adding a part of a line to
-    // the store copies nothing.
+    // the store copies nothing; with blocks for it, the memory comes from there.
     LineReader(std::unique_ptr<platform::ReadableFile> file, platform::CodePages& codePages,
-               TextStore* store = nullptr);
+               TextStore* store = nullptr, ReadyBlocks* ready = nullptr);
 
     // The next line without its end; nothing at the end of the file. Valid until the next call, and
     // so are bytescan::kSlack bytes behind it. Throws FileError.
@@ -47,6 +48,7 @@ class LineReader {
     LogBytes bytes_;
     platform::CodePages& codePages_;
     TextStore* store_;
+    ReadyBlocks* ready_;
     std::unique_ptr<char[]> ownBuffer_;
     char* buffer_ = nullptr;
     std::size_t capacity_ = 0;  // less the slack behind a line
@@ -101,7 +103,8 @@ inline std::optional<std::string_view> LineReader::Next() {
 
 // Reads a file to its end and returns the number of its lines PLUS ONE, for a progress bar whose
 // value starts at 1 and grows by one with each line. Throws FileError, and Overflow for more lines
-// than 32 bits hold.
-std::int32_t CountFileLines(platform::Files& files, std::string_view path);
+// than 32 bits hold. The blocks are told how much text there is, as soon as that is known.
+std::int32_t CountFileLines(platform::Files& files, std::string_view path,
+                            ReadyBlocks* ready = nullptr);
 
 }  // namespace ordalyn

@@ -4,6 +4,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "base/CheckedMath.h"
 #include "base/Errors.h"
@@ -23,7 +24,11 @@ constexpr std::int32_t kUncounted = std::numeric_limits<std::int32_t>::max();
 void LogReader::BeginFile(std::string_view path) {
     lineNumber_ = 0;
     currentLogFile_ = path;
-    lineCount_ = CountFileLines(files_, path);
+    // Of a file that was begun before, or one that cannot be read, nothing is kept.
+    ready_.reset();
+    auto ready = std::make_unique<ReadyBlocks>(TextStore::kLeastLoan);
+    lineCount_ = CountFileLines(files_, path, ready.get());
+    ready_ = std::move(ready);
 }
 
 void LogReader::ReadEntries(const Progress& progress) {
@@ -32,6 +37,7 @@ void LogReader::ReadEntries(const Progress& progress) {
 
 void LogReader::ReadGrowingFile(std::string_view path) {
     currentLogFile_ = path;
+    ready_.reset();
     ReadLines(kUncounted, {});
     lineCount_ = mark_.lineCount;
 }
@@ -39,6 +45,8 @@ void LogReader::ReadGrowingFile(std::string_view path) {
 void LogReader::ReadLines(std::int32_t mostLines, const Progress& progress) {
     lineNumber_ = 0;
     mark_ = {};
+    // Gone at the end, and at a failure.
+    const std::unique_ptr<ReadyBlocks> ready = std::move(ready_);
     LogMark mark;
     mark.path = currentLogFile_;
     entries_.SetFile(GetFileName(currentLogFile_));
@@ -47,7 +55,7 @@ void LogReader::ReadLines(std::int32_t mostLines, const Progress& progress) {
     std::int32_t nextStop = step;
     LineReader lines(
         std::make_unique<TracedFile>(files_.OpenForReading(currentLogFile_), mark.trace),
-        codePages_, &entries_.Texts());
+        codePages_, &entries_.Texts(), ready.get());
     std::string comment;
     while (const std::optional<std::string_view> line = lines.Next()) {
         if (++lineNumber_ >= nextStop) [[unlikely]] {

@@ -4,9 +4,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "lists/ReadyBlocks.h"
 #include "log/EntryLists.h"
 #include "log/LogMark.h"
 #include "log/PassedOverLines.h"
@@ -57,6 +59,8 @@ class LogReader {
     platform::CodePages& codePages_;
     EntryLists& entries_;
     PassedOverLines* passedOver_;
+    // Memory for the text of the file that has been begun.
+    std::unique_ptr<ReadyBlocks> ready_;
     std::string currentLogFile_;
     std::int32_t lineCount_ = 0;
     std::int32_t lineNumber_ = 0;

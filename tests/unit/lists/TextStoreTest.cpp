@@ -12,6 +12,10 @@
 namespace ordalyn {
 namespace {
 
+char* Lend(TextStore& store, std::size_t size) {
+    return store.Lend(std::make_unique_for_overwrite<char[]>(size), size);
+}
+
 TEST(TextStore, TheEmptyTextNeedsNoStore) {
     TextStore store;
     EXPECT_EQ(store.Add(""), TextPosition{});
@@ -78,7 +82,7 @@ TEST(TextStore, LongTextsDoNotWasteTheBlockThatIsBeingFilled) {
 TEST(TextStore, WhatLiesInLentMemoryIsNotCopied) {
     TextStore store;
     store.Add("before");
-    char* lent = store.Lend(TextStore::kLeastLoan);
+    char* lent = Lend(store, TextStore::kLeastLoan);
     std::copy_n("one two", 7, lent);
     const std::size_t footprint = store.Footprint();
     const TextPosition one = store.Add({lent, 3});
@@ -93,10 +97,10 @@ TEST(TextStore, WhatLiesInLentMemoryIsNotCopied) {
 
 TEST(TextStore, ANewLoanKeepsTheTextsOfTheOldOne) {
     TextStore store;
-    char* first = store.Lend(TextStore::kLeastLoan);
+    char* first = Lend(store, TextStore::kLeastLoan);
     std::copy_n("one", 3, first);
     const TextPosition one = store.Add({first, 3});
-    char* second = store.Lend(3 * TextStore::kLeastLoan);
+    char* second = Lend(store, 3 * TextStore::kLeastLoan);
     std::copy_n("two", 3, second + 2 * TextStore::kLeastLoan);
     const TextPosition two = store.Add({second + 2 * TextStore::kLeastLoan, 3});
     const TextPosition three = store.Add("three");
@@ -112,7 +116,7 @@ TEST(TextStore, ANewLoanKeepsTheTextsOfTheOldOne) {
 TEST(TextStore, ALentTextTooLongForAPositionIsStillKept) {
     TextStore store;
     const std::size_t size = std::size_t{1} << 24U;
-    char* lent = store.Lend(size);
+    char* lent = Lend(store, size);
     std::memset(lent, 'x', size);
     const TextPosition position = store.Add({lent, size});
     EXPECT_EQ(store.Text(position).size(), size);

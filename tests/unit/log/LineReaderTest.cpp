@@ -283,5 +283,45 @@ TEST(CountFileLines, ReportsAFileThatCannotBeRead) {
     EXPECT_EQ(files.openNow, 0);
 }
 
+// What is read into memory that is made ready beforehand, and what it needs of it.
+TEST(LineReader, ReadsIntoBlocksThatAreReady) {
+    constexpr std::size_t kLines = 900;
+    ScriptedFiles files;
+    const std::string body(10'000, 'x');
+    std::string text;
+    for (std::size_t i = 0; i < kLines; ++i)
+        text.append(std::to_string(i)).append(body).append("\n");
+    const std::size_t whole = text.size() / TextStore::kLeastLoan;
+    files.Put("x.log", std::move(text));
+    std::set<const char*> blocks;
+    ReadyBlocks ready(TextStore::kLeastLoan, {.processors = 2, .allocate = [&](std::size_t size) {
+                                                  auto block =
+                                                      std::make_unique_for_overwrite<char[]>(size);
+                                                  blocks.insert(block.get());
+                                                  return block;
+                                              }});
+    EXPECT_EQ(CountFileLines(files, "x.log", &ready), static_cast<std::int32_t>(kLines) + 1);
+    EXPECT_EQ(blocks.size(), whole);
+    Latin1CodePages codePages;
+    TextStore store;
+    LineReader reader(files.OpenForReading("x.log"), codePages, &store, &ready);
+    std::size_t line = 0;
+    std::size_t inBlocks = 0;
+    while (const auto next = reader.Next()) {
+        ASSERT_EQ(*next, std::to_string(line++) + body);
+        const auto above = blocks.upper_bound(next->data());
+        if (above != blocks.begin() && next->data() < *std::prev(above) + TextStore::kLeastLoan)
+            ++inBlocks;
+    }
+    EXPECT_EQ(line, kLines);
+    // The worker may have kept one.
+    EXPECT_GT(inBlocks, kLines * 9 / 10);
+
+    files.Put("long.log", std::string(3 * TextStore::kLeastLoan, 'y'));
+    CountFileLines(files, "long.log", &ready);
+    LineReader longLine(files.OpenForReading("long.log"), codePages, &store, &ready);
+    EXPECT_EQ(longLine.Next()->size(), 3 * TextStore::kLeastLoan) << "does not fit into a block";
+}
+
 }  // namespace
 }  // namespace ordalyn

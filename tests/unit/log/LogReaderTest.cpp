@@ -290,5 +290,36 @@ TEST_F(LogReaderTest, APassedOverLineWithoutAnEndMayStillBecomeOne) {
     EXPECT_EQ(tolerant.Mark().lineCount, 2);
 }
 
+// Memory for it is made ready while it is counted and read.
+TEST_F(LogReaderTest, ALargeLogIsReadLikeASmallOne) {
+    constexpr std::int32_t kLines = 1000;
+    const std::string path(10'000, 'p');
+    std::string text;
+    for (std::int32_t i = 0; i < kLines; ++i)
+        text.append("d t: Copy ").append(std::to_string(i)).append(path).append(" -> y\n");
+    files.Put(kPath, text);
+    reader.BeginFile(kPath);
+    reader.BeginFile(kPath);
+    reader.ReadEntries();
+    ASSERT_EQ(entries.EntrySources().ListCount(), kLines - 1);
+    for (std::int32_t i = 0; i < kLines; ++i)
+        ASSERT_EQ(entries.EntrySources().List(i), "t: Copy " + std::to_string(i) + path + " ");
+    EXPECT_EQ(entries.EntryTargets().List(kLines - 1), "y");
+}
+
+TEST_F(LogReaderTest, AFailureInALargeLogIsTheSameAsInASmallOne) {
+    std::string text;
+    while (text.size() < 40 * TextStore::kLeastLoan)
+        text.append("d t: a\n").append(100'000, ' ').append("\n");
+    files.Put(kPath, "d t: a\ngarbage\n" + text);
+    reader.BeginFile(kPath);
+    EXPECT_THROW(reader.ReadEntries(), MalformedText);
+    EXPECT_EQ(reader.LineNumber(), 2);
+    EXPECT_EQ(files.openNow, 0);
+    files.failAfter = text.size() / 2;
+    EXPECT_THROW(reader.BeginFile(kPath), FileError);
+    EXPECT_EQ(files.openNow, 0);
+}
+
 }  // namespace
 }  // namespace ordalyn

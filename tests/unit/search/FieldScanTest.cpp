@@ -152,7 +152,9 @@ TEST(FieldScan, AgreesWithLookingAtEachFieldAlone) {
         std::vector<std::string> texts;
         const std::size_t count = random() % 40;
         constexpr std::size_t kRoom = 300000;
-        char* const room = round % 2 == 0 ? store->Lend(kRoom) : nullptr;
+        char* const room = round % 2 == 0
+                               ? store->Lend(std::make_unique_for_overwrite<char[]>(kRoom), kRoom)
+                               : nullptr;
         if (room != nullptr)
             std::fill_n(room, kRoom, 'a');
         std::size_t at = 0;
