@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "base/Text.h"
 #include "win32/common/WideText.h"
 
 namespace ordalyn::win32 {
@@ -15,29 +14,7 @@ namespace {
 
 constexpr UINT kHideNow = WM_APP + 1;
 constexpr UINT kSelection = LVIS_SELECTED | LVIS_FOCUSED;
-constexpr DWORD kBehaviour =
-    LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
-// Typing looks this far for a row, so that a key press stays quick in the longest list.
-constexpr int kRowsSearched = 100'000;
-
-// The first characters of a text, as many as fit into `capacity` units including the terminator.
-void CopyForDisplay(std::string_view text, wchar_t* to, int capacity) {
-    if (to == nullptr || capacity <= 0)
-        return;
-    // A unit takes one byte at least and three at most, so this is enough text for any capacity.
-    const auto units = static_cast<std::size_t>(capacity - 1);
-    std::string_view head = text.substr(0, units * 3 + 4);
-    if (head.size() < text.size())
-        head = FirstCharacters(head, units);
-    std::wstring shown = WideForDisplay(head);
-    if (shown.size() > units) {
-        shown.resize(units);
-        if (!shown.empty() && IS_HIGH_SURROGATE(shown.back()))
-            shown.pop_back();
-    }
-    std::copy(shown.begin(), shown.end(), to);
-    to[shown.size()] = L'\0';
-}
+constexpr DWORD kBehaviour = LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP | LVS_EX_DOUBLEBUFFER;
 
 }  // namespace
 
@@ -262,32 +239,6 @@ void ListViewWindow::SetGridLines(bool shown) {
 
 // What the control asks for and reports.
 
-void ListViewWindow::GiveText(LVITEMW& item) const {
-    if ((item.mask & LVIF_TEXT) == 0)
-        return;
-    const bool known = item.iItem >= 0 && item.iItem < list_.RowCount() && item.iSubItem >= 0 &&
-                       item.iSubItem < list_.ColumnCount();
-    CopyForDisplay(known ? list_.Text(item.iItem, item.iSubItem) : std::string_view(), item.pszText,
-                   item.cchTextMax);
-}
-
-int ListViewWindow::FindRow(const NMLVFINDITEMW& request) const {
-    const int count = list_.RowCount();
-    if ((request.lvfi.flags & LVFI_STRING) == 0 || request.lvfi.psz == nullptr || count == 0 ||
-        list_.ColumnCount() == 0)
-        return -1;
-    const std::string wanted = FromWide(request.lvfi.psz);
-    const int start = std::clamp(request.iStart, 0, count - 1);
-    for (int step = 0; step < std::min(count, kRowsSearched); ++step) {
-        const int row = static_cast<int>((std::int64_t{start} + step) % count);
-        if (row < start && (request.lvfi.flags & LVFI_WRAP) == 0)
-            break;
-        if (StartsWithIgnoreCase(list_.Text(row, 0), wanted))
-            return row;
-    }
-    return -1;
-}
-
 // Before it selects a row, the control may go through all rows, which can be a million, to find the
 // one to deselect. As long as one of these lives that row is deselected already, and nothing is
 // looked for. The user's choice is then reported even when it is the same row again. When the
@@ -380,6 +331,11 @@ LRESULT ListViewWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     if (const std::optional<LRESULT> answer = SelectionAsked(message, wParam, lParam))
         return *answer;
+    if (message == WM_PAINT || message == WM_PRINTCLIENT) {
+        const Painting painting(*this);
+        return Window::OnMessage(message, wParam, lParam);
+    }
+    ShowTip(message, wParam, lParam);
     if ((message == WM_SETFOCUS || message == WM_KILLFOCUS) && severalShown_)
         InvalidateRect(handle(), nullptr, FALSE);
     const std::weak_ptr<const void> alive = Lifetime();

@@ -1,12 +1,27 @@
 // Report lists that ask for their texts (LVS_OWNERDATA), so that a million rows cost nothing.
 #pragma once
 
+#include <optional>
+#include <string_view>
 #include <vector>
 
 #include "toolkit/ListView.h"
+#include "win32/common/DeviceContext.h"
+#include "win32/controls/CellTip.h"
 #include "win32/controls/Window.h"
 
 namespace ordalyn::win32 {
+
+// How wide texts are in a window's font, in pixels.
+class TextMeasure {
+  public:
+    explicit TextMeasure(HWND window);
+    int WidthOf(std::string_view text) const;
+
+  private:
+    WindowDc dc_;
+    SelectedObject font_;
+};
 
 class ListViewWindow : public Peer<toolkit::ListViewPeer> {
   public:
@@ -48,6 +63,28 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
         int pixels;
     };
     std::vector<int> ColumnOrder() const;
+    // As long as one of these lives, the texts that the control asks for are painted: what does not
+    // fit loses its middle. Nobody else gets these texts.
+    class Painting {
+      public:
+        explicit Painting(ListViewWindow& list) : list_(list), listAlive_(list.Lifetime()) {
+            list.painting_.emplace(list.handle());
+        }
+        ~Painting() {
+            if (!listAlive_.expired())
+                list_.painting_.reset();
+        }
+        Painting(const Painting&) = delete;
+        Painting& operator=(const Painting&) = delete;
+
+      private:
+        ListViewWindow& list_;
+        std::weak_ptr<const void> listAlive_;
+    };
+    int RoomForText(int column) const;                   // in a cell, in pixels
+    std::string_view TextAt(int row, int column) const;  // empty outside
+    bool IsCut(std::string_view text, int column, const RECT& cell) const;
+    void ShowTip(UINT message, WPARAM wParam, LPARAM lParam);
     void GiveText(LVITEMW& item) const;
     int FindRow(const NMLVFINDITEMW& request) const;
     void ItemChanged(const NMLISTVIEW& change);
@@ -62,6 +99,8 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     bool ChangesSelection(UINT message, WPARAM wParam, LPARAM lParam) const;
 
     toolkit::ListView& list_;
+    std::optional<TextMeasure> painting_;
+    CellTip tip_;
     std::vector<Width> widths_;
     int topRow_ = 0;               // before the form got another resolution
     std::vector<int> positions_;   // as last seen, for when the window has gone

@@ -1,3 +1,5 @@
+#include <map>
+
 #include "TestForm.h"
 #include "win32/drawing/Colors.h"
 
@@ -19,9 +21,13 @@ class Numbers : public RowSource {
             return {"a\0b", 3};
         if (tag == 2)
             return field == 0 ? std::string_view(longText) : std::string_view();
+        if (tag == 3 && field == 1)
+            return kPath;
         text = "row " + std::to_string(tag);
         return text;
     }
+    static constexpr std::string_view kPath =
+        "Copy: C:\\Users\\Anna\\Documents\\Some\\More\\Folders\\Plan of the year.odt";
     mutable std::string text;
     mutable int asked = 0;
     std::string longText = std::string(1'000'000, 'x');
@@ -86,6 +92,89 @@ TEST_F(Lists, AMillionRowsAskForTheVisibleOnesOnly) {
     Fill(1'000'000);
     EXPECT_EQ(SendMessageW(Window(), LVM_GETITEMCOUNT, 0, 0), 1'000'000);
     EXPECT_LT(source->asked, 1000);
+}
+
+// What the control is given for a cell while it paints.
+class PaintedTexts {
+  public:
+    explicit PaintedTexts(HWND list) : list_(list) {
+        SetWindowSubclass(GetParent(list), Watch, 1, reinterpret_cast<DWORD_PTR>(this));
+        RedrawWindow(list, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        RemoveWindowSubclass(GetParent(list), Watch, 1);
+    }
+    std::wstring At(int row, int column) const {
+        const auto found = texts_.find({row, column});
+        return found == texts_.end() ? L"not asked for" : found->second;
+    }
+
+  private:
+    static LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                  DWORD_PTR self) {
+        const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+        if (message == WM_NOTIFY) {
+            const auto& asked = *reinterpret_cast<const NMLVDISPINFOW*>(lParam);
+            if (asked.hdr.code == static_cast<UINT>(LVN_GETDISPINFOW) &&
+                (asked.item.mask & LVIF_TEXT) != 0)
+                reinterpret_cast<PaintedTexts*>(self)
+                    ->texts_[{asked.item.iItem, asked.item.iSubItem}] = asked.item.pszText;
+        }
+        return answer;
+    }
+    HWND list_;
+    std::map<std::pair<int, int>, std::wstring> texts_;
+};
+
+TEST_F(Lists, APathThatDoesNotFitIsPaintedWithItsNameAndAskedForWhole) {
+    Fill(5);
+    const std::wstring whole(Numbers::kPath.begin(), Numbers::kPath.end());
+    const std::wstring painted = PaintedTexts(Window()).At(3, 1);
+    EXPECT_TRUE(painted.starts_with(L"Copy: C:\\U")) << "the beginning";
+    EXPECT_TRUE(painted.ends_with(L"\x2026\\Plan of the year.odt")) << "the name, whole";
+    EXPECT_EQ(PaintedTexts(Window()).At(4, 1), L"row 4") << "what fits is left as it is";
+    EXPECT_EQ(Shown(3, 1), whole) << "for whoever reads the rows";
+    list.SetColumnWidth(1, 15000);
+    EXPECT_EQ(PaintedTexts(Window()).At(3, 1), whole);
+}
+
+TEST_F(Lists, OnlyACutCellHasATipWithItsWholeText) {
+    Fill(5);
+    const auto moveTo = [&](int row, int column) {
+        RECT cell = {LVIR_BOUNDS, column, 0, 0};
+        SendMessageW(Window(), LVM_GETSUBITEMRECT, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&cell));
+        SendMessageW(Window(), WM_MOUSEMOVE, 0,
+                     MAKELPARAM(cell.left + 5, (cell.top + cell.bottom) / 2));
+    };
+    const auto tip = [&]() -> std::wstring {
+        HWND window = nullptr;
+        while ((window = FindWindowExW(nullptr, window, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+            wchar_t text[500] = L"";
+            TTTOOLINFOW tool = {};
+            tool.cbSize = sizeof tool;
+            tool.hwnd = Window();
+            tool.uId = 1;
+            tool.lpszText = text;
+            if (GetWindow(window, GW_OWNER) != GetParent(Window()) ||
+                SendMessageW(window, TTM_GETTOOLCOUNT, 0, 0) == 0)
+                continue;
+            SendMessageW(window, TTM_GETTEXTW, 500, reinterpret_cast<LPARAM>(&tool));
+            return text;
+        }
+        return L"";
+    };
+    const std::wstring whole(Numbers::kPath.begin(), Numbers::kPath.end());
+    moveTo(4, 1);
+    EXPECT_EQ(tip(), L"");
+    moveTo(3, 1);
+    EXPECT_EQ(tip(), whole);
+    moveTo(4, 1);
+    EXPECT_EQ(tip(), L"") << "gone with the cell";
+    moveTo(3, 1);
+    SendMessageW(Window(), WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0);
+    EXPECT_EQ(tip(), L"") << "other rows may have come there";
+    list.SetColumnWidth(1, 15000);
+    moveTo(3, 1);
+    EXPECT_EQ(tip(), whole) << "its end is beyond the edge of the list";
 }
 
 TEST_F(Lists, ClickedRowsAreToldOnceEachTime) {
