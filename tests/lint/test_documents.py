@@ -131,7 +131,7 @@ def kinds_of(script):
     """The words that a script of the root takes, from the lines that decide on them."""
     body = read(script)
     if script == "test.sh":
-        found = re.search(r"for kind in .*?case \$kind in\s+([\w |]+)\)", body, re.S)
+        found = re.search(r"case \$kind in\s+([\w |]+)\) ;;\s+\*\)", body)
         return set(re.findall(r"\w+", found.group(1)))
     return set(re.findall(r"^ +(\w+)\)", body[body.index("case $bits in"):], re.M))
 
