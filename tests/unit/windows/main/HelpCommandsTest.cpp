@@ -4,6 +4,7 @@
 #include <string>
 
 #include "support/windows/ProgramWindow.h"
+#include "windows/progress/ProgressWindow.h"
 
 namespace ordalyn {
 namespace {
@@ -62,6 +63,15 @@ TEST_F(HelpOfTheProgram, F1OpensThePageOnAModalWindow) {
     });
     Choose("mnuViewOptions");
     EXPECT_EQ(seen, "options.html languages.html options.html");
+}
+
+TEST_F(HelpOfTheProgram, F1OpensThePageOnAReadThatLasts) {
+    Start();
+    ProgressWindow progress(tools, Main(), program->Shared().FormTexts(), [] {});
+    progress.PrepareTall("totalcmd.1.log");
+    progress.ShowProgress("Reading", 1000);
+    EXPECT_EQ(PageFor(*progress.Window()), "progress.html");
+    progress.HideProgress();
 }
 
 TEST_F(HelpOfTheProgram, TheMenuOpensItAtItsStart) {
