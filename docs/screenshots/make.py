@@ -11,6 +11,7 @@ pictures are those of the help, beside its pages in help/LANGUAGE: windows no wi
 
 import argparse
 import pathlib
+import re
 import shutil
 import struct
 import sys
@@ -49,8 +50,39 @@ FONT_LINKS = r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontLink\System
 METRICS = r"HKCU\Control Panel\Desktop\WindowMetrics"
 SYSTEM_FONTS = {"MessageFont": 400, "MenuFont": 400, "StatusFont": 400, "CaptionFont": 700,
                 "SmCaptionFont": 400}
+# The words of Total Commander's log where it speaks English; those of the sample are German.
+ENGLISH_WORDS = {
+    1800: "Program start", 1801: "Program shutdown", 1802: "Copy", 1803: "Move", 1804: "Shortcut", 1805: "NewFolder",
+    1806: "Delete", 1807: "DeleteFolder", 1808: "Pack", 1809: "Unpack", 1810: "Test", 1811: "CreateFile",
+    1900: "Error:", 1901: "Failed", 1902: "Aborted", 1903: "Skipped", 1904: "Not found", 1905: "Identical",
+    1906: "Read error", 1907: "Write error", 1911: "Delete failed", 1912: "CRC error", 1917: "Archive bad",
+    1921: "File exists"}
 # On the drive C: of Wine, as these paths can be seen in the pictures.
 HOST_FOLDER, LANGUAGE_FOLDER = "Totalcmd", "Ordalyn/Languages"
+
+
+def let_the_log_speak_english(host):
+    """Changes the words of a copy of the sample, in its language file and before the paths of its log."""
+    file = host / "Language" / "WCMD_DEU.LNG"
+    lines = file.read_bytes().decode("cp1252").split("\n")
+    words = {}
+    for number, line in enumerate(lines):
+        found = re.match(r'(\d+)="(.*)"', line)
+        if found and int(found[1]) in ENGLISH_WORDS:
+            words[found[2]] = ENGLISH_WORDS[int(found[1])]
+            lines[number] = line.replace(found[2], ENGLISH_WORDS[int(found[1])])
+    file.write_bytes("\n".join(lines).encode("cp1252"))
+    # The longest first: one word can be a part of another. Some lines are older than UTF-8.
+    pairs = [(word.encode(encoding), words[word].encode()) for word in sorted(words, key=len, reverse=True)
+             for encoding in ("utf-8", "cp1252")]
+    for log in host.glob("logs/*.log"):
+        entries = []
+        for line in log.read_bytes().split(b"\n"):
+            head, path = re.fullmatch(rb"(.*?)((?:[A-Z]:\\|\\\\).*)?", line, re.S).groups(b"")
+            for german, english in pairs:
+                head = head.replace(german, english)
+            entries.append(head + path)
+        log.write_bytes(b"\n".join(entries))
 
 
 def lend_fonts(wine):
@@ -90,6 +122,8 @@ class Photographer:
                          rf"LanguageFile=C:\Ordalyn\Languages\{file.name}"]
         folder.settings_file.write_bytes("\r\n".join(settings + [""]).encode("latin-1"))
         shutil.copytree(SAMPLES, drive / HOST_FOLDER, dirs_exist_ok=True)
+        if language == BUILT_IN:
+            let_the_log_speak_english(drive / HOST_FOLDER)
         self.app = folder.start(env={"Commander_Path": rf"C:\{HOST_FOLDER}",
                                      "Commander_INI": rf"C:\{HOST_FOLDER}\wincmd.ini"},
                                 locale=LOCALES.get(language))
