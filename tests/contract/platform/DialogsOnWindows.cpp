@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 
 #include <atomic>
+#include <functional>
+#include <string>
 #include <thread>
 
 #include "contract/platform/Subject.h"
@@ -87,6 +89,24 @@ class ClassOfHelpFiles {
     std::wstring before_;
 };
 
+// Windows' viewer of help files is away for a moment.
+class NoHelpViewer {
+  public:
+    NoHelpViewer() {
+        wchar_t folder[MAX_PATH] = {};
+        GetSystemWindowsDirectoryW(folder, MAX_PATH);
+        place_ = std::wstring(folder) + L"\\hh.exe";
+        away_ = place_ + L".away";
+        EXPECT_NE(MoveFileW(place_.c_str(), away_.c_str()), FALSE);
+    }
+    ~NoHelpViewer() { MoveFileW(away_.c_str(), place_.c_str()); }
+    NoHelpViewer(const NoHelpViewer&) = delete;
+    NoHelpViewer& operator=(const NoHelpViewer&) = delete;
+
+  private:
+    std::wstring place_, away_;
+};
+
 int CALLBACK TakeTrueType(const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM found) {
     if (!(type & TRUETYPE_FONTTYPE) || font->lfFaceName[0] == L'@')
         return 1;
@@ -135,6 +155,20 @@ class DialogsOnWindows : public testing::Test {
         request.minimum = 8;
         request.maximum = 72;
         return request;
+    }
+    void ExpectOpenedWithItsProgram(
+        const std::function<platform::ShellTarget(const std::string& path)>& target) {
+        // Help files have a program of the test's own for a moment.
+        const ClassOfHelpFiles ours(L"ordalyn.test");
+        const std::string command =
+            "cmd.exe /c echo opened> \"" + System().Path("opened.txt") + "\"";
+        SetClass(L"ordalyn.test\\shell\\open\\command", win32::ToWide(command));
+        System().SetBytes("Read & me.chm", "");
+        System().Services().shell.Open(0, target(System().Path("Read & me.chm")));
+        for (int poll = 0; poll < kPolls && System().Bytes("opened.txt").value_or("").empty();
+             ++poll)
+            Sleep(kPollMilliseconds);
+        EXPECT_THAT(System().Bytes("opened.txt").value_or(""), testing::StartsWith("opened"));
     }
     platform::Dialogs& Dialogs() { return system_->Services().dialogs; }
     Subject& System() { return *system_; }
@@ -269,16 +303,14 @@ TEST_F(DialogsOnWindows, EachLiesAboveItsOwner) {
 }
 
 TEST_F(DialogsOnWindows, TheShellOpensADocumentWithItsProgram) {
-    // Help files have a program of the test's own for a moment.
-    const ClassOfHelpFiles ours(L"ordalyn.test");
-    const std::string command = "cmd.exe /c echo opened> \"" + System().Path("opened.txt") + "\"";
-    SetClass(L"ordalyn.test\\shell\\open\\command", win32::ToWide(command));
-    System().SetBytes("Read & me.chm", "");
-    System().Services().shell.Open(0,
-                                   platform::ShellTarget::HelpFile(System().Path("Read & me.chm")));
-    for (int poll = 0; poll < kPolls && System().Bytes("opened.txt").value_or("").empty(); ++poll)
-        Sleep(kPollMilliseconds);
-    EXPECT_THAT(System().Bytes("opened.txt").value_or(""), testing::StartsWith("opened"));
+    ExpectOpenedWithItsProgram(
+        [](const std::string& path) { return platform::ShellTarget::HelpFile(path); });
+}
+
+TEST_F(DialogsOnWindows, WithoutTheViewerAPageOfTheHelpOpensTheHelp) {
+    const NoHelpViewer away;
+    ExpectOpenedWithItsProgram(
+        [](const std::string& path) { return platform::ShellTarget::HelpPage(path, "find"); });
 }
 
 TEST_F(DialogsOnWindows, WhatTheShellCannotOpenIsNoError) {
