@@ -143,10 +143,11 @@ def test_the_groups_are_those_of_the_forms():
     grouped = set().union(*TOGETHER.values())
     titles = {1001, 1501, 4031, 5113, 5141}
     own_text = {108}  # the placeholder of the recent files, the only entry of its menu
-    for file in ("main/frmMainDesign", "options/frmOptions", "about/frmAbout",
-                 "progress/frmProgress", "find/frmSearchFor", "filter/frmFilters",
-                 "calendar/frmCalendar", "history/frmHistory"):
-        source = (PROJECT / f"src/windows/{file}.cpp").read_text(encoding="utf-8")
+    designs = {file: source for file in (PROJECT / "src/windows").rglob("*.cpp")
+               if "toolkit::FormDesign k" in (source := file.read_text(encoding="utf-8"))
+               and "text_id::" in source}
+    assert len(designs) >= 8
+    for file, source in designs.items():
         # A name is heard, and has no key.
         shown = re.sub(r"nameTag = text_id::\w+\.tag", "", source)
         numbers = {NAMED[name] for name in re.findall(r"text_id::(\w+)\.tag", shown)}
