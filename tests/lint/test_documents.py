@@ -229,23 +229,23 @@ def check_cmake(arguments):
     check("--preset" in arguments, "cmake without a preset")
 
 
+def listed_by_ctest(arguments, preset):
+    """What ctest says that the command would run; every target where the preset is not configured here."""
+    if not (PROJECT / "build" / preset / "CTestTestfile.cmake").exists():
+        return {"build", *targets()}
+    listed = subprocess.run(["ctest", *arguments, "-N"], cwd=PROJECT, stdout=subprocess.PIPE,
+                            stderr=subprocess.DEVNULL, check=False, timeout=30).stdout.decode()
+    return set(re.findall(r"Test +#\d+: (\w+)$", listed, re.M))
+
+
 def check_ctest(arguments):
-    """Also asks ctest which tests the command would run, where the preset is configured."""
     options = dict(with_value(arguments)[0])
     preset = options.get("--preset")
-    if preset in presets("testPresets") and (PROJECT / "build" / preset / "CTestTestfile.cmake").exists():
-        listed = subprocess.run(["ctest", *arguments, "-N"], cwd=PROJECT, stdout=subprocess.PIPE,
-                                stderr=subprocess.DEVNULL, check=False, timeout=30).stdout.decode()
-        for word in re.findall(r"\w{4,}", options.get("-R", "")):
-            check(f": {word}\n" in listed, f"ctest lists no {word}")
-    for name, value in options.items():
-        if name == "--preset":
-            check(value in presets("testPresets"), f"no preset {value} for tests")
-        elif name == "-R":
-            for word in re.findall(r"\w{4,}", value):
-                check(word == "build" or word in targets(), f"no test is named {word}")
-        else:
-            check(name == "-N", f"ctest {name} is not checked")
+    check(preset in presets("testPresets"), f"no preset {preset} for tests")
+    for word in re.findall(r"\w{4,}", options.get("-R", "")):
+        check(word in listed_by_ctest(arguments, preset), f"no test is named {word}")
+    for name in options:
+        check(name in ("--preset", "-R", "-N"), f"ctest {name} is not checked")
 
 
 def check_pytest(arguments):
