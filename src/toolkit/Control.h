@@ -103,7 +103,8 @@ class Control {
     void SetTabStop(bool tabStop);
     // Whether the user can use it now: it and everything around it are visible and enabled.
     bool CanTakeInput() const { return peer().CanTakeInput(); }
-    // Whether keys come to it now; false while another window of the system is the active one.
+    // Whether keys come to it, or to what is in it, now; false while another window is the active
+    // one.
     bool HasFocus() const { return peer().HasFocus(); }
     void Refresh() { peer().Refresh(); }
 

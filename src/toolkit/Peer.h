@@ -39,7 +39,7 @@ class ControlPeer {
     virtual void TakeFocus() = 0;
     // Whether the user can use it now: it and everything around it are visible and enabled.
     virtual bool CanTakeInput() const = 0;
-    // Whether keys come to it now.
+    // Whether keys come to it, or to what is in it, now.
     virtual bool HasFocus() const = 0;
     virtual void Refresh() = 0;  // repaints at once
 };

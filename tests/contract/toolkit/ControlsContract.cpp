@@ -181,14 +181,21 @@ TEST_P(Controls, ALabelSaysHowHighItsCaptionIs) {
     EXPECT_GT(label.HeightFor(1500), label.HeightFor(300000));
 }
 
-TEST_P(Controls, OneControlAtMostHasTheFocus) {
+TEST_P(Controls, OneControlAndWhatIsAroundItHasTheFocus) {
     auto& button = Get<CommandButton>("cmdOk");
     auto& box = Get<CheckBox>("chkBox");
     EXPECT_FALSE(button.HasFocus());
+    EXPECT_FALSE(Form().HasFocus());
     Show();
     button.SetFocus();
     EXPECT_TRUE(button.HasFocus());
+    EXPECT_TRUE(Form().HasFocus());
     EXPECT_FALSE(box.HasFocus());
+    EXPECT_FALSE(Get<Frame>("fraOne").HasFocus());
+    // What is around it has it, too.
+    Get<OptionButton>("optSide", 0).SetFocus();
+    EXPECT_TRUE(Get<Frame>("fraOne").HasFocus());
+    EXPECT_FALSE(button.HasFocus());
     box.SetFocus();
     EXPECT_FALSE(button.HasFocus());
     EXPECT_TRUE(box.HasFocus());

@@ -86,7 +86,12 @@ class Peer : public Interface, public HasShown {
         }
         return true;
     }
-    bool HasFocus() const override { return toolkit_.focus == &control_; }
+    bool HasFocus() const override {
+        for (const toolkit::Control* at = toolkit_.focus; at != nullptr; at = at->Container())
+            if (at == &control_)
+                return true;
+        return false;
+    }
     void Refresh() override { ++shown.refreshes; }
 
   protected:
