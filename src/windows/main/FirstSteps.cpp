@@ -197,17 +197,14 @@ void FirstSteps::Show() {
     parts_.layout.ShowPanels(false);
 }
 
-// While another program is the active one the focus is not to be had.
+// While another window is the active one the focus is not to be had.
 void FirstSteps::Hide() {
     if (!std::exchange(shown_, false))
         return;
     parts_.layout.ShowPanels(true);
-    const bool focused = std::any_of(buttons_.begin(), buttons_.end(), [](const CommandButton* b) {
-        return b != nullptr && b->HasFocus();
-    });
-    if (focused)
+    focusGoesToPanel_ = !mainWindow_.HasFocus();
+    if (picFirstSteps.HasFocus())
         parts_.SourceListView.SetFocus();
-    focusGoesToPanel_ = !focused;
     picFirstSteps.SetVisible(false);
 }
 

@@ -253,6 +253,34 @@ TEST_F(Steps, ALogThatIsFollowedShowsItselfWhenItBegins) {
     }
 }
 
+// What was followed from another program: the panel has the focus when the window is used again.
+TEST_F(Steps, LeaveTheFocusToThePanelWhenTheWindowIsTheActiveOneAgain) {
+    SetSettings("FollowLog=1");
+    Start();
+    tools.focus = nullptr;
+    SetLog(kLog, kOneLine);
+    tools.PassTime(kASecond);
+    EXPECT_FALSE(Shown());
+    EXPECT_EQ(tools.focus, nullptr);
+    tools.ActivateByUser(Main());
+    EXPECT_EQ(tools.focus, &Source());
+    Date().SetFocus();
+    tools.ActivateByUser(Main());
+    EXPECT_EQ(tools.focus, &Date());
+}
+
+TEST_F(Steps, LeaveTheFocusWhereItIsElsewhere) {
+    SetSettings("FollowLog=1");
+    Start();
+    Date().SetFocus();
+    SetLog(kLog, kOneLine);
+    tools.PassTime(kASecond);
+    EXPECT_FALSE(Shown());
+    EXPECT_EQ(tools.focus, &Date());
+    tools.ActivateByUser(Main());
+    EXPECT_EQ(tools.focus, &Date());
+}
+
 TEST_F(Steps, ALogThatAppearsIsNotReadUnlessItIsFollowed) {
     system.files.AddFolder("C:\\logs");
     Start();
