@@ -113,14 +113,19 @@ constexpr OtherEntry HistoryPosition = {
     "HistoryPosition", kOrdalynSection, "900,1500,12000,6300",
     "placement of the window with a file's history, like MainPosition",
     "the window with a file's history when it closes"};
+constexpr OtherEntry HistoryColumns = {
+    "HistoryColumns", kOrdalynSection, "",
+    "widths of the columns in the window with a file's history, and of their list, in twips",
+    "the window with a file's history when it closes"};
 constexpr OtherEntry FindOptions = {
     "FindOptions", kOrdalynSection, "0,0,0,0",
     "find dialog: place in the list of earlier texts (-1 none), column (0 source, 1 target), whole "
     "word, selected date only",
     "the find dialog when it is unloaded"};
-constexpr OtherEntry ColumnsWidth = {"ColumnsWidth", kOrdalynSection, "884,10019,10890",
-                                     "widths of the three columns in twips",
-                                     "the main window when it closes"};
+constexpr OtherEntry ColumnsWidth = {
+    "ColumnsWidth", kOrdalynSection, "884,10019,10890",
+    "widths of the three columns in twips; when there are none the columns fit into the window",
+    "the main window when it closes"};
 constexpr OtherEntry ColumnHeadersPosition = {"ColumnHeadersPosition", kOrdalynSection, "1,2,3",
                                               "places of the three columns",
                                               "the main window when it closes"};
@@ -156,13 +161,21 @@ const Setting& SettingOf(Setting::Place place) {
 }
 
 std::span<const OtherEntry* const> OtherEntries() {
-    static const OtherEntry* const all[] = {&entry::MainPosition,    &entry::MainWindowState,
-                                            &entry::FiltersPosition, &entry::CalendarPosition,
-                                            &entry::HistoryPosition, &entry::FindOptions,
-                                            &entry::ColumnsWidth,    &entry::ColumnHeadersPosition,
-                                            &entry::RecentFiles,     &entry::FindTexts,
-                                            &entry::FilterTexts,     &kLoggingID,
-                                            &kExemptSections,        &kCommanderFolder,
+    static const OtherEntry* const all[] = {&entry::MainPosition,
+                                            &entry::MainWindowState,
+                                            &entry::FiltersPosition,
+                                            &entry::CalendarPosition,
+                                            &entry::HistoryPosition,
+                                            &entry::HistoryColumns,
+                                            &entry::FindOptions,
+                                            &entry::ColumnsWidth,
+                                            &entry::ColumnHeadersPosition,
+                                            &entry::RecentFiles,
+                                            &entry::FindTexts,
+                                            &entry::FilterTexts,
+                                            &kLoggingID,
+                                            &kExemptSections,
+                                            &kCommanderFolder,
                                             &kCommanderIni};
     return all;
 }

@@ -102,8 +102,8 @@ inline constexpr std::int32_t kAsManyAsSet = -1;
 
 namespace entry {
 extern const OtherEntry MainPosition, MainWindowState, FiltersPosition, CalendarPosition,
-    HistoryPosition, FindOptions, ColumnsWidth, ColumnHeadersPosition, RecentFiles, FindTexts,
-    FilterTexts;
+    HistoryPosition, HistoryColumns, FindOptions, ColumnsWidth, ColumnHeadersPosition, RecentFiles,
+    FindTexts, FilterTexts;
 }
 
 // All of them, those that the rooms below own included, for the page about the settings file.

@@ -56,7 +56,9 @@ class ListView : public Control {
     void SetColumnCaption(int column, std::string_view caption);
     Twips ColumnWidth(int column) const;
     void SetColumnWidth(int column, Twips width);  // InvalidPropertyValue below 0
-    int ColumnPosition(int column) const;          // 0-based place on the screen
+    // Of a column in which this text can be seen whole, in the list's font.
+    Twips WidthFor(std::string_view text) const { return peer_->WidthFor(text); }
+    int ColumnPosition(int column) const;  // 0-based place on the screen
     void SetColumnPosition(int column, int position);
 
     // Shows these rows: nothing selected, scrolled to the top. The list keeps the source alive.

@@ -86,6 +86,7 @@ class ListViewPeer : public ControlPeer {
     // The user can change these: what is on the screen is returned. A width that the user has not
     // changed is returned as it was set.
     virtual Twips ColumnWidth(int index) = 0;
+    virtual Twips WidthFor(std::string_view text) = 0;
     virtual void SetColumnPosition(int index, int position) = 0;  // both 0-based
     virtual int ColumnPosition(int index) = 0;
     // The rows have become others: `count` of them, nothing selected, scrolled to the top.

@@ -86,6 +86,7 @@ def test_a_minimised_window_starts_normal(folder):
 
 
 def test_column_widths_survive_in_twips(folder):
+    folder.write_settings(Ordalyn={"ColumnsWidth": "884,10019,10890"})
     app = folder.show(LOG)
     app.main.source.drag_column_edge(0, 41)
     assert app.main.source.columns[0].width == 100

@@ -59,6 +59,10 @@ int ListViewWindow::RoomForText(int column) const {
            scale().Nominal(kBesideText);
 }
 
+Twips ListViewWindow::WidthFor(std::string_view text) {
+    return scale().TwipsX(TextMeasure(handle()).WidthOf(text) + scale().Nominal(kBesideText));
+}
+
 std::string_view ListViewWindow::TextAt(int row, int column) const {
     const bool known =
         row >= 0 && row < list_.RowCount() && column >= 0 && column < list_.ColumnCount();

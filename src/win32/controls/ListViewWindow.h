@@ -36,6 +36,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void SetColumnCaption(int index, std::string_view caption) override;
     void SetColumnWidth(int index, toolkit::Twips width) override;
     toolkit::Twips ColumnWidth(int index) override;
+    toolkit::Twips WidthFor(std::string_view text) override;
     void SetColumnPosition(int index, int position) override;
     int ColumnPosition(int index) override;
     void ResetRows(int count) override;

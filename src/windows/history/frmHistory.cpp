@@ -1,6 +1,7 @@
 #include "windows/history/frmHistory.h"
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -97,6 +98,7 @@ constexpr Column kColumns[] = {{text_id::kDateName, 1100},   {text_id::kTime, 85
 // These two take what a wider window has.
 constexpr int kWide[] = {HistoryRows::kFrom, HistoryRows::kTo};
 constexpr Twips kLeastWide = 600;
+constexpr double kWidest = 1'000'000;  // of a stored width
 constexpr Twips kPlainSize = 8;        // points
 constexpr Twips kBesideColumns = 375;  // the scroll bar and the borders
 
@@ -128,11 +130,39 @@ frmHistory::frmHistory(toolkit::Toolkit& toolkit, const Surroundings& around)
         std::max<Twips>(static_cast<Twips>(around_.settings.FontSize) / kPlainSize, 1);
     for (int column = 0; column < HistoryRows::kFields; ++column)
         lvwSteps.AddColumn("", kColumns[column].width * larger, column);
+    LoadColumns();
     RestoreWindowPosition(around_.settings, *this, false);
     WireControls();
     LoadInterface();
     LanguageChanged();
     Arrange();
+}
+
+// Behind the columns stands how wide the list was: the paths take the difference, as they do when
+// the window changes its size.
+void frmHistory::LoadColumns() {
+    const std::vector<std::string> stored =
+        Split(around_.settings.ReadEntry(entry::HistoryColumns), ',');
+    if (stored.size() != HistoryRows::kFields + 1)
+        return;
+    std::vector<Twips> widths;
+    for (const std::string& text : stored) {
+        const double width = LeadingNumber(text);
+        if (!(width > 0 && width <= kWidest))
+            return;
+        widths.push_back(static_cast<Twips>(width));
+    }
+    for (int column = 0; column < HistoryRows::kFields; ++column)
+        lvwSteps.SetColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    listWidth_ = widths.back();
+}
+
+void frmHistory::SaveColumns() {
+    std::vector<std::string> widths;
+    for (int column = 0; column < HistoryRows::kFields; ++column)
+        widths.push_back(std::to_string(std::lround(lvwSteps.ColumnWidth(column))));
+    widths.push_back(std::to_string(std::lround(lvwSteps.Width())));
+    around_.settings.WriteEntry(entry::HistoryColumns, Join(widths, ","));
 }
 
 void frmHistory::WireControls() {
@@ -351,6 +381,7 @@ void frmHistory::ShowOlderLogs() {
 
 void frmHistory::AboutToClose(bool& keep) {
     SaveWindowPosition(around_.settings, *this, false);
+    SaveColumns();
     if (ending_)
         return;
     keep = true;

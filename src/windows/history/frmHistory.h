@@ -56,6 +56,8 @@ class frmHistory : public toolkit::Form {
     void UnloadAtEnd();
 
   private:
+    void LoadColumns();
+    void SaveColumns();
     void WireControls();
     void Arrange();
     void Search(std::int32_t entry);

@@ -1,5 +1,6 @@
 #include "windows/main/PanelColumns.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "base/Attempt.h"
@@ -15,6 +16,11 @@ namespace {
 
 // By field.
 constexpr TextId kCaptions[] = {text_id::kTime, text_id::kSource, text_id::kTarget};
+
+// Digits can differ in their widths; none is wider.
+constexpr std::string_view kWideTime = "88:88:88";
+constexpr toolkit::Twips kBesideColumns = 375;  // the scroll bar and the borders
+constexpr toolkit::Twips kLeastPath = 1500;
 
 std::string WholeWidth(const ListView& list, int column) {
     return std::to_string(TruncateToLong(list.ColumnWidth(column)));
@@ -52,6 +58,24 @@ void PanelColumns::Load() {
     if (!TwoPanels())
         Add(source_, EntryRows::kTarget, widths);
     Add(target_, EntryRows::kTarget, widths);
+}
+
+void PanelColumns::FitToPanels() {
+    OtherEntry entry = entry::ColumnsWidth;
+    entry.fallback = shared_.common.NoValueMarker();
+    if (!shared_.common.IsNoValue(shared_.settings->ReadEntry(entry)))
+        return;
+    const toolkit::Twips time =
+        std::max(source_.WidthFor(kWideTime), source_.WidthFor(Caption(EntryRows::kTime)));
+    const int paths = TwoPanels() ? 1 : 2;
+    const toolkit::Twips path = std::max(
+        (source_.Width() - kBesideColumns - time) / static_cast<toolkit::Twips>(paths), kLeastPath);
+    source_.SetColumnWidth(EntryRows::kTime, time);
+    source_.SetColumnWidth(EntryRows::kOperation, path);
+    if (!TwoPanels())
+        source_.SetColumnWidth(EntryRows::kTarget, path);
+    target_.SetColumnWidth(
+        0, TwoPanels() ? std::max(target_.Width() - kBesideColumns, kLeastPath) : path);
 }
 
 void PanelColumns::LoadOrder() {

@@ -21,6 +21,9 @@ class PanelColumns {
     // Makes the columns as wide as the settings file says; a single panel has one more, for the
     // targets. A missing, negative or too large width becomes the default one.
     void Load();
+    // Unless the settings file says how wide the columns are: the times fit, and the paths share
+    // what the panels have beside them. To be called when the panels have their size.
+    void FitToPanels();
     // Puts the columns of the source panel where the settings file says. A place that is none
     // leaves its column where it is.
     void LoadOrder();

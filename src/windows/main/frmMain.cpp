@@ -82,6 +82,7 @@ frmMain::frmMain(SharedObjects& shared)
     Attempt([this] { columns_.Load(); });
     Attempt([this] { columns_.LoadOrder(); });
     Attempt([this] { layout_.ArrangeFirstTime(); });
+    Attempt([this] { columns_.FitToPanels(); });
     Attempt([this] { SourceListView.FlattenColumnHeaders(); });
     Attempt([this] { TargetListView.FlattenColumnHeaders(); });
     // There is nothing to find again until something has been searched for.

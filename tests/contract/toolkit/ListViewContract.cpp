@@ -36,6 +36,16 @@ TEST_P(ListViews, ShowTheFieldOfTheirColumnsForTheTagOfTheirRows) {
     EXPECT_EQ(User().Cell(list, 2, 2), "row 102 field 1");
 }
 
+TEST_P(ListViews, AColumnsWidthForATextGrowsWithTextAndFont) {
+    const Twips plain = list.WidthFor("88:88:88");
+    EXPECT_GT(plain, 300);
+    EXPECT_GT(list.WidthFor("88:88:88 88:88:88"), plain * 3 / 2);
+    Font larger = list.Font();
+    larger.size *= 2;
+    list.SetFont(larger);
+    EXPECT_GT(list.WidthFor("88:88:88"), plain * 3 / 2);
+}
+
 TEST_P(ListViews, ShowEveryScript) {
     class Words : public RowSource {
         std::string_view Text(std::int32_t, int) const override { return "Größe Привет 日本 𐐀"; }

@@ -224,6 +224,10 @@ class MemoryListView : public Peer<toolkit::ListViewPeer> {
     toolkit::Twips ColumnWidth(int index) override {
         return shown.columns[static_cast<std::size_t>(index)].width;
     }
+    toolkit::Twips WidthFor(std::string_view text) override {
+        return static_cast<toolkit::Twips>(static_cast<double>(CharacterCount(text)) *
+                                           shown.font.size * 13);
+    }
     void SetColumnPosition(int index, int position) override {
         const int before = shown.columnPositions[static_cast<std::size_t>(index)];
         for (int& other : shown.columnPositions) {

@@ -94,9 +94,10 @@ TEST_F(ProgramStart, HasTheDefaultPlacementAndColumns) {
     EXPECT_EQ(Source().ColumnCaption(0), "Time");
     EXPECT_EQ(Source().ColumnCaption(1), "Source");
     EXPECT_EQ(Target().ColumnCaption(0), "Target");
-    EXPECT_EQ(Source().ColumnWidth(0), 884);
-    EXPECT_EQ(Source().ColumnWidth(1), 10019);
-    EXPECT_EQ(Target().ColumnWidth(0), 10890);
+    const toolkit::Twips time = Source().WidthFor("88:88:88");
+    EXPECT_EQ(Source().ColumnWidth(0), time);
+    EXPECT_EQ(Source().ColumnWidth(1), Source().Width() - 375 - time);
+    EXPECT_EQ(Target().ColumnWidth(0), Target().Width() - 375);
     EXPECT_TRUE(MemoryToolkit::Of(Source()).flatHeaders);
     EXPECT_TRUE(MemoryToolkit::Of(Target()).flatHeaders);
     EXPECT_FALSE(Files().Visible());
@@ -106,12 +107,34 @@ TEST_F(ProgramStart, HasTheDefaultColumnsInOnePanel) {
     SetSettings("TwoPanels=0");
     Start();
     ASSERT_EQ(Source().ColumnCount(), 3);
-    EXPECT_EQ(Source().ColumnWidth(2), 10890);
+    const toolkit::Twips time = Source().WidthFor("88:88:88");
+    EXPECT_EQ(Source().ColumnWidth(0), time);
+    const auto path = (Source().Width() - 375 - time) / 2;
+    EXPECT_EQ(Source().ColumnWidth(1), path);
+    EXPECT_EQ(Source().ColumnWidth(2), path);
     for (int column = 0; column < 3; ++column)
         EXPECT_EQ(Source().ColumnPosition(column), column);
     const std::string file = SettingsAfterClose();
-    EXPECT_THAT(file, HasSubstr("ColumnsWidth=884,10019,10890\r\n"));
+    const std::string whole = std::to_string(static_cast<int>(path));
+    EXPECT_THAT(file, HasSubstr("ColumnsWidth=" + std::to_string(static_cast<int>(time)) + "," +
+                                whole + "," + whole + "\r\n"));
     EXPECT_THAT(file, HasSubstr("ColumnHeadersPosition=1,2,3\r\n"));
+}
+
+TEST_F(ProgramStart, ColumnsInALargerFontLeaveTheTimesTheirRoom) {
+    SetSettings("FontSize=16\r\nVerticalPanels=1");
+    Start();
+    EXPECT_EQ(Source().ColumnWidth(0), 8 * 16 * 13);
+    EXPECT_EQ(Source().ColumnWidth(1),
+              std::max<toolkit::Twips>(Source().Width() - 375 - 8 * 16 * 13, 1500));
+    EXPECT_EQ(Target().ColumnWidth(0), Target().Width() - 375) << "beside the other panel";
+}
+
+TEST_F(ProgramStart, StoredWidthsOfTheColumnsAreNotFitted) {
+    SetSettings("ColumnsWidth=884,10019,10890");
+    Start();
+    EXPECT_EQ(Source().ColumnWidth(1), 10019);
+    EXPECT_EQ(Target().ColumnWidth(0), 10890);
 }
 
 // In whole twips, which need not be the same in both directions.
@@ -284,7 +307,7 @@ TEST_F(ProgramEnd, StoresColumnsPanelsAndPlacement) {
     Choose("mnuViewVerticalPanels");
     Choose("mnuViewStatusBar");
     const std::string file = SettingsAfterClose();
-    EXPECT_THAT(file, HasSubstr("ColumnsWidth=1000,10019,3000\r\n"));
+    EXPECT_THAT(file, testing::ContainsRegex("ColumnsWidth=1000,[0-9]+,3000\r\n"));
     EXPECT_THAT(file, HasSubstr("ColumnHeadersPosition=2,1,3\r\n"));
     EXPECT_THAT(file, HasSubstr("VerticalPanels=1\r\n"));
     EXPECT_THAT(file, HasSubstr("HSplitPosition=4000\r\n"));
@@ -301,7 +324,7 @@ TEST_F(ProgramEnd, ASinglePanelStoresItsThreeColumnsAndNoSplitter) {
     MemoryToolkit::DragColumn(Source(), 2, 3210);
     MemoryToolkit::MoveColumn(Source(), 2, 0);
     const std::string file = SettingsAfterClose();
-    EXPECT_THAT(file, HasSubstr("ColumnsWidth=884,10019,3210\r\n"));
+    EXPECT_THAT(file, testing::ContainsRegex("ColumnsWidth=[0-9]+,[0-9]+,3210\r\n"));
     EXPECT_THAT(file, HasSubstr("ColumnHeadersPosition=2,3,1\r\n"));
     EXPECT_THAT(file, HasSubstr("TwoPanels=0\r\n"));
     EXPECT_THAT(file, Not(HasSubstr("VerticalPanels")));

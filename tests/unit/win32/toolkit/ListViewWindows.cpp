@@ -136,6 +136,23 @@ TEST_F(Lists, APathThatDoesNotFitIsPaintedWithItsNameAndAskedForWhole) {
     EXPECT_EQ(PaintedTexts(Window()).At(3, 1), whole);
 }
 
+TEST_F(Lists, ATextIsPaintedWholeInAColumnOfTheWidthForIt) {
+    Fill(5);
+    for (const double size : {8.0, 9.5, 14.0, 23.0}) {
+        Font font = list.Font();
+        font.size = static_cast<float>(size);
+        list.SetFont(font);
+        list.SetColumnWidth(1, list.WidthFor(Numbers::kPath));
+        EXPECT_EQ(PaintedTexts(Window()).At(3, 1),
+                  std::wstring(Numbers::kPath.begin(), Numbers::kPath.end()))
+            << size;
+        list.SetColumnWidth(1, list.WidthFor(Numbers::kPath) - 60);
+        EXPECT_NE(PaintedTexts(Window()).At(3, 1),
+                  std::wstring(Numbers::kPath.begin(), Numbers::kPath.end()))
+            << size;
+    }
+}
+
 TEST_F(Lists, OnlyACutCellHasATipWithItsWholeText) {
     Fill(5);
     const auto moveTo = [&](int row, int column) {

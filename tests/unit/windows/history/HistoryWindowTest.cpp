@@ -323,6 +323,43 @@ TEST_F(HistoryWindow, ItStandsWhereItWasClosed) {
     EXPECT_THAT(SettingsAfterClose(), testing::HasSubstr("HistoryPosition=600,450,12000,7500"));
 }
 
+TEST_F(HistoryWindow, ItsColumnsAreAsWideAsTheyWere) {
+    Start();
+    Open();
+    MemoryToolkit::DragColumn(Steps(), 2, 2000);
+    MemoryToolkit::DragColumn(Steps(), 3, 1700);
+    const toolkit::Twips list = Steps().Width();
+    Window().UserClosed();
+    const std::string stored = Stored("HistoryColumns");
+    EXPECT_THAT(stored, testing::MatchesRegex("1100,850,2000,1700,[0-9]+,1200,1600,[0-9]+"));
+    EXPECT_THAT(stored, testing::EndsWith("," + std::to_string(static_cast<int>(list))));
+}
+
+TEST_F(HistoryWindow, StoredWidthsAreTakenAndThePathsGetTheDifference) {
+    SetSettings("HistoryColumns=1100,850,2000,1700,2500,1200,1600,9000");
+    Start();
+    Open();
+    const toolkit::Twips more = (Steps().Width() - 9000) / 2;
+    EXPECT_EQ(Steps().ColumnWidth(2), 2000);
+    EXPECT_EQ(Steps().ColumnWidth(3), 1700 + more);
+    EXPECT_EQ(Steps().ColumnWidth(4), 2500 + more);
+}
+
+TEST_F(HistoryWindow, TooFewStoredWidthsAreNotTaken) {
+    SetSettings("HistoryColumns=1,2,3");
+    Start();
+    Open();
+    EXPECT_EQ(Steps().ColumnWidth(2), 1250);
+}
+
+TEST_F(HistoryWindow, AStoredWidthThatNoColumnCanHaveLeavesAllAsDesigned) {
+    SetSettings("HistoryColumns=1100,850,999,1700,2500,1200,1e30,9000");
+    Start();
+    Open();
+    EXPECT_EQ(Steps().ColumnWidth(2), 1250);
+    EXPECT_EQ(Steps().ColumnWidth(6), 1600);
+}
+
 TEST_F(HistoryWindow, AWiderWindowGivesThePathsMoreRoom) {
     Start();
     Open();
