@@ -1,9 +1,12 @@
 #include "win32/controls/Desktop.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "win32/common/Resolution.h"
 #include "win32/common/SystemLibraries.h"
+#include "win32/controls/WindowClasses.h"
+#include "win32/drawing/DarkMode.h"
 
 namespace ordalyn::win32 {
 
@@ -56,6 +59,14 @@ FrameMargins GrownMargins(FrameMargins margins, int from, int to) {
     return margins;
 }
 
+BOOL CALLBACK ShowFrameOfForm(HWND window, LPARAM dark) {
+    wchar_t name[32] = L"";
+    GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    if (std::wstring_view(name) == kFormClass)
+        ShowFrame(window, dark != FALSE);
+    return TRUE;
+}
+
 }  // namespace
 
 Desktop::Desktop(HINSTANCE handle, const Scale& system, ScaleAt screens)
@@ -70,6 +81,18 @@ FrameMargins Desktop::Margins(bool resizable, int dpi) {
             GrownMargins(MeasureMargins(program, resizable), ScaleOfScreen(kPlace).DpiY(), dpi);
     }
     return found->second;
+}
+
+void Desktop::ShowFrameOf(HWND newForm) const {
+    if (dark_)
+        ShowFrame(newForm, true);
+}
+
+void Desktop::SetDark(bool dark) {
+    if (dark == dark_)
+        return;
+    dark_ = dark;
+    EnumThreadWindows(GetCurrentThreadId(), ShowFrameOfForm, dark ? TRUE : FALSE);
 }
 
 void Desktop::SetCommonPointer(Pointer pointer) {

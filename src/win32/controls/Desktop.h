@@ -44,11 +44,17 @@ class Desktop {
     toolkit::Pointer CommonPointer() const { return pointer_; }
     void SetCommonPointer(toolkit::Pointer pointer);
 
+    // Whether the frames of all forms are dark, as what the user has chosen for the lists is: those
+    // that exist change at once.
+    void SetDark(bool dark);
+    void ShowFrameOf(HWND newForm) const;
+
     // For windows whose frame can be dragged and for those whose frame cannot, of a resolution.
     FrameMargins Margins(bool resizable, int dpi);
 
   private:
     toolkit::Pointer pointer_ = toolkit::Pointer::Default;
+    bool dark_ = false;
     std::map<std::pair<bool, int>, FrameMargins> margins_;
 };
 

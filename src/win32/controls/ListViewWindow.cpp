@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "win32/common/WideText.h"
+#include "win32/drawing/DarkMode.h"
 
 namespace ordalyn::win32 {
 
@@ -49,6 +50,17 @@ void ListViewWindow::SetColors(Color foreground, Color background) {
     Send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(colors.text));
     Send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(colors.background));
     Send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(colors.background));
+    // All lists have the colours that the user has chosen in the options, and what is around them
+    // follows. Around the system's own colours, which a new list has at first, it is as Windows has
+    // it, and so it is with high contrast.
+    const bool highContrast = HighContrastIsOn()();
+    const bool dark = background >= 0 && IsDark(colors.background) && !highContrast;
+    if (dark != dark_) {
+        dark_ = dark;
+        ShowScrollBars(handle(), dark);
+    }
+    if (background >= 0 || highContrast)
+        desktop().SetDark(dark);
     if (handle() != nullptr)
         InvalidateRect(handle(), nullptr, TRUE);
 }

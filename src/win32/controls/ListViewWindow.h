@@ -102,6 +102,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     toolkit::ListView& list_;
     std::optional<TextMeasure> painting_;
     CellTip tip_;
+    bool dark_ = false;  // its scroll bars
     std::vector<Width> widths_;
     int topRow_ = 0;               // before the form got another resolution
     std::vector<int> positions_;   // as last seen, for when the window has gone

@@ -2,16 +2,9 @@
 
 #include "win32/common/DeviceContext.h"
 #include "win32/common/Handles.h"
+#include "win32/drawing/DarkMode.h"
 
 namespace ordalyn::win32 {
-
-namespace {
-
-bool IsDark(COLORREF color) {
-    return GetRValue(color) * 299 + GetGValue(color) * 587 + GetBValue(color) * 114 < 128 * 1000;
-}
-
-}  // namespace
 
 // The system's own focus rectangle inverts what lies below it, which cannot be seen on medium gray.
 void DrawFocusMark(HDC dc, const RECT& frame, COLORREF background) {

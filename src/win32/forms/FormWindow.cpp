@@ -38,6 +38,7 @@ FormWindow::FormWindow(Desktop& desktop, toolkit::Form& form, const FormStyle& s
       style_(style),
       menus_(form) {
     desktop.forms.push_back(this);
+    desktop.ShowFrameOf(handle());
     ShowIcons();
     if (style.takesDroppedFiles)
         DragAcceptFiles(handle(), TRUE);
