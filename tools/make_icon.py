@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Draws packaging/ordalyn.ico: a log page with coloured lines and an arrow from source to target.
 
-The picture is a list of polygons for each class of sizes, on a field of 16 units (small sizes, whose
-edges lie on pixels) or 32 units (large ones). Nothing but the standard library is needed.
+The picture is a list of polygons for each class of sizes, on a field of 16, 20 or 24 units (small sizes,
+whose edges lie on pixels) or 32 units (large ones). Nothing but the standard library is needed.
 """
 import struct
 import sys
@@ -19,6 +19,10 @@ RED = (206, 62, 54)
 TEXT = (150, 160, 172)
 ARROW = (24, 92, 178)
 HALO = (255, 255, 255)
+
+
+# Small and large icons at 100, 125, 150 and 200 percent, and the one that folders show.
+SIZES = (16, 20, 24, 32, 40, 48, 64, 256)
 
 
 def box(left, top, right, bottom):
@@ -63,6 +67,28 @@ def small():
     return 16, shapes
 
 
+def medium():
+    """On 20 units: for 125 percent, where lines made for 16 units would fall between the pixels."""
+    shapes = page(3, 1, 16, 19, 4, 1)
+    for top, color, end in ((4, GREEN, 11), (7, BLUE, 14), (10, ORANGE, 14)):
+        shapes.append((color, box(5, top, 7, top + 1)))
+        shapes.append((TEXT, box(8, top, end, top + 1)))
+    shapes.append((HALO, arrow(5, 14.5, 21, 2, 5.1, 6)))
+    shapes.append((ARROW, arrow(6, 14.5, 20, 1, 4, 5)))
+    return 20, shapes
+
+
+def larger():
+    """On 24 units: for 150 percent."""
+    shapes = page(3, 1, 19, 23, 5, 1)
+    for top, color, end in ((5, GREEN, 12), (8, BLUE, 16), (11, ORANGE, 16)):
+        shapes.append((color, box(6, top, 8, top + 1)))
+        shapes.append((TEXT, box(10, top, end, top + 1)))
+    shapes.append((HALO, arrow(6, 17.5, 24.9, 2.6, 6.2, 7)))
+    shapes.append((ARROW, arrow(7, 17.5, 23.9, 1.5, 5, 6)))
+    return 24, shapes
+
+
 def large():
     """On 32 units."""
     shapes = page(4, 1, 26, 31, 7, 1)
@@ -88,7 +114,7 @@ def inside(corners, x, y):
 
 def draw(size):
     """Rows of (r, g, b, a)."""
-    field, shapes = small() if size < 32 else large()
+    field, shapes = {16: small, 20: medium, 24: larger, 40: medium}.get(size, large)()
     samples = 4
     unit = field / size
     rows = []
@@ -143,7 +169,7 @@ def as_bitmap(rows):
 def main():
     target = Path(sys.argv[1]) if len(sys.argv) > 1 else (
         Path(__file__).resolve().parent.parent / "packaging" / "ordalyn.ico")
-    images = [(s, as_png(draw(s)) if s == 256 else as_bitmap(draw(s))) for s in (16, 24, 32, 48, 256)]
+    images = [(s, as_png(draw(s)) if s == 256 else as_bitmap(draw(s))) for s in SIZES]
     directory = struct.pack("<HHH", 0, 1, len(images))
     offset = len(directory) + 16 * len(images)
     for size, data in images:
