@@ -44,7 +44,7 @@ def everything(app, *windows):
 def windows(folder):
     """The main window and its two dialogs. A column has the width that a person gave it."""
     folder.write_settings(Ordalyn={"MainPosition": "0,0,9015,6000", "FiltersPosition": "0,6500,9000,795",
-                                   "HSplitPosition": 2507})
+                                   "HSplitPosition": 2507, "ColumnsWidth": "884,10019,10890"})
     app = folder.show(LOG)
     app.main.source.drag_column_edge(0, 41)
     app.main.source.click_row(100)
@@ -89,7 +89,7 @@ def test_everything_grows_with_the_resolution_and_comes_back(folder, windows):
     app.close()
     assert folder.settings["Ordalyn"]["HSplitPosition"] == "2507"
     assert folder.settings["Ordalyn"]["MainPosition"] == "0,0,9015,6000"
-    assert folder.settings["Ordalyn"]["ColumnsWidth"].startswith("1500,")
+    assert folder.settings["Ordalyn"]["ColumnsWidth"].startswith("1500,10019,")
 
 
 def test_what_is_stored_does_not_depend_on_the_screen(folder):
