@@ -167,7 +167,6 @@ inline constexpr TextId kDiskFull{"5162"};
 inline constexpr TextId kNoRightToWrite{"5163"};
 inline constexpr TextId kFileInUse{"5164"};
 inline constexpr TextId kIsLogFile{"5165"};
-inline constexpr TextId kOperationName{"5166"};
 
 // What went wrong.
 inline constexpr TextId kFailedOnly{"5167"};

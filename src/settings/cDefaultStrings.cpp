@@ -142,7 +142,6 @@ constexpr std::string_view kTable[] = {
     "5163=You have no right to write there.",
     "5164=Another program is using the file.",
     "5165=This file is one of the file manager's logs and stays as it is. Choose another name:",
-    "5166=Operation",
     "5167=Failed Operations O&nly",
     "5168=%i failed operation(s)",
     "5175=Show Source in the &File Manager",

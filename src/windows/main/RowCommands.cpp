@@ -119,7 +119,7 @@ void RowCommands::Write(const std::string& path, TableForm form) {
     const EntryTable table(around_.entries, around_.operations.Reader(), form);
     const auto name = [&](const TextId& id) { return shared.Text(id); };
     const std::string date = name(text_id::kDateName), time = name(text_id::kTime),
-                      operation = name(text_id::kOperationName), source = name(text_id::kSource),
+                      operation = name(text_id::kOperation), source = name(text_id::kSource),
                       target = name(text_id::kTarget);
     std::string block(kMark);
     table.AddHeader(block, {date, time, operation, source, target});

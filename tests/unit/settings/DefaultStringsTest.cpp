@@ -46,7 +46,7 @@ TEST(DefaultStrings, TheTableIsOrderedAndHasEachIdOnce) {
         EXPECT_GT(id, before);
         before = id;
     }
-    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 162U);
+    EXPECT_EQ(cDefaultStrings::BuiltInTable().size(), 161U);
 }
 
 // Translators and settings files know the texts by these numbers.
@@ -189,7 +189,6 @@ constexpr Expected kExpected[] = {
     {5163, "You have no right to write there."},
     {5164, "Another program is using the file."},
     {5165, "This file is one of the file manager's logs and stays as it is. Choose another name:"},
-    {5166, "Operation"},
     {5167, "Failed Operations O&nly"},
     {5168, "%i failed operation(s)"},
     {5175, "Show Source in the &File Manager"},
