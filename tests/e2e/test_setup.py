@@ -111,7 +111,7 @@ def test_the_archives_are_the_program_folders_and_the_sums_are_theirs():
     for bits in ("x64", "x86"):
         files = shipped(bits)
         assert files["Ordalyn.exe"] == (DIST / bits / "Ordalyn.exe").read_bytes()
-        assert {"Readme.chm", "Readme German.chm", "Readme.txt", "Languages/German.lng"} <= set(files)
+        assert {"Readme.chm", "Readme Deutsch.chm", "Readme.txt", "Languages/German.lng"} <= set(files)
         assert len([name for name in files if name.startswith("Languages/")]) == len(
             list((PROJECT / "languages").glob("*.lng")))
         assert "Ordalyn.ini" not in files

@@ -1,10 +1,22 @@
 #include "windows/about/Help.h"
 
 #include "base/FileNames.h"
+#include "base/Text.h"
 #include "base/TextIds.h"
 #include "hostconfig/mAppCommon.h"
 
 namespace ordalyn {
+
+namespace {
+
+// The languages that there is help in, beside English: the file's name, and the language's own.
+struct Language {
+    std::string_view file;
+    std::string_view own;
+};
+constexpr Language kLanguagesOfHelp[] = {{"German", "Deutsch"}};
+
+}  // namespace
 
 std::string HelpFile(const HelpSurroundings& around) {
     std::string common = around.programFolder + "Readme.chm";
@@ -14,8 +26,16 @@ std::string HelpFile(const HelpSurroundings& around) {
     // A name that would lead out of the folder is none of a file in it.
     if (name.find_first_of("/:") != std::string::npos)
         return common;
-    const std::string own = around.programFolder + "Readme " + name + ".chm";
-    return around.files.Exists(own) ? own : common;
+    const auto helpNamed = [&](std::string_view language) {
+        return around.programFolder + "Readme " + std::string(language) + ".chm";
+    };
+    if (std::string path = helpNamed(name); around.files.Exists(path))
+        return path;
+    for (const Language& language : kLanguagesOfHelp)
+        if (std::string path = helpNamed(language.own);
+            EqualsIgnoreCase(language.file, name) && around.files.Exists(path))
+            return path;
+    return common;
 }
 
 namespace {

@@ -21,7 +21,8 @@ struct HelpSurroundings {
 };
 
 // The path of the help file for the interface language: "Readme <language file's name>.chm" in the
-// program folder when there is one, else "Readme.chm" there.
+// program folder when there is one, else the one that is named as the language calls itself
+// ("Readme Deutsch.chm" for German), else "Readme.chm" there.
 std::string HelpFile(const HelpSurroundings& around);
 // Opens it, owned by the form. A missing file is reported; a shell that fails is not.
 void ShowHelp(const HelpSurroundings& around, toolkit::Form& ownerForm);

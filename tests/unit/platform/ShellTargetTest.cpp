@@ -32,9 +32,9 @@ TEST(ShellTarget, IsNothingElse) {
 }
 
 TEST(ShellTarget, IsAPageOfAHelpFile) {
-    const ShellTarget target = ShellTarget::HelpPage("C:\\a b\\Readme German.chm", "history");
+    const ShellTarget target = ShellTarget::HelpPage("C:\\a b\\Readme Deutsch.chm", "history");
     EXPECT_EQ(target.What(), ShellTarget::Deed::ShowPage);
-    EXPECT_EQ(target.Text(), "C:\\a b\\Readme German.chm");
+    EXPECT_EQ(target.Text(), "C:\\a b\\Readme Deutsch.chm");
     EXPECT_EQ(target.Arguments(), "history.html");
     for (const char* page : {"", "History", "a b", "a\" /x", "../a", "a.html", "a#b", "::a"})
         EXPECT_THROW(ShellTarget::HelpPage("C:\\Readme.chm", page), InvalidPropertyValue) << page;

@@ -74,6 +74,22 @@ TEST_F(Help, OpensTheFileOfTheLanguageWhenThereIsOne) {
     EXPECT_EQ(HelpFile(help), "C:\\Ordalyn\\Readme.chm");
 }
 
+TEST_F(Help, OpensTheFileThatIsNamedAsTheLanguageCallsItself) {
+    system.files.Set("C:\\Ordalyn\\Readme.chm", "x");
+    system.files.Set("C:\\Ordalyn\\Readme Deutsch.chm", "x");
+    help.useDefaultLanguage = false;
+    help.languageFile = "C:\\Ordalyn\\Languages\\german.lng";
+    EXPECT_EQ(HelpFile(help), "C:\\Ordalyn\\Readme Deutsch.chm");
+    help.languageFile = "C:\\Ordalyn\\Languages\\French.lng";
+    EXPECT_EQ(HelpFile(help), "C:\\Ordalyn\\Readme.chm");
+    help.languageFile = "C:\\Ordalyn\\Languages\\German.lng";
+    system.files.Set("C:\\Ordalyn\\Readme German.chm", "x");
+    EXPECT_EQ(HelpFile(help), "C:\\Ordalyn\\Readme German.chm");
+    system.files.Delete("C:\\Ordalyn\\Readme German.chm");
+    system.files.Delete("C:\\Ordalyn\\Readme Deutsch.chm");
+    EXPECT_EQ(HelpFile(help), "C:\\Ordalyn\\Readme.chm");
+}
+
 TEST_F(Help, ALanguageFileWithoutAnExtensionGivesItsWholeName) {
     system.files.Set("C:\\Ordalyn\\Readme Suomi.chm", "x");
     help.useDefaultLanguage = false;
