@@ -13,7 +13,7 @@
 #   x86       wine and e2e with the 32-bit program, in a small Debian of its own (tools/x86_wine.sh)
 #   release   whether the packages are the same bytes when they are built elsewhere
 #   fuzz      every fuzz target for a bounded time
-#   bench     benchmarks; a missed limit is a failure
+#   bench     benchmarks, and all figures in one table at the end; a missed limit is a failure
 #
 # ORDALYN_E2E="-k words" and the like is handed to pytest; ORDALYN_FUZZ_SECONDS (10) is the time of
 # one fuzz target, ORDALYN_FUZZ_SEED (1) where it begins.
@@ -175,6 +175,8 @@ kind_fuzz() {
 
 kind_bench() {
     local names=() program
+    export ORDALYN_FIGURES=$PWD/build/figures.txt
+    rm -f "$ORDALYN_FIGURES"
     configure native-release
     mapfile -t names < <(targets native-release bench_)
     cmake --build --preset native-release --target "${names[@]}"
@@ -182,12 +184,15 @@ kind_bench() {
         if "$program"; then echo "1 0" >>$COUNTS; else echo "0 1" >>$COUNTS; fi
     done < <(find build/native-release/tests/bench -type f -perm -u+x -name 'bench_*' | sort)
     bench_real_program
+    # What was missed has been counted.
+    /usr/bin/python3 -B tests/bench/figures.py table "$ORDALYN_FIGURES" || true
 }
 
 # The program itself under Wine, on a log of a million lines.
 bench_real_program() {
     build_folder_x64
     build_agent mingw-x64
+    cmake --build --preset mingw-x64 --target bare_window bench_start
     cmake --build --preset native-release --target make_log
     build/native-release/tests/bench/make_log build/million.log
     if /usr/bin/python3 -B tests/bench/real_program.py build/million.log; then

@@ -2,7 +2,9 @@
 # Installs what is missing of the packages that a task needs. It first says what it is about to do,
 # and that it uses sudo when it is not run as root.
 #
-#   tools/setup.sh build|release|run|test ...
+#   tools/setup.sh build|release|run|test|compare ...
+#
+# "compare" installs what tests/bench/figures.py measures beside the program; nothing else needs it.
 #
 # Works as root or with sudo on Debian 12; with nothing missing it is done in a moment. The i386
 # architecture is never added: 32-bit programs run in a Debian of their own (x86_wine.sh).
@@ -28,6 +30,9 @@ packages_for() {
             # libchm-bin opens the help files.
             echo python3-pytest python3-pytest-xdist libchm-bin \
                 locales shellcheck clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev lld-14 debootstrap
+            ;;
+        compare)
+            echo grep lnav ripgrep
             ;;
         *)
             echo "setup.sh: no such task: $1" >&2

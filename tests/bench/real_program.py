@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Measures the real program under Wine on a log of a million lines: from its start to rows on the
 screen, against the same program on a log of one line in the same run, a filter over all dates and a
-search that finds nothing. With a second log, of ten million lines, also how much more that takes, and
+search that finds nothing; and a start with a log of one line against that of a bare window with one
+list view, by turns (start/bench_start.cpp). With a second log, of ten million lines, also how much more that takes, and
 its memory.
 
     tests/bench/real_program.py MILLION_LINE_LOG [TEN_MILLION_LINE_LOG]
@@ -12,6 +13,7 @@ Starts are the best of three runs. Ends with 1 when a limit is missed.
 import os
 import pathlib
 import shutil
+import subprocess
 import sys
 import time
 
@@ -23,7 +25,9 @@ from harness.display import Display  # noqa: E402
 from harness.folder import Folder  # noqa: E402
 from harness.processor import stay_on_processor  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
-from harness.wine import WORK, Wine  # noqa: E402
+from harness.wine import WORK, Wine, windows_path  # noqa: E402
+
+from figures import Figure, add  # noqa: E402
 
 RUNS = 3
 START_LIMIT = 0.5  # seconds more than for a log of one line
@@ -76,6 +80,17 @@ def use(folder, log):
     memory = resident_memory(folder)
     app.close()
     return filtered, searched, every, rows, memory
+
+
+def bare_window(folder, log):
+    """Prints what a start costs in units of a bare window's; answers whether that is within its limit."""
+    programs = PROJECT / "build/mingw-x64/tests/bench"
+    env = {**folder.wine.environment(), **folder.file_manager()}
+    if "ORDALYN_FIGURES" in os.environ:
+        env["ORDALYN_FIGURES"] = windows_path(os.environ["ORDALYN_FIGURES"])
+    command = [programs / "bare_window.exe", folder.program / "Ordalyn.exe", log]
+    return subprocess.run(["wine", programs / "bench_start.exe", *map(windows_path, command)],
+                          env=env, stderr=subprocess.DEVNULL).returncode == 0
 
 
 def resident_memory(folder):
@@ -133,16 +148,22 @@ def main():
                 _, app = start(folder, one)
                 memory = resident_memory(folder)
                 app.close()
-                good = all([ten_times(folder, log, {"start to rows": whole, "filter": filtered,
-                                                    "search": searched,
-                                                    "memory of one line": memory}, floor)
-                            for log in larger])
+                good = bare_window(folder, one)
+                good &= all([ten_times(folder, log, {"start to rows": whole, "filter": filtered,
+                                                     "search": searched,
+                                                     "memory of one line": memory}, floor)
+                             for log in larger])
             finally:
                 folder.end_all()
         finally:
             wine.close()
     finally:
         display.close()
+    add(Figure("real_program", every, "start to rows, more than with a log of one line",
+               (whole - floor) * 1000, most=START_LIMIT * 1000))
+    add(Figure("real_program", every, "filter over all dates, in the window", filtered * 1000,
+               most=FILTER_LIMIT * 1000))
+    add(Figure("real_program", every, "search in vain, in the window", searched * 1000))
     print(f"start to rows, one line:        {floor:6.2f} s")
     print(f"start to rows, a million lines: {whole:6.2f} s "
           f"({whole - floor:+.2f} s, limit +{START_LIMIT} s)")
