@@ -56,7 +56,7 @@ LogToMeasure::~LogToMeasure() {
 }
 
 void Figures::Add(Figure figure) {
-    if (lines_ < kFewestForTargets)
+    if (lines_ != 0 && lines_ < kFewestForTargets)
         figure.mostTimes = figure.most = 0;
     const double times = figure.floor > 0 ? figure.value / figure.floor : 0;
     const bool aims = figure.mostTimes > 0 || figure.most > 0;

@@ -86,7 +86,7 @@ struct Figure {
 class Figures {
   public:
     Figures(const char* program, std::size_t lines) : program_(program), lines_(lines) {}
-    // Targets are those of large logs.
+    // Targets are those of large logs, or of what has nothing to do with the size of a log (0).
     void Add(Figure figure);
     // What the program ends with: 1 when a figure has missed its target.
     int ExitCode() const { return missed_ ? 1 : 0; }

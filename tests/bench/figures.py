@@ -96,7 +96,7 @@ def print_table(figures):
     for row, figure in zip(rows, [None, *figures]):
         if figure and (figure.program, figure.lines) != before:
             before = figure.program, figure.lines
-            print(f"\n{figure.program}, {figure.lines:,} lines")
+            print(f"\n{figure.program}" + (f", {figure.lines:,} lines" if figure.lines else ""))
         cells = [cell.ljust(width) if i in (0, 5) else cell.rjust(width)
                  for i, (cell, width) in enumerate(zip(row, widths))]
         print("  ".join(cells).rstrip())
