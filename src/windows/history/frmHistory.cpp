@@ -159,6 +159,7 @@ void frmHistory::LoadColumns() {
 
 void frmHistory::SaveColumns() {
     std::vector<std::string> widths;
+    widths.reserve(HistoryRows::kFields + 1);
     for (int column = 0; column < HistoryRows::kFields; ++column)
         widths.push_back(std::to_string(std::lround(lvwSteps.ColumnWidth(column))));
     widths.push_back(std::to_string(std::lround(lvwSteps.Width())));
