@@ -307,7 +307,7 @@ TEST_F(ProgramEnd, StoresColumnsPanelsAndPlacement) {
     Choose("mnuViewVerticalPanels");
     Choose("mnuViewStatusBar");
     const std::string file = SettingsAfterClose();
-    EXPECT_THAT(file, testing::ContainsRegex("ColumnsWidth=1000,[0-9]+,3000\r\n"));
+    EXPECT_THAT(file, testing::ContainsRegex("ColumnsWidth=1000,\\w+,3000\r\n"));
     EXPECT_THAT(file, HasSubstr("ColumnHeadersPosition=2,1,3\r\n"));
     EXPECT_THAT(file, HasSubstr("VerticalPanels=1\r\n"));
     EXPECT_THAT(file, HasSubstr("HSplitPosition=4000\r\n"));
@@ -324,7 +324,7 @@ TEST_F(ProgramEnd, ASinglePanelStoresItsThreeColumnsAndNoSplitter) {
     MemoryToolkit::DragColumn(Source(), 2, 3210);
     MemoryToolkit::MoveColumn(Source(), 2, 0);
     const std::string file = SettingsAfterClose();
-    EXPECT_THAT(file, testing::ContainsRegex("ColumnsWidth=[0-9]+,[0-9]+,3210\r\n"));
+    EXPECT_THAT(file, testing::ContainsRegex("ColumnsWidth=\\w+,\\w+,3210\r\n"));
     EXPECT_THAT(file, HasSubstr("ColumnHeadersPosition=2,3,1\r\n"));
     EXPECT_THAT(file, HasSubstr("TwoPanels=0\r\n"));
     EXPECT_THAT(file, Not(HasSubstr("VerticalPanels")));
