@@ -97,7 +97,7 @@ TEST_F(Lists, AMillionRowsAskForTheVisibleOnesOnly) {
 // What the control is given for a cell while it paints.
 class PaintedTexts {
   public:
-    explicit PaintedTexts(HWND list) : list_(list) {
+    explicit PaintedTexts(HWND list) {
         SetWindowSubclass(GetParent(list), Watch, 1, reinterpret_cast<DWORD_PTR>(this));
         RedrawWindow(list, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
         RemoveWindowSubclass(GetParent(list), Watch, 1);
@@ -120,7 +120,6 @@ class PaintedTexts {
         }
         return answer;
     }
-    HWND list_;
     std::map<std::pair<int, int>, std::wstring> texts_;
 };
 
