@@ -14,7 +14,8 @@ packages_for() {
     case $1 in
         build)
             # GoogleTest is here because its sources belong to the configuration of every build.
-            echo cmake ninja-build g++ binutils \
+            # What has been compiled once is not compiled again, in whatever folder (environment.sh).
+            echo cmake ninja-build g++ binutils ccache \
                 g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest python3
             # The compiler of the help file.
             echo fp-utils
