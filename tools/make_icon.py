@@ -56,49 +56,25 @@ def arrow(left, middle, right, shaft, head, length):
     ]
 
 
-def small():
-    """On 16 units."""
-    shapes = page(2, 0, 13, 16, 4, 1)
-    for top, color, end in ((3, GREEN, 8), (5, BLUE, 11), (7, ORANGE, 11)):
-        shapes.append((color, box(4, top, 6, top + 1)))
-        shapes.append((TEXT, box(7, top, end, top + 1)))
-    shapes.append((HALO, arrow(4, 11.5, 17, 2, 4.6, 5)))
-    shapes.append((ARROW, arrow(5, 11.5, 16, 1, 3.5, 4)))
-    return 16, shapes
+def picture(outline, marks, texts, height, lines, halo, shape):
+    """A page with lines, each a coloured mark and a text, and an arrow with a bright edge across it."""
+    shapes = page(*outline)
+    for top, color, end in lines:
+        shapes.append((color, box(marks[0], top, marks[1], top + height)))
+        shapes.append((TEXT, box(texts, top, end, top + height)))
+    return [*shapes, (HALO, arrow(*halo)), (ARROW, arrow(*shape))]
 
 
-def medium():
-    """On 20 units: for 125 percent, where lines made for 16 units would fall between the pixels."""
-    shapes = page(3, 1, 16, 19, 4, 1)
-    for top, color, end in ((4, GREEN, 11), (7, BLUE, 14), (10, ORANGE, 14)):
-        shapes.append((color, box(5, top, 7, top + 1)))
-        shapes.append((TEXT, box(8, top, end, top + 1)))
-    shapes.append((HALO, arrow(5, 14.5, 21, 2, 5.1, 6)))
-    shapes.append((ARROW, arrow(6, 14.5, 20, 1, 4, 5)))
-    return 20, shapes
-
-
-def larger():
-    """On 24 units: for 150 percent."""
-    shapes = page(3, 1, 19, 23, 5, 1)
-    for top, color, end in ((5, GREEN, 12), (8, BLUE, 16), (11, ORANGE, 16)):
-        shapes.append((color, box(6, top, 8, top + 1)))
-        shapes.append((TEXT, box(10, top, end, top + 1)))
-    shapes.append((HALO, arrow(6, 17.5, 24.9, 2.6, 6.2, 7)))
-    shapes.append((ARROW, arrow(7, 17.5, 23.9, 1.5, 5, 6)))
-    return 24, shapes
-
-
-def large():
-    """On 32 units."""
-    shapes = page(4, 1, 26, 31, 7, 1)
-    rows = ((6, GREEN, 16), (9.5, BLUE, 22), (13, ORANGE, 20), (16.5, RED, 22))
-    for top, color, end in rows:
-        shapes.append((color, box(7, top, 10, top + 1.8)))
-        shapes.append((TEXT, box(11.5, top, end, top + 1.8)))
-    shapes.append((HALO, arrow(8.6, 24, 31.9, 2.9, 7, 8.2)))
-    shapes.append((ARROW, arrow(9.6, 24, 30.6, 1.9, 5.5, 7)))
-    return 32, shapes
+SMALL = 16, picture((2, 0, 13, 16, 4, 1), (4, 6), 7, 1, ((3, GREEN, 8), (5, BLUE, 11), (7, ORANGE, 11)),
+                    (4, 11.5, 17, 2, 4.6, 5), (5, 11.5, 16, 1, 3.5, 4))
+# For 125 and 150 percent, where lines made for 16 units would fall between the pixels.
+MEDIUM = 20, picture((3, 1, 16, 19, 4, 1), (5, 7), 8, 1, ((4, GREEN, 11), (7, BLUE, 14), (10, ORANGE, 14)),
+                     (5, 14.5, 21, 2, 5.1, 6), (6, 14.5, 20, 1, 4, 5))
+LARGER = 24, picture((3, 1, 19, 23, 5, 1), (6, 8), 10, 1, ((5, GREEN, 12), (8, BLUE, 16), (11, ORANGE, 16)),
+                     (6, 17.5, 24.9, 2.6, 6.2, 7), (7, 17.5, 23.9, 1.5, 5, 6))
+LARGE = 32, picture((4, 1, 26, 31, 7, 1), (7, 10), 11.5, 1.8,
+                    ((6, GREEN, 16), (9.5, BLUE, 22), (13, ORANGE, 20), (16.5, RED, 22)),
+                    (8.6, 24, 31.9, 2.9, 7, 8.2), (9.6, 24, 30.6, 1.9, 5.5, 7))
 
 
 def inside(corners, x, y):
@@ -114,7 +90,7 @@ def inside(corners, x, y):
 
 def draw(size):
     """Rows of (r, g, b, a)."""
-    field, shapes = {16: small, 20: medium, 24: larger, 40: medium}.get(size, large)()
+    field, shapes = {16: SMALL, 20: MEDIUM, 24: LARGER, 40: MEDIUM}.get(size, LARGE)
     samples = 4
     unit = field / size
     rows = []
