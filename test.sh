@@ -20,7 +20,7 @@
 # one fuzz target, ORDALYN_FUZZ_SEED (1) where it begins.
 set -euo pipefail
 cd "$(dirname "$0")"
-tools/setup.sh build run test
+tools/setup.sh build run test release
 # shellcheck source=tools/environment.sh
 . tools/environment.sh
 

@@ -76,8 +76,8 @@ def cmake_project(tmp_path, lines):
     (tmp_path / "CMakeLists.txt").write_text(
         "cmake_minimum_required(VERSION 3.22)\nproject(Trial VERSION 1.0.0 LANGUAGES NONE)\n"
         f"list(APPEND CMAKE_MODULE_PATH {PROJECT}/cmake)\n" + "\n".join(lines) + "\n")
-    done = subprocess.run(["cmake", "-S", tmp_path, "-B", tmp_path / "build"], stdout=subprocess.PIPE,
-                          stderr=subprocess.PIPE, check=False)
+    done = subprocess.run(["cmake", "-G", "Ninja", "-S", tmp_path, "-B", tmp_path / "build"],
+                          stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
     return "" if done.returncode == 0 else " ".join(done.stderr.decode().split())
 
 

@@ -469,13 +469,17 @@ def test_a_command_stands_before_each_table_of_figures(document):
     assert tables_without_a_command(document, text) == []
 
 
-def test_the_readmes_example_of_one_test_names_tests_that_run():
-    program = PROJECT / "build/native-debug/tests/unit/log/unit_log"
-    if not program.exists():
-        pytest.skip("unit_log has not been built")
-    line = next(line for _, _, block in parts(read("README.md"))[0] for line in commands_of(block) if "gtest_filter" in line)
-    done = subprocess.run(shlex.split(line), cwd=PROJECT, stdout=subprocess.PIPE, check=True, timeout=60)
-    assert re.search(rb"\[  PASSED  \] [1-9]\d* tests", done.stdout)
+def named_tests(document):
+    """The folder of the program and the suite in each command that runs only some tests."""
+    return re.findall(r"build/[\w-]+/tests/(\S+)/\w+ --gtest_filter='(\w+)\.\*'", read(document))
+
+
+@pytest.mark.parametrize("document", ["README.md", "CONTRIBUTING.md", "docs/testing.md"])
+def test_commands_that_run_one_suite_name_one_that_exists(document):
+    assert named_tests(document)
+    for folder, suite in named_tests(document):
+        sources = "".join(file.read_text() for file in (PROJECT / "tests" / folder).glob("*.cpp"))
+        assert re.search(rf"^TEST(_F|_P)?\({suite},", sources, re.M), suite
 
 
 def test_the_readme_names_every_key_of_the_menus():
