@@ -9,6 +9,13 @@ namespace {
 
 constexpr std::int32_t kDayGrowthStep = 365;
 
+// The first entry with a date of those from `first` up to `end`, or `end`.
+std::int32_t FirstDate(const cStringArray& dates, std::int32_t first, std::int32_t end) {
+    while (first < end && dates.Position(first) == TextPosition{})
+        ++first;
+    return first;
+}
+
 }  // namespace
 
 DayIndex::DayIndex() {
@@ -18,10 +25,36 @@ DayIndex::DayIndex() {
 std::vector<std::string> DayIndex::Build(const cStringArray& dates) {
     starts_.Clear();
     std::vector<std::string> days;
+    AddDays(dates, 0, days);
+    return days;
+}
+
+std::vector<std::string> DayIndex::Extend(const cStringArray& dates, std::int32_t firstNew) {
+    const std::int32_t lastDay = DayOf(firstNew - 1);
+    // The first day can begin with comments; every other one begins with its date.
+    const std::int32_t firstDate = FirstDate(dates, 0, firstNew);
+    if (lastDay == kNoDay || firstDate == firstNew)
+        return Build(dates);
+    std::vector<std::int32_t> starts;
+    std::vector<std::string> days;
+    for (std::int32_t day = 0; day <= lastDay; ++day) {
+        starts.push_back(FirstEntryOf(day));
+        days.emplace_back(dates.List(day == 0 ? firstDate : starts.back()));
+    }
+    starts_.Clear();
+    for (const std::int32_t start : starts)
+        starts_.AddItem(start);
+    AddDays(dates, firstNew, days);
+    return days;
+}
+
+// Adds the days that begin with `first` or behind it to the index and to their dates, then the end.
+void DayIndex::AddDays(const cStringArray& dates, std::int32_t first,
+                       std::vector<std::string>& days) {
     // Equal dates in a row are one text of the store, so nearly every entry is settled by its
     // position.
     TextPosition previous{};
-    for (std::int32_t i = 0; i <= dates.ListCount(); ++i) {
+    for (std::int32_t i = first; i <= dates.ListCount(); ++i) {
         const TextPosition position = dates.Position(i);
         if (position == TextPosition{} || position == previous)
             continue;
@@ -33,11 +66,10 @@ std::vector<std::string> DayIndex::Build(const cStringArray& dates) {
         days.emplace_back(date);
     }
     if (days.empty())
-        return days;
+        return;
     firstDayItem_ = days.size() > 1 ? 1 : 0;
     starts_.AddItem(CheckedAdd(dates.ListCount(), 1));
     starts_.FreeExtraItems();
-    return days;
 }
 
 std::int32_t DayIndex::DayOf(std::int32_t entry) const {

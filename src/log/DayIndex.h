@@ -25,6 +25,9 @@ class DayIndex {
     // When no entry has a date there are no days, DayStarts is empty too, and FirstDayItem keeps
     // its value.
     std::vector<std::string> Build(const cStringArray& dates);
+    // The same, when the entries before this one are those that the index was built from: only
+    // those from it on are looked at.
+    std::vector<std::string> Extend(const cStringArray& dates, std::int32_t firstNew);
 
     // Element k is the first entry of day k; one more element behind the last day holds the number
     // of entries. Element 0 is always 0, so the first day's first entry can be one without a date.
@@ -47,6 +50,8 @@ class DayIndex {
     }
 
   private:
+    void AddDays(const cStringArray& dates, std::int32_t first, std::vector<std::string>& days);
+
     cLongArray starts_;
     std::int32_t firstDayItem_ = 0;
 };

@@ -10,8 +10,9 @@
 namespace ordalyn {
 
 // The rows of a day, or of all days for kAllDates: entry indices, ascending. A day that is not in
-// the index has none, and every row is one of an entry that the lists hold.
-std::vector<std::int32_t> DayRows(const EntryLists& entries, const DayIndex& days,
-                                  std::int32_t day);
+// the index has none, and every row is one of an entry that the lists hold. Rows of entries in
+// front of `from` are left out.
+std::vector<std::int32_t> DayRows(const EntryLists& entries, const DayIndex& days, std::int32_t day,
+                                  std::int32_t from = 0);
 
 }  // namespace ordalyn

@@ -196,14 +196,14 @@ void LogFileReading::Refresh() {
 
 void LogFileReading::ReadWhatIsNew(AppendedLines& appended, PassedOverLines& passedOver) {
     const toolkit::ScopedPointer hourglass(shared_.toolkit, toolkit::Pointer::Hourglass);
+    const std::int32_t firstNew = FirstNew();
     const auto found = mark_.lineCount == 0 ? AppendedLines::Found::AnotherFile
                                             : InAMoment([&] { return appended.Read(mark_); });
     switch (found) {
         case AppendedLines::Found::Nothing:
             return;
         case AppendedLines::Found::Lines:
-            panels_.BuildDateList(true);
-            panels_.SelectLastRow();
+            panels_.ShowNewest(firstNew);
             EntriesChanged.Raise();
             return;
         case AppendedLines::Found::AnotherFile:
@@ -268,10 +268,14 @@ LogFileReading::Followed LogFileReading::Quietly(const Read& read) {
     }
 }
 
+std::int32_t LogFileReading::FirstNew() const {
+    const bool lastMayChange = mark_.lastLine == LogMark::LastLine::UnfinishedEntry;
+    return entries_.EntrySources().ListCount() + (lastMayChange ? 0 : 1);
+}
+
 // A line that no log has ends a read, but it is not met again: what stands behind it comes next.
 LogFileReading::Followed LogFileReading::FollowOn(bool& anotherFile) {
-    const bool lastMayChange = mark_.lastLine == LogMark::LastLine::UnfinishedEntry;
-    const std::int32_t firstNew = entries_.EntrySources().ListCount() + (lastMayChange ? 0 : 1);
+    const std::int32_t firstNew = FirstNew();
     PassedOverLines passedOver;
     AppendedLines appended(shared_.services.files, shared_.services.codePages, entries_,
                            NotedIn(passedOver));

@@ -93,6 +93,8 @@ class LogFileReading {
     void ShowAnother(const LogReader& reader, EntryLists& fresh, bool takeFocus);
     template <typename Read>
     Followed Quietly(const Read& read);
+    // The entry with which the lines that have been added begin.
+    std::int32_t FirstNew() const;
     Followed FollowOn(bool& anotherFile);
     Followed FollowAnew(const std::string& path);
     void Show(EntryLists& entries, bool selectLastDate, bool takeFocus = true);

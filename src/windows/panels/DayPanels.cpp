@@ -85,7 +85,7 @@ bool DayPanels::AtTheEnd() const {
 void DayPanels::EntriesAdded(std::int32_t firstNew) {
     const bool atTheEnd = AtTheEnd();
     const bool anyDay = days_.DayCount() > 0;
-    if (!ListAddedDays()) {
+    if (!ListAddedDays(firstNew)) {
         // Another beginning of the log than the one that is shown.
         BuildDateList(true, false);
         SelectLastRow();
@@ -101,17 +101,35 @@ void DayPanels::EntriesAdded(std::int32_t firstNew) {
         SelectLastRow();
 }
 
+void DayPanels::ShowNewest(std::int32_t firstNew) {
+    if (!ListAddedDays(firstNew)) {
+        BuildDateList(true);
+        SelectLastRow();
+        return;
+    }
+    Attempt([this] { DaysListed.Raise(); });
+    const std::int32_t lastDay = days_.DayCount() - 1;
+    if (selectedDay_ == lastDay && shownDay_ == lastDay) {
+        AddRows(firstNew);
+        Attempt([this] { DayShown.Raise(); });
+    } else {
+        Attempt([&] { ChooseDay(lastDay); });
+    }
+    controls_.SourceListView.SetFocus();
+    SelectLastRow();
+}
+
 std::string DayPanels::DayLabel(std::string_view date) const {
     return settings_.LongDate != 0 ? LongDate(date) : std::string(date);
 }
 
 // Returns whether the days that were listed are still there, apart from the last one's date, which
 // was that of a line without an end.
-bool DayPanels::ListAddedDays() {
+bool DayPanels::ListAddedDays(std::int32_t firstNew) {
     toolkit::ComboBox& cboDate = controls_.cboDate;
     const std::int32_t before = days_.DayCount();
     const int listed = cboDate.ListCount();
-    const std::vector<std::string> dates = days_.Build(entries_.EntryDates());
+    const std::vector<std::string> dates = days_.Extend(entries_.EntryDates(), firstNew);
     const auto after = static_cast<std::int32_t>(dates.size());
     if (after < before || listed == 0)
         return false;
@@ -136,9 +154,8 @@ void DayPanels::AddRows(std::int32_t firstNew) {
     const std::vector<std::int32_t>& shown = *source.RowTags();
     const auto kept = std::lower_bound(shown.begin(), shown.end(), firstNew);
     const auto firstChanged = static_cast<int>(kept - shown.begin());
-    const std::vector<std::int32_t> ofDay = DayRows(entries_, days_, selectedDay_);
     const std::vector<std::int32_t> added =
-        panelFilter_.Passing({std::lower_bound(ofDay.begin(), ofDay.end(), firstNew), ofDay.end()});
+        panelFilter_.Passing(DayRows(entries_, days_, selectedDay_, firstNew));
     if (added.empty() && kept == shown.end())
         return;
     auto rows = std::make_shared<std::vector<std::int32_t>>();

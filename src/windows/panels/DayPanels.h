@@ -63,6 +63,9 @@ class DayPanels : public EntryDisplay {
     // and rows are shown behind the others, and nothing else changes, unless the user is at the end
     // of the log: the last day or all dates, and the last row. That remains the last row.
     void EntriesAdded(std::int32_t firstNew);
+    // The same entries are what the user wants to see: the last day and its last row are chosen,
+    // and the focus comes to SourceListView.
+    void ShowNewest(std::int32_t firstNew);
     // Empties the list of days; the panels and the index that belongs to them stay.
     void ShowNoDays() { controls_.cboDate.Clear(); }
     // Fills both panels for SelectedDay unless they show it already. Every entry has its row, also
@@ -118,7 +121,7 @@ class DayPanels : public EntryDisplay {
     bool PrepareContextMenu();
     bool AtTheEnd() const;
     std::string DayLabel(std::string_view date) const;
-    bool ListAddedDays();
+    bool ListAddedDays(std::int32_t firstNew);
     void AddRows(std::int32_t firstNew);
     bool ShowRowOf(std::int32_t entry, std::int32_t firstEntry);
 

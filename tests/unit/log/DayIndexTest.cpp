@@ -113,6 +113,50 @@ TEST(DayIndex, BuildingAgainStartsAfresh) {
     EXPECT_EQ(index.FirstDayItem(), 0);
 }
 
+// The index of all dates at once, and that of those before `firstNew`, in which a last line without
+// an end may have been another one, extended by the others.
+void ExpectSameWhenExtended(const std::vector<std::string>& values, std::size_t firstNew,
+                            const std::string& lastBefore) {
+    cStringArray dates;
+    Fill(dates, values);
+    DayIndex whole;
+    const std::vector<std::string> days = whole.Build(dates);
+    cStringArray before;
+    Fill(before, {values.begin(), values.begin() + static_cast<std::ptrdiff_t>(firstNew)});
+    if (lastBefore != "-")
+        before.AddItem(lastBefore);
+    DayIndex index;
+    index.Build(before);
+    SCOPED_TRACE("from " + std::to_string(firstNew) + ", before " + lastBefore);
+    EXPECT_EQ(index.Extend(dates, static_cast<std::int32_t>(firstNew)), days);
+    EXPECT_EQ(Items(index.DayStarts()), Items(whole.DayStarts()));
+    EXPECT_EQ(index.FirstDayItem(), whole.FirstDayItem());
+}
+
+TEST(DayIndex, ExtendedIsWhatIsBuiltAtOnce) {
+    for (const std::vector<std::string>& values :
+         {std::vector<std::string>{"A", "A", "B", "", "b", "A", "A"},
+          {"", "", "A", "", "B", "B"},
+          {"", ""},
+          {"A"},
+          {"A", "a", ""}}) {
+        for (std::size_t firstNew = 0; firstNew <= values.size(); ++firstNew) {
+            for (const char* const lastBefore : {"-", "", "A", "B", "C"})
+                ExpectSameWhenExtended(values, firstNew, lastBefore);
+        }
+    }
+}
+
+TEST(DayIndex, ExtendingLooksAtNothingThatIsNotNew) {
+    cStringArray dates;
+    Fill(dates, {"A", "A", "B", "B"});
+    DayIndex index;
+    index.Build(dates);
+    Fill(dates, {"A", "X", "B", "Y", "B", "C"});
+    EXPECT_THAT(index.Extend(dates, 4), ElementsAre("A", "B", "C"));
+    EXPECT_THAT(Items(index.DayStarts()), ElementsAre(0, 2, 5, 6));
+}
+
 TEST(DayIndex, ADayThatIsNotIndexedOrNotInTheListsIsAnError) {
     cStringArray dates;
     Fill(dates, {"A", "A", "A", "B"});

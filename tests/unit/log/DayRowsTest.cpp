@@ -33,6 +33,17 @@ TEST_F(DayRowsTest, EachDayHasItsEntries) {
     ExpectRows(kAllDates, ElementsAre(0, 1, 2, 3));
 }
 
+TEST_F(DayRowsTest, RowsInFrontOfAnEntryCanBeLeftOut) {
+    for (const char* const date : {"A", "B", "B", "C"})
+        Add(date, "t: a");
+    Build();
+    EXPECT_THAT(DayRows(entries, index, 1, 0), ElementsAre(1, 2));
+    EXPECT_THAT(DayRows(entries, index, 1, 2), ElementsAre(2));
+    EXPECT_THAT(DayRows(entries, index, 1, 3), IsEmpty());
+    EXPECT_THAT(DayRows(entries, index, kAllDates, 2), ElementsAre(2, 3));
+    EXPECT_THAT(DayRows(entries, index, kAllDates, 9), IsEmpty());
+}
+
 TEST_F(DayRowsTest, AnEmptyLogHasNoRows) {
     ExpectRows(kAllDates, IsEmpty());
 }

@@ -44,6 +44,93 @@ TEST_F(RefreshTest, RefreshAppendsAndSelectsTheLastDayAndRow) {
     EXPECT_EQ(tools.pointers.front(), toolkit::Pointer::Hourglass);
 }
 
+TEST_F(RefreshTest, LinesOfTheDayThatIsShownAreAddedToItsRows) {
+    Load({kCopyOfA, "02.03.2024 11:00:00: Move a -> b"});
+    SourceListView.SelectRow(0);
+    cboDate.SetFocus();
+    daysShown.clear();
+    const int fills = MemoryToolkit::Of(SourceListView).fills;
+    const int otherFills = MemoryToolkit::Of(TargetListView).fills;
+    system.files.Append(kLog, "02.03.2024 11:00:01: Move c -> d\r\n");
+    reading.Refresh();
+    EXPECT_THAT(Sources(), ElementsAre("Move a ", "Move c "));
+    EXPECT_THAT(Targets(), ElementsAre("b", "d"));
+    EXPECT_EQ(SourceListView.SelectedRow(), 1);
+    EXPECT_EQ(TargetListView.SelectedRow(), 1);
+    EXPECT_EQ(tools.focus, &SourceListView);
+    EXPECT_THAT(daysShown, ElementsAre(1));
+    EXPECT_EQ(MemoryToolkit::Of(SourceListView).fills, fills);
+    EXPECT_EQ(MemoryToolkit::Of(TargetListView).fills, otherFills);
+}
+
+// Whatever was shown before, and however the added lines go on, a refresh ends with what a person
+// sees when days and rows are built from the beginning.
+class RefreshedAndBuilt : public RefreshTest {
+  protected:
+    std::vector<std::string> See() const {
+        std::vector<std::string> seen = Dates();
+        for (const auto& texts : {Sources(), Targets()})
+            seen.insert(seen.end(), texts.begin(), texts.end());
+        for (int panel = 1; panel <= 3; ++panel)
+            seen.push_back(Status(panel));
+        for (const int number : {MemoryToolkit::Of(cboDate).listIndex, SourceListView.SelectedRow(),
+                                 TargetListView.SelectedRow()})
+            seen.push_back(std::to_string(number));
+        seen.emplace_back(tools.focus == &SourceListView ? "focus" : "none");
+        return seen;
+    }
+    void ExpectTheSame(int shownItem, const std::string& before, const std::string& added) {
+        SCOPED_TRACE("item " + std::to_string(shownItem) + " of\n" + before + "then\n" + added);
+        system.files.Set(kLog, before);
+        reading.ReadLogFile(false, kLog, false);
+        if (shownItem < cboDate.ListCount())
+            cboDate.UserSelected(shownItem);
+        cboDate.SetFocus();
+        system.files.Append(kLog, added);
+        reading.Refresh();
+        const std::vector<std::string> refreshed = See();
+        panels.BuildDateList(true);
+        panels.SelectLastRow();
+        EXPECT_EQ(refreshed, See());
+    }
+    void ExpectTheSame() {
+        const std::string first = "01.03.2024 10:15:30: Copy a -> b\r\n";
+        const std::string second = "02.03.2024 11:00:00: Move b -> c\r\n";
+        for (const std::string& before :
+             {first, first + second, "; a comment\r\n" + first, first + second + "02.03.2024 1",
+              first + second + "03.03.2024 12:00:00: Copy x", std::string("; a comment\r\n")}) {
+            for (const char* const added :
+                 {"2:00:00: Copy(Error: full): c -> d\r\n",
+                  "\r\n02.03.2024 12:00:00: Move c -> d\r\n; a comment\r\n",
+                  "\r\n03.03.2024 12:00:00: Copy c -> d\r\n04.03.2024 12:00:00: Copy d -> "
+                  "e\r\n"}) {
+                for (int shown = 0; shown < 4; ++shown)
+                    ExpectTheSame(shown, before, added);
+            }
+        }
+    }
+};
+
+TEST_F(RefreshedAndBuilt, AreTheSame) {
+    ExpectTheSame();
+}
+
+TEST_F(RefreshedAndBuilt, AreTheSameWithLongDatesAndASinglePanel) {
+    settings.LongDate = 1;
+    SinglePanel();
+    ExpectTheSame();
+}
+
+TEST_F(RefreshedAndBuilt, AreTheSameUnderAFilter) {
+    filter = {.boxText = "move", .FilterText = "move"};
+    ExpectTheSame();
+}
+
+TEST_F(RefreshedAndBuilt, AreTheSameOfFailedOperations) {
+    panels.ShowFailedOnly(true);
+    ExpectTheSame();
+}
+
 // The file is another one than before, so its end is shown.
 TEST_F(RefreshTest, RefreshThatFindsOnlyBlankCopyOfAsShowsTheLastDayAndRow) {
     Load({kCopyOfA, "02.03.2024 11:00:00: Move a -> b", "02.03.2024 11:00:01: Delete c"});
