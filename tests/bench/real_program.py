@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Measures the real program under Wine on a log of a million lines: from its start to rows on the
 screen, against the same program on a log of one line in the same run, a filter over all dates and a
-search that finds nothing; and a start with a log of one line against that of a bare window with one
-list view, by turns (start/bench_start.cpp). With a second log, of ten million lines, also how much more that takes, and
+search that finds nothing; a refresh that brings a line, against that of the log of one line; and a
+start with a log of one line against that of a bare window with one list view, by turns
+(start/bench_start.cpp). With a second log, of ten million lines, also how much more that takes, and
 its memory.
 
     tests/bench/real_program.py MILLION_LINE_LOG [TEN_MILLION_LINE_LOG]
@@ -13,6 +14,7 @@ Starts are the best of three runs. Ends with 1 when a limit is missed.
 import os
 import pathlib
 import shutil
+import statistics
 import subprocess
 import sys
 import time
@@ -32,6 +34,8 @@ from figures import Figure, add  # noqa: E402
 RUNS = 3
 START_LIMIT = 0.5  # seconds more than for a log of one line
 FILTER_LIMIT = 0.3  # seconds
+REFRESHES = 9
+REFRESH_LIMIT = 0.05  # seconds more than for a log of one line
 TEN_TIMES = 11  # times a million lines
 MEMORY_LIMIT = 1.3  # times the file
 
@@ -80,6 +84,39 @@ def use(folder, log):
     memory = resident_memory(folder)
     app.close()
     return filtered, searched, every, rows, memory
+
+
+def refresh(folder, log):
+    """The median of the seconds after which a line that has been added to the log is a row. The log
+    is left as it was."""
+    size = log.stat().st_size
+    _, app = start(folder, log)
+    seconds = []
+    try:
+        app.settle()
+        for number in range(1, REFRESHES + 1):
+            with log.open("ab") as file:
+                file.write(b"31.12.2099 10:15:30: Copy C:\\a.txt -> D:\\a.txt\r\n")
+            begin = time.monotonic()
+            app.keys("F5")
+            wait_until(lambda rows=number: app.main.source.row_count == rows, "the line that was added")
+            seconds.append(time.monotonic() - begin)
+        app.close()
+    finally:
+        os.truncate(log, size)
+    return statistics.median(seconds)
+
+
+def refreshes(folder, log, floor):
+    """Prints what a refresh of a large log takes; answers whether that is within its limit."""
+    seconds = refresh(folder, log)
+    more = seconds - floor
+    what = f"a line added to {log.stat().st_size / 1e6:.0f} MB, refreshed"
+    print(f"{what}: {seconds * 1000:.0f} ms ({more * 1000:+.0f} ms, "
+          f"limit +{REFRESH_LIMIT * 1000:.0f} ms)")
+    add(Figure("real_program", 0, f"{what}, more than to a log of one line", more * 1000,
+               most=REFRESH_LIMIT * 1000))
+    return more <= REFRESH_LIMIT
 
 
 def bare_window(folder, log):
@@ -149,6 +186,8 @@ def main():
                 memory = resident_memory(folder)
                 app.close()
                 good = bare_window(folder, one)
+                refreshed = refresh(folder, one)
+                good &= all([refreshes(folder, log, refreshed) for log in (million, *larger)])
                 good &= all([ten_times(folder, log, {"start to rows": whole, "filter": filtered,
                                                      "search": searched,
                                                      "memory of one line": memory}, floor)
