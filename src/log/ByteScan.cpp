@@ -1,5 +1,6 @@
 #include "log/ByteScan.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "base/Text.h"
@@ -92,32 +93,51 @@ std::size_t CountLineEnds(const char* at, const char* end, bool afterCr) {
 
 namespace {
 
-// Judges bytes as UTF-8 of one- and two-byte characters, sixteen at a time and without any jump:
-// whether trail bytes stand behind lead bytes and nowhere else.
-class ShortCharacters {
+// Judges bytes as UTF-8 with characters of at most so many bytes (2 to 4), sixteen at a time and
+// without any jump: whether trail bytes stand behind lead bytes and nowhere else, and whether they
+// are those that the lead byte allows.
+template <int kLongest>
+class Characters {
   public:
-    // `before` holds the bytes that stand one place before those to be looked at.
-    void Look(__m128i before, __m128i bytes) {
-        const __m128i noTrailWanted =
-            _mm_cmpeq_epi8(_mm_subs_epu8(before, Each(0xBF)), _mm_setzero_si128());
+    // So many bytes in front of those that are looked at have to be there.
+    static constexpr std::ptrdiff_t kBefore = kLongest - 1;
+
+    void Look(const char* at) {
+        const __m128i bytes = Load(at);
+        const __m128i before = Load(at - 1);
+        __m128i wanted = _mm_subs_epu8(before, Each(0xBF));
+        if constexpr (kLongest > 2)
+            wanted = _mm_or_si128(wanted, _mm_subs_epu8(Load(at - 2), Each(0xDF)));
+        if constexpr (kLongest > 3)
+            wanted = _mm_or_si128(wanted, _mm_subs_epu8(Load(at - 3), Each(0xEF)));
+        const __m128i noTrailWanted = _mm_cmpeq_epi8(wanted, _mm_setzero_si128());
         // As signed numbers the trail bytes are the smallest.
         const __m128i isTrail = _mm_cmplt_epi8(bytes, Each(0xC0));
         paired_ = _mm_and_si128(paired_, _mm_xor_si128(noTrailWanted, isTrail));
+        // Overlong forms, surrogates, what is above U+10FFFF.
+        if constexpr (kLongest > 2)
+            Restrict(before, bytes, 0xE0, 0xED, 0xA0);
+        if constexpr (kLongest > 3)
+            Restrict(before, bytes, 0xF0, 0xF4, 0x90);
         highest_ = _mm_max_epu8(highest_, bytes);
         lowestLead_ = _mm_min_epu8(lowestLead_, _mm_sub_epi8(bytes, Each(0xC0)));
     }
-    // The same for up to 16 bytes at the start or end of a text; what follows them counts as a byte
-    // that is no trail.
-    void LookAtEdge(char before, const char* at, std::size_t count) {
-        char edge[17] = {before};
-        std::memcpy(edge + 1, at, count);
-        Look(Load(edge), Load(edge + 1));
+    // The same for up to 16 bytes at the start or end of a text, which begins at `text`; what
+    // follows them counts as a byte that is no trail.
+    void LookAtEdge(const char* text, const char* at, std::size_t count) {
+        char edge[kBefore + 16] = {};
+        const std::ptrdiff_t before = std::min(kBefore, at - text);
+        std::memcpy(edge + kBefore - before, at - before, static_cast<std::size_t>(before) + count);
+        Look(edge + kBefore);
     }
-    // Whether there is a lead byte of more than two, about which Valid says nothing.
-    bool LongerOnes() const { return Any(_mm_max_epu8(highest_, Each(0xE0)), highest_); }
+    // Whether there is a lead byte of longer characters, about which Valid says nothing.
+    bool LongerOnes() const {
+        constexpr unsigned char kLonger[] = {0xE0, 0xF0, 0xF5};
+        return Any(_mm_max_epu8(highest_, Each(kLonger[kLongest - 2])), highest_);
+    }
     // C0 and C1 would begin overlong forms.
     bool Valid() const {
-        return _mm_movemask_epi8(paired_) == 0xFFFF &&
+        return _mm_movemask_epi8(paired_) == 0xFFFF && _mm_movemask_epi8(wrong_) == 0 &&
                !Any(_mm_min_epu8(lowestLead_, Each(1)), lowestLead_);
     }
 
@@ -125,10 +145,52 @@ class ShortCharacters {
     static __m128i Each(unsigned char byte) { return _mm_set1_epi8(static_cast<char>(byte)); }
     static bool Any(__m128i a, __m128i b) { return _mm_movemask_epi8(_mm_cmpeq_epi8(a, b)) != 0; }
 
+    // Behind `lowest` trail bytes begin at the limit, behind `highest` they end before it.
+    void Restrict(__m128i before, __m128i bytes, unsigned char lowest, unsigned char highest,
+                  unsigned char limit) {
+        const __m128i below = _mm_cmplt_epi8(bytes, Each(limit));
+        wrong_ = _mm_or_si128(wrong_, _mm_and_si128(below, _mm_cmpeq_epi8(before, Each(lowest))));
+        wrong_ =
+            _mm_or_si128(wrong_, _mm_andnot_si128(below, _mm_cmpeq_epi8(before, Each(highest))));
+    }
+
     __m128i paired_ = Each(0xFF);
+    __m128i wrong_ = Each(0);
     __m128i highest_ = Each(0);
     __m128i lowestLead_ = Each(0xFF);  // less C0, so that lead bytes are the lowest
 };
+
+// Judges the bytes from `at` on, in front of which those from `text` on have been judged: with the
+// shortest characters that do, as these take the least time. Texts keep to one script, so a longer
+// one is followed by others.
+template <int kLongest>
+bool AreCharactersUpTo(const char* text, const char* at, const char* end) {
+    constexpr std::ptrdiff_t kPiece = 2048;  // a multiple of 16
+    Characters<kLongest> judged;
+    while (true) {
+        Characters<kLongest> characters = judged;
+        const char* const stop = end - at > kPiece ? at + kPiece : end;
+        const char* next = at;
+        if (at == text) {
+            characters.LookAtEdge(text, at, 16);
+            next += 16;
+        }
+        for (; stop - next >= 16; next += 16)
+            characters.Look(next);
+        if (stop == end)
+            characters.LookAtEdge(text, next, static_cast<std::size_t>(end - next));
+        if (characters.LongerOnes()) {
+            if constexpr (kLongest < 4)
+                return judged.Valid() && AreCharactersUpTo<kLongest + 1>(text, at, end);
+            else
+                return false;
+        }
+        if (stop == end)
+            return characters.Valid();
+        judged = characters;
+        at = stop;
+    }
+}
 
 // Judges characters of any length, sixty-four bytes at a time: in valid UTF-8 the trail bytes stand
 // exactly where the lead bytes want them. The few lead bytes that also restrict the value of their
@@ -176,20 +238,9 @@ bool AreCharacters(const char* at, const char* end) {
 }  // namespace
 
 bool IsUtf8(const char* at, const char* end) {
-    // Many bytes are worth the attempt with what is right for most logs, the few of a line are not.
+    // The few bytes of a line are judged at once, many with what is right for most logs first.
     constexpr std::ptrdiff_t kMany = 512;
-    if (end - at < kMany)
-        return AreCharacters(at, end);
-    ShortCharacters characters;
-    characters.LookAtEdge('\0', at, 16);
-    const char* next = at + 16;
-    for (; end - next >= 64; next += 64)
-        for (int place = 0; place < 64; place += 16)
-            characters.Look(Load(next + place - 1), Load(next + place));
-    for (; end - next >= 16; next += 16)
-        characters.Look(Load(next - 1), Load(next));
-    characters.LookAtEdge(next[-1], next, static_cast<std::size_t>(end - next));
-    return characters.LongerOnes() ? AreCharacters(at, end) : characters.Valid();
+    return end - at < kMany ? AreCharacters(at, end) : AreCharactersUpTo<2>(at, at, end);
 }
 
 #endif

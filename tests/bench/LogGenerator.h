@@ -7,7 +7,11 @@
 namespace ordalyn::bench {
 
 // Writes `lines` lines of about 95 bytes: UTF-8 with a byte order mark, CR LF, some 700 days,
-// sessions between start and shutdown lines, errors, and names in other scripts.
+// sessions between start and shutdown lines, errors, and some names beyond ASCII.
 void WriteLog(std::ostream& out, int lines, std::uint32_t seed);
+
+// The same with folders and names in another script only, of 120 to 190 bytes a line.
+enum class Script { Cyrillic, Greek, Chinese, Thai };
+void WriteLog(std::ostream& out, int lines, std::uint32_t seed, Script script);
 
 }  // namespace ordalyn::bench

@@ -171,6 +171,45 @@ TEST(ByteScan, JudgesUtf8AsTheDecoderDoes) {
     EXPECT_LT(valid, 4500);
 }
 
+// Texts that are judged in pieces, what is wrong at and around the ends of these.
+TEST(ByteScan, JudgesLongTextsAsTheDecoderDoes) {
+    static const std::string kTexts[] = {"abcdefg", "\xD0\x94", "\xE0\xB8\x81", "\xF0\x9F\x98\x80"};
+    static const std::string kOthers[] = {"",
+                                          "\x80",
+                                          "\xC3",
+                                          "\xC3\xA4",
+                                          "\xC1\xBF",
+                                          "\xE2\x82",
+                                          "\xE2\x82\xAC",
+                                          "\xE0\x9F\xBF",
+                                          "\xED\xA0\x80",
+                                          "\xED\x9F\xBF",
+                                          "\xF0\x9F",
+                                          "\xF0\x8F\xBF\xBF",
+                                          "\xF4\x90\x80\x80",
+                                          "\xF4\x8F\xBF\xBF",
+                                          "\xF5\x80\x80\x80"};
+    for (const std::string& character : kTexts) {
+        std::string text;
+        while (text.size() < 4200)
+            text += character;
+        for (const std::size_t at :
+             {0, 15, 16, 2040, 2044, 2046, 2047, 2048, 2049, 4095, 4096, 4200}) {
+            for (const std::string& other : kOthers) {
+                // Between two characters, and in the middle of one.
+                for (const std::size_t place : {at / character.size() * character.size(), at}) {
+                    std::string whole = text;
+                    whole.insert(std::min(place, text.size()), other);
+                    const test::PaddedLine padded(whole, "\x80");
+                    ASSERT_EQ(IsUtf8(padded.begin(), padded.end()),
+                              portable::IsUtf8(padded.begin(), padded.end()))
+                        << character << " with " << other << " at " << place;
+                }
+            }
+        }
+    }
+}
+
 TEST(ByteScan, ATrailByteFarBehindItsLeadIsNone) {
     for (std::size_t before = 0; before < 70; ++before)
         for (std::size_t between = 1; between < 140; ++between)
