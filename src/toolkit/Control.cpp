@@ -145,37 +145,61 @@ void Control::SetAccessibleName(std::string_view name) {
     peer().SetAccessibleName(name);
 }
 
+// A peer lays itself out and paints anew for what it is told here, so it is told what is new.
+
 void Control::SetFont(const toolkit::Font& font) {
+    if (font == font_)
+        return;
     font_ = font;
     SystemChangedBounds(peer().SetFont(font));
 }
 
 void Control::SetForeColor(Color color) {
-    foreColor_ = color;
-    peer().SetColors(foreColor_, backColor_);
+    ShowColors(color, backColor_);
 }
 
 void Control::SetBackColor(Color color) {
-    backColor_ = color;
+    ShowColors(foreColor_, color);
+}
+
+void Control::ShowColors(Color foreground, Color background) {
+    if (hasColors_ && foreground == foreColor_ && background == backColor_)
+        return;
+    hasColors_ = true;
+    foreColor_ = foreground;
+    backColor_ = background;
     peer().SetColors(foreColor_, backColor_);
 }
 
 void Control::SetBorder(BorderStyle border) {
-    border_ = border;
-    peer().SetBorder(border_, appearance_);
+    ShowFrame(border, appearance_);
 }
 
 void Control::SetLook(Appearance appearance) {
+    ShowFrame(border_, appearance);
+}
+
+void Control::ShowFrame(BorderStyle border, Appearance appearance) {
+    if (hasFrame_ && border == border_ && appearance == appearance_)
+        return;
+    hasFrame_ = true;
+    border_ = border;
     appearance_ = appearance;
     peer().SetBorder(border_, appearance_);
 }
 
 void Control::SetRightToLeft(bool rightToLeft) {
-    rightToLeft_ = rightToLeft;
-    peer().SetReadingOrder(rightToLeft_, alignment_);
+    ShowReadingOrder(rightToLeft, alignment_);
 }
 
 void Control::SetTextAlignment(Alignment alignment) {
+    ShowReadingOrder(rightToLeft_, alignment);
+}
+
+void Control::ShowReadingOrder(bool rightToLeft, Alignment alignment) {
+    if (rightToLeft == rightToLeft_ && alignment == alignment_)
+        return;
+    rightToLeft_ = rightToLeft;
     alignment_ = alignment;
     peer().SetReadingOrder(rightToLeft_, alignment_);
 }

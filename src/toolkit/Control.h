@@ -136,6 +136,10 @@ class Control {
     void SetVisibleOnly(bool visible) { visible_ = visible; }
 
   private:
+    void ShowColors(Color foreground, Color background);
+    void ShowFrame(BorderStyle border, Appearance appearance);
+    void ShowReadingOrder(bool rightToLeft, Alignment alignment);
+
     Kind kind_;
     std::string name_;
     int index_;
@@ -151,8 +155,10 @@ class Control {
     toolkit::Font font_;
     Color foreColor_ = kWindowText;
     Color backColor_ = kButtonFace;
+    bool hasColors_ = false;  // before that the peer has those that are its kind's
     BorderStyle border_ = BorderStyle::None;
     Appearance appearance_ = Appearance::ThreeDimensional;
+    bool hasFrame_ = false;
     bool rightToLeft_ = false;
     Alignment alignment_ = Alignment::Left;
     Pointer pointer_ = Pointer::Default;

@@ -51,19 +51,23 @@ class Peer : public Interface, public HasShown {
     }
     toolkit::Rect SetFont(const toolkit::Font& font) override {
         shown.font = font;
+        ++shown.looksTold;
         return shown.bounds;
     }
     void SetColors(toolkit::Color foreground, toolkit::Color background) override {
         shown.foreground = foreground;
         shown.background = background;
+        ++shown.looksTold;
     }
     void SetBorder(toolkit::BorderStyle border, toolkit::Appearance appearance) override {
         shown.border = border;
         shown.appearance = appearance;
+        ++shown.looksTold;
     }
     void SetReadingOrder(bool rightToLeft, toolkit::Alignment alignment) override {
         shown.rightToLeft = rightToLeft;
         shown.alignment = alignment;
+        ++shown.looksTold;
     }
     void SetPointer(toolkit::Pointer pointer) override { shown.pointer = pointer; }
     void SetToolTip(std::string_view text) override { shown.toolTip = text; }

@@ -44,6 +44,7 @@ struct Shown {
     bool plainText = false;
     bool shortensPath = false;
     int refreshes = 0;
+    int looksTold = 0;  // how often font, colours, frame or reading order came
     int broughtToFront = 0;
     // Kinds with more.
     bool checked = false;

@@ -41,6 +41,32 @@ TEST_F(ControlTest, ATabStopCanBeAddedAndTakenAway) {
     EXPECT_EQ(On(label).tabStop, false);
 }
 
+// A window lays itself out and paints anew for each of these.
+TEST_F(ControlTest, APeerIsToldOfItsLooksOnlyWhatIsNew) {
+    auto& label = Get<Label>("lblText");
+    const int before = On(label).looksTold;
+    label.SetFont(label.Font());
+    label.SetRightToLeft(false);
+    label.SetTextAlignment(Alignment::Left);
+    EXPECT_EQ(On(label).looksTold, before);
+    // What a kind looks like by itself is not known here.
+    label.SetBorder(BorderStyle::None);
+    label.SetForeColor(kWindowText);
+    EXPECT_EQ(On(label).looksTold, before + 2);
+    for (int round = 0; round < 2; ++round) {
+        Font font;
+        font.size = 12;
+        label.SetFont(font);
+        label.SetBorder(BorderStyle::FixedSingle);
+        label.SetLook(Appearance::Flat);
+        label.SetForeColor(0x0000FF);
+        label.SetBackColor(0x00FF00);
+        label.SetRightToLeft(true);
+        label.SetTextAlignment(Alignment::Right);
+        EXPECT_EQ(On(label).looksTold, before + 9);
+    }
+}
+
 TEST_F(ControlTest, ALabelsTextCanBePlain) {
     auto& label = Get<Label>("lblText");
     label.SetCaption("R&D.log");
