@@ -107,6 +107,14 @@ def test_no_handler_swallows_an_exception_without_a_word():
     assert found == []
 
 
+def test_threads_wait_for_one_another_with_a_mutex_and_a_condition():
+    """The other means of the library that builds for Windows look before they lock: a thread that is woken in between
+    sleeps on."""
+    others = re.compile(r"#include <(?:latch|semaphore|barrier|stop_token)>")
+    found = [name(file) for file in code("src", "tests") if others.search(text(file))]
+    assert found == []
+
+
 def test_no_file_of_the_program_is_too_long_to_read():
     found = {name(file): lines for file in code("src")
              if (lines := text(file).count("\n")) > LONGEST_FILE}

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <latch>
+#include <condition_variable>
 #include <memory>
-#include <semaphore>
+#include <mutex>
 #include <set>
 #include <system_error>
 #include <thread>
@@ -20,6 +20,25 @@ namespace {
 constexpr std::size_t kSize = 8192;
 constexpr std::size_t kMany = ReadyBlocks::kWorthwhile * 4;
 constexpr std::size_t kAhead = ReadyBlocks::kMostAhead;
+
+// Steps of one thread that another one waits for.
+class Steps {
+  public:
+    void Add() {
+        const std::lock_guard lock(mutex_);
+        ++count_;
+        changed_.notify_all();
+    }
+    void WaitFor(std::size_t count) {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [&] { return count_ >= count; });
+    }
+
+  private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::size_t count_ = 0;
+};
 
 // Two processors, and a worker that can be held up at its first block.
 class ReadyBlocksTest : public testing::Test {
@@ -41,8 +60,8 @@ class ReadyBlocksTest : public testing::Test {
                         block[size - 1] = 't';
                         ++touched;
                         if (holdsUp)
-                            mayGoOn.wait();
-                        touches.release();
+                            goesOn.WaitFor(1);
+                        touches.Add();
                     },
                 .start =
                     [this](std::function<void()> work) {
@@ -77,23 +96,22 @@ class ReadyBlocksTest : public testing::Test {
     std::size_t most = 100'000;
     bool noThread = false;
     bool holdsUp = false;
-    std::latch mayGoOn{1};
+    Steps goesOn;
     std::size_t allocated = 0;
     std::set<const char*> ahead;  // what was allocated so
     int started = 0;
     std::atomic<std::size_t> touched = 0;
-    std::counting_semaphore<> touches{0};
+    Steps touches;
     std::vector<ReadyBlocks::Block> taken;
 };
 
 TEST_F(ReadyBlocksTest, AWorkerTouchesWhatIsExpected) {
     ReadyBlocks ready(kSize, Means());
     ready.Expect(kMany * kSize);
-    for (std::size_t i = 0; i < kAhead; ++i)
-        touches.acquire();
+    touches.WaitFor(kAhead);
     TakeAll(ready, 1);
     EXPECT_EQ(taken[0][kSize - 1], 't');
-    touches.acquire();  // the one that was allocated in its place
+    touches.WaitFor(kAhead + 1);  // the one that was allocated in its place
     TakeAll(ready, kMany - 1);
     EXPECT_TRUE(AllAreDifferent());
     EXPECT_EQ(started, 1);
@@ -133,7 +151,7 @@ TEST_F(ReadyBlocksTest, WhatWasNotReadyIsExpectedNoMore) {
     allocated = 0;
     ready.Expect(0);
     EXPECT_EQ(allocated, 0U);
-    mayGoOn.count_down();
+    goesOn.Add();
 }
 
 TEST_F(ReadyBlocksTest, FewBlocksAreNotWorthAThread) {
@@ -165,7 +183,7 @@ TEST_F(ReadyBlocksTest, TakingNeverWaitsForTheWorker) {
     EXPECT_TRUE(AllAreDifferent());
     // What the worker has not come to is taken as it is; the last one is made for the asking.
     EXPECT_EQ(TakenFromAhead(), ReadyBlocks::kWorthwhile - 1);
-    mayGoOn.count_down();
+    goesOn.Add();
 }
 
 TEST_F(ReadyBlocksTest, AtItsEndTheWorkerFinishesItsBlockOnly) {
