@@ -29,7 +29,7 @@ class Wine:
     def __init__(self, display):
         self.display = display
         self.folder, self._lock = self._take_prefix()
-        self._desktop = None
+        self._resident = None
         ready = self.folder / "ready"
         if not ready.exists():
             shutil.rmtree(self.folder, ignore_errors=True)
@@ -105,9 +105,15 @@ class Wine:
     def show_desktop(self, locale=None):
         """Every program of this prefix runs on a desktop window as large as the display, which
         draws frames and captions. It outlives the programs, so that each of them starts quickly."""
-        if self._desktop is None or self._desktop.poll() is not None:
-            self._desktop = self._start(["explorer", self._desktop_option], locale)
-            wait_until(self._desktop_is_shown, "the Wine desktop", timeout=60)
+        if self._resident is not None and self._resident.poll() is None:
+            return
+        # Wine takes a desktop away a second after the last program on it, and with it whatever is
+        # just about to start there. So one program waits there for a line that never comes.
+        self._resident = subprocess.Popen(["wine", "cmd"], env=self.environment(locale), stdin=subprocess.PIPE,
+                                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        self._resident.stdout.read(1)
+        self._start(["explorer", self._desktop_option], locale)
+        wait_until(self._desktop_is_shown, "the Wine desktop", timeout=60)
 
     def start_on_desktop(self, arguments, locale=None):
         self.show_desktop(locale)
@@ -188,8 +194,8 @@ class Wine:
 
     def close(self):
         self._end_server()
-        if self._desktop:
+        if self._resident:
             # One that the server did not know yet when it ended waits for it.
-            self._desktop.kill()
-            self._desktop.wait()
+            self._resident.kill()
+            self._resident.communicate()
         self._lock.close()
