@@ -24,11 +24,13 @@ double Brightness(Color color) {
     return 0.2126 * linear(0) + 0.7152 * linear(1) + 0.0722 * linear(2);
 }
 
+int Between(int from, int to, int step, int steps) {
+    return from + (to - from) * step / steps;
+}
+
 // Between the red and white, or black on backgrounds that are neither light nor dark.
 Color Shade(int step, int steps, bool lighter) {
-    const auto between = [&](int from) {
-        return from + ((lighter ? kFull : 0) - from) * step / steps;
-    };
+    const auto between = [&](int from) { return Between(from, lighter ? kFull : 0, step, steps); };
     return between(kRed) | between(0) << 8 | between(0) << 16;
 }
 
@@ -48,6 +50,19 @@ Color RedOn(Color background) {
                 Contrast(shade, background) >= kReadable)
                 return shade;
     return Shade(0, kSteps, true);
+}
+
+Color ShadeOfSelection(const TextColors& colors) {
+    constexpr int kSteps = 64;
+    for (int step = kSteps / 4; step > 0; --step) {
+        Color shade = 0;
+        for (int which = 0; which < 3; ++which)
+            shade |= Between(Part(colors.background, which), Part(colors.text, which), step, kSteps)
+                     << (8 * which);
+        if (Contrast(colors.text, shade) >= kReadable)
+            return shade;
+    }
+    return colors.background;
 }
 
 }  // namespace ordalyn::toolkit

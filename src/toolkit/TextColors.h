@@ -31,4 +31,8 @@ double Contrast(Color a, Color b);
 // A dark red, made as much lighter as it takes to be read on that background, a colour 0x00BBGGRR.
 Color RedOn(Color background);
 
+// The background of what is selected where the focus is elsewhere: between the two colours
+// (0x00BBGGRR), as far from the background as the text can still be read.
+Color ShadeOfSelection(const TextColors& colors);
+
 }  // namespace ordalyn::toolkit

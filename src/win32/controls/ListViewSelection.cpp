@@ -69,20 +69,32 @@ bool ListViewWindow::IsMarked(int row) const {
     return row >= 0 && row < list_.RowCount() && list_.IsMarked(row);
 }
 
+ResolvedColors ListViewWindow::ColorsOfSelection() const {
+    if (GetFocus() == handle())
+        return {GetSysColor(COLOR_HIGHLIGHTTEXT), GetSysColor(COLOR_HIGHLIGHT)};
+    if (!dark_)
+        return {GetSysColor(COLOR_BTNTEXT), GetSysColor(COLOR_BTNFACE)};
+    const ResolvedColors colors = TextColors();
+    const Color shade =
+        ShadeOfSelection({static_cast<Color>(colors.text), static_cast<Color>(colors.background)});
+    return {colors.text, static_cast<COLORREF>(shade)};
+}
+
 LRESULT ListViewWindow::PaintRow(NMLVCUSTOMDRAW& draw) const {
     const auto row = static_cast<int>(draw.nmcd.dwItemSpec);
     switch (draw.nmcd.dwDrawStage) {
         case CDDS_PREPAINT:
             return CDRF_NOTIFYITEMDRAW;
         case CDDS_ITEMPREPAINT:
-            // The control paints its own one.
-            if (row == selectedRow_)
+            // The control paints its own one, as light as a button where it has not the focus. On a
+            // dark list that would be the brightest thing on the screen.
+            if (row == selectedRow_ && (!dark_ || GetFocus() == handle()))
                 return CDRF_DODEFAULT;
-            if (list_.SelectedRows().Contains(row)) {
-                const bool focused = GetFocus() == handle();
+            if (row == selectedRow_ || list_.SelectedRows().Contains(row)) {
+                const ResolvedColors colors = ColorsOfSelection();
                 draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
-                draw.clrText = GetSysColor(focused ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT);
-                draw.clrTextBk = GetSysColor(focused ? COLOR_HIGHLIGHT : COLOR_BTNFACE);
+                draw.clrText = colors.text;
+                draw.clrTextBk = colors.background;
             } else if (!HighContrastIsOn()() && IsMarked(row)) {
                 const ResolvedColors colors = TextColors();
                 draw.clrText =

@@ -93,6 +93,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     void ClearSelection(UINT states);
     std::optional<LRESULT> SelectionAsked(UINT message, WPARAM wParam, LPARAM lParam);
     bool IsMarked(int row) const;
+    ResolvedColors ColorsOfSelection() const;
     LRESULT PaintRow(NMLVCUSTOMDRAW& draw) const;
     toolkit::Choice ChoiceOf(UINT message, WPARAM wParam) const;
     void MoveWithoutChange(UINT message, WPARAM wParam, int before);
@@ -102,7 +103,7 @@ class ListViewWindow : public Peer<toolkit::ListViewPeer> {
     toolkit::ListView& list_;
     std::optional<TextMeasure> painting_;
     CellTip tip_;
-    bool dark_ = false;  // its scroll bars
+    bool dark_ = false;  // its background, and so its scroll bars
     std::vector<Width> widths_;
     int topRow_ = 0;               // before the form got another resolution
     std::vector<int> positions_;   // as last seen, for when the window has gone

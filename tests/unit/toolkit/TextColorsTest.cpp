@@ -61,5 +61,18 @@ TEST(TextColors, OfTheSystemBelongTogetherWithHighContrast) {
     EXPECT_EQ(ReadableColors(ofWindows, true), ofWindows);
 }
 
+TEST(TextColors, WhatIsSelectedElsewhereIsBetweenBackgroundAndText) {
+    EXPECT_EQ(ShadeOfSelection({0xE0E0E0, 0x202020}), 0x505050);
+    EXPECT_EQ(ShadeOfSelection({0x000000, 0xFFFFFF}), 0xC0C0C0);
+    EXPECT_EQ(ShadeOfSelection({0x00FF00, 0x400000}), 0x303F00);
+    // Closer to the background where the text could not be read else.
+    const Color close = ShadeOfSelection({0x909090, 0x202020});
+    EXPECT_GT(close, 0x202020);
+    EXPECT_LT(close, 0x3C3C3C);
+    EXPECT_GE(Contrast(0x909090, close), 4.5);
+    // What cannot be read anyway stays.
+    EXPECT_EQ(ShadeOfSelection({0x404040, 0x202020}), 0x202020);
+}
+
 }  // namespace
 }  // namespace ordalyn::toolkit

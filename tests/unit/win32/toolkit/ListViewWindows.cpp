@@ -1,6 +1,7 @@
 #include <map>
 
 #include "TestForm.h"
+#include "toolkit/TextColors.h"
 #include "win32/drawing/Colors.h"
 
 namespace ordalyn::test {
@@ -59,6 +60,20 @@ class Lists : public ::testing::Test {
         SendMessageW(Window(), LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
                      reinterpret_cast<LPARAM>(&item));
         return item.pszText;
+    }
+    // What the control is told when it is about to paint the row.
+    static constexpr COLORREF kAsBefore = 0x123456;
+    NMLVCUSTOMDRAW Drawn(int row) const {
+        NMLVCUSTOMDRAW draw = {};
+        draw.nmcd.hdr = {Window(), static_cast<UINT_PTR>(GetDlgCtrlID(Window())),
+                         static_cast<UINT>(NM_CUSTOMDRAW)};
+        draw.nmcd.dwDrawStage = CDDS_ITEMPREPAINT;
+        draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row);
+        draw.nmcd.uItemState = CDIS_SELECTED;
+        draw.clrText = draw.clrTextBk = kAsBefore;
+        SendMessageW(GetParent(Window()), WM_NOTIFY, draw.nmcd.hdr.idFrom,
+                     reinterpret_cast<LPARAM>(&draw));
+        return draw;
     }
     int Selected() const {
         return static_cast<int>(
@@ -307,18 +322,7 @@ TEST_F(Lists, MarkedRowsHaveTheirColourUnlessSelectedOrWithHighContrast) {
     list.Fill(std::make_shared<Odd>(), tags);
     list.SetMultiSelect(true);
     list.SetBackColor(0xFFFFFF);
-    constexpr COLORREF kAsBefore = 0x123456;
-    const auto colour = [&](int row) {
-        NMLVCUSTOMDRAW draw = {};
-        draw.nmcd.hdr = {Window(), static_cast<UINT_PTR>(GetDlgCtrlID(Window())),
-                         static_cast<UINT>(NM_CUSTOMDRAW)};
-        draw.nmcd.dwDrawStage = CDDS_ITEMPREPAINT;
-        draw.nmcd.dwItemSpec = static_cast<DWORD_PTR>(row);
-        draw.clrText = kAsBefore;
-        SendMessageW(GetParent(Window()), WM_NOTIFY, draw.nmcd.hdr.idFrom,
-                     reinterpret_cast<LPARAM>(&draw));
-        return draw.clrText;
-    };
+    const auto colour = [&](int row) { return Drawn(row).clrText; };
     EXPECT_EQ(colour(0), kAsBefore);
     EXPECT_EQ(colour(1), 0x0000A0U);
     list.SetMarkColor(0x00FF00);
@@ -327,6 +331,7 @@ TEST_F(Lists, MarkedRowsHaveTheirColourUnlessSelectedOrWithHighContrast) {
     list.SetBackColor(0x000000);
     EXPECT_GT(colour(1) & 0xFF, 0xA0U) << "lighter on a dark background";
     // The control paints the one that it knows; the others look as it does.
+    list.SetBackColor(0xFFFFFF);
     list.SelectRows(RowRanges(1, 3), 1);
     EXPECT_EQ(colour(1), kAsBefore);
     EXPECT_EQ(colour(2), GetSysColor(GetFocus() == Window() ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT));
@@ -335,6 +340,31 @@ TEST_F(Lists, MarkedRowsHaveTheirColourUnlessSelectedOrWithHighContrast) {
     win32::HighContrastIsOn() = [] { return true; };
     EXPECT_EQ(colour(3), kAsBefore);
     win32::HighContrastIsOn() = before;
+}
+
+TEST_F(Lists, WhatIsSelectedInADarkListIsNoLightBarWhileTheFocusIsElsewhere) {
+    constexpr Color kDark = 0x202020, kBright = 0xE0E0E0;
+    auto tags = std::make_shared<std::vector<std::int32_t>>(std::vector<std::int32_t>{4, 5, 7, 9});
+    list.Fill(std::make_shared<Numbers>(), tags);
+    list.SetMultiSelect(true);
+    list.SetForeColor(kBright);
+    list.SetBackColor(kDark);
+    list.SelectRows(RowRanges(1, 3), 1);
+    SetFocus(nullptr);
+    for (const int row : {1, 2}) {
+        const NMLVCUSTOMDRAW draw = Drawn(row);
+        EXPECT_EQ(draw.clrTextBk, static_cast<COLORREF>(ShadeOfSelection({kBright, kDark}))) << row;
+        EXPECT_EQ(draw.clrText, static_cast<COLORREF>(kBright)) << row;
+        EXPECT_EQ(draw.nmcd.uItemState & CDIS_SELECTED, 0U) << row;
+    }
+    // Around the focus, and on a light background, it is as the system has it.
+    list.SetFocus();
+    EXPECT_EQ(Drawn(1).clrTextBk, kAsBefore);
+    EXPECT_EQ(Drawn(2).clrTextBk, GetSysColor(COLOR_HIGHLIGHT));
+    SetFocus(nullptr);
+    list.SetBackColor(0xFFFFFF);
+    EXPECT_EQ(Drawn(1).clrTextBk, kAsBefore);
+    EXPECT_EQ(Drawn(2).clrTextBk, GetSysColor(COLOR_BTNFACE));
 }
 
 TEST_F(Lists, BordersAndColoursFollowTheSettings) {
