@@ -174,6 +174,11 @@ void Form::Move(const Rect& bounds) {
     SystemChangedBounds(placed);
 }
 
+void Form::SetCaptionWithPath(std::string_view words, std::string_view path) {
+    peer_->ShortenCaptionFrom(words.size());
+    SetCaption(std::string(words).append(path));
+}
+
 void Form::SetClientHeight(Twips height) {
     if (!(height >= 0))
         throw InvalidPropertyValue("height of " + Name());

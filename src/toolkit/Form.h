@@ -42,6 +42,10 @@ class Form : public Control {
     const std::vector<std::unique_ptr<MenuItem>>& Menus() const { return menus_; }  // level 0
     std::vector<MenuItem*> AllMenuItems() const;  // in design order, sub-items after their item
 
+    // A caption that ends with a path, which loses its middle where the title bar has no room for
+    // all of it.
+    void SetCaptionWithPath(std::string_view words, std::string_view path);
+
     // Outer bounds are Control's; the inside is here, in twips.
     Size ClientSize() const { return peer_->ClientSize(); }
     void SetClientHeight(Twips height);

@@ -184,6 +184,9 @@ class FormPeer : public ControlPeer, public MenuPeer {
     virtual void EndModal() = 0;  // nothing for a form that is not modal
     virtual void SetWindowState(WindowState state) = 0;
     virtual WindowState CurrentWindowState() = 0;
+    // The caption is a path from this byte on, the middle of which is left out on the screen where
+    // the title bar has no room for it. What asks for the caption gets all of it.
+    virtual void ShortenCaptionFrom(std::size_t start) = 0;
     // Of the screen that the form is on. One that is not shown yet will be on that of the form
     // that the user works with.
     virtual Rect WorkArea() = 0;

@@ -125,4 +125,24 @@ std::string ShortenMiddle(std::string_view text, int width, const TextWidth& wid
     return WithoutMiddle(text, width, widthOf);
 }
 
+std::string ShortenPathBehind(std::string_view words, std::string_view path, int width,
+                              const TextWidth& widthOf) {
+    const auto behind = [&](std::string_view part) { return std::string(words).append(part); };
+    return behind(
+        ShortenMiddle(path, width, [&](std::string_view part) { return widthOf(behind(part)); }));
+}
+
+std::string ShortenLine(std::string_view line, int width, const TextWidth& widthOf) {
+    const std::string_view words = line.substr(0, line.find_last_not_of(' ') + 1);
+    if (widthOf(words) <= width)
+        return std::string(line);
+    if (words.find('\\') != std::string_view::npos)
+        return ShortenMiddle(words, width, widthOf);
+    const std::vector<std::size_t> cuts = Cuts(words);
+    const std::ptrdiff_t count = Largest(cuts.size() - 1, [&](std::size_t wanted) {
+        return widthOf(WithDots(words.substr(0, cuts[wanted]), {})) <= width;
+    });
+    return WithDots(words.substr(0, count < 0 ? 0 : cuts[static_cast<std::size_t>(count)]), {});
+}
+
 }  // namespace ordalyn::toolkit

@@ -17,4 +17,12 @@ using TextWidth = std::function<int(std::string_view)>;
 // the marks that stand on it. Where even the dots do not fit there are only the dots.
 std::string ShortenMiddle(std::string_view text, int width, const TextWidth& widthOf);
 
+// The same for a path behind words that stay whole.
+std::string ShortenPathBehind(std::string_view words, std::string_view path, int width,
+                              const TextWidth& widthOf);
+
+// For a line that says something: one with a path in it (a backslash tells) loses its middle, any
+// other one its end. Blanks at its end take no room.
+std::string ShortenLine(std::string_view line, int width, const TextWidth& widthOf);
+
 }  // namespace ordalyn::toolkit

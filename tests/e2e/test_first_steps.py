@@ -1,5 +1,7 @@
 """No log to be shown: the messages as ever, and then what to do about it, in the place of the panels."""
 
+import re
+
 import pytest
 
 from harness.controls import plain
@@ -126,6 +128,8 @@ def test_a_log_that_does_not_begin_before_the_next_operation_shows_itself(folder
     app.wait_for_rows(1)
     assert app.main.texts == []
     assert app.main.log_title == windows_path(log)
+    # The title bar is too narrow for the whole path.
+    assert re.fullmatch(r"Ordalyn \S+ RC 1 - Z:.*…\\log of the day\.log", app.main.text)
     wait_until(lambda: app.main.source.focused, "the focus", AT_LAST)
     app.main.choose("View", "Two Panels")
     assert app.main.target.row_count == 1

@@ -302,8 +302,9 @@ class MainWindow(Window):
 
     @property
     def log_title(self):
-        """What the caption says behind the program's name and version."""
-        return self.text.split(" RC 1 - ", 1)[1]
+        """What the caption says behind the program's name and version. (`text` is what fits into the
+        title bar.)"""
+        return self.ask("wholeText").split(" RC 1 - ", 1)[1]
 
     @property
     def status_bar(self):

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "toolkit/Controls.h"
+#include "win32/controls/CellTip.h"
 #include "win32/controls/Window.h"
 
 namespace ordalyn::win32 {
@@ -29,16 +30,28 @@ class StatusBarWindow : public Peer<toolkit::StatusBarPeer> {
     std::optional<LRESULT> OnNotify(NMHDR& header) override;
     void OnContainerResized() override;
 
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
   private:
     void ShowParts();
+    void ShowTexts();
     void ShowText(std::size_t index);
+    RECT PartAt(std::size_t index) const;
+    int RoomForText(std::size_t index) const;
+    std::optional<LRESULT> TextAsked(UINT message, WPARAM wParam, LPARAM lParam);
+    void ShowTip(UINT message, WPARAM wParam, LPARAM lParam);
     toolkit::Rect RealBounds() const;
     struct Panel {
-        std::wstring text;
+        std::string text;
         toolkit::Twips width = 0;
         toolkit::Bevel bevel = toolkit::Bevel::Inset;
+        std::wstring shown;  // as much of the text as fits
+        bool cut = false;
+        bool known = false;  // by the window
     };
     toolkit::StatusBar& bar_;
+    CellTip tip_;
     std::vector<Panel> panels_;
 };
 

@@ -43,17 +43,6 @@ void CopyForDisplay(std::string_view text, wchar_t* to, int capacity) {
 
 }  // namespace
 
-TextMeasure::TextMeasure(HWND window)
-    : dc_(window),
-      font_(dc_.Get(), reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0))) {}
-
-int TextMeasure::WidthOf(std::string_view text) const {
-    const std::wstring wide = WideForDisplay(text);
-    SIZE size = {};
-    GetTextExtentPoint32W(dc_.Get(), wide.c_str(), static_cast<int>(wide.size()), &size);
-    return size.cx;
-}
-
 int ListViewWindow::RoomForText(int column) const {
     return static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column))) -
            scale().Nominal(kBesideText);

@@ -6,22 +6,11 @@
 #include <vector>
 
 #include "toolkit/ListView.h"
-#include "win32/common/DeviceContext.h"
 #include "win32/controls/CellTip.h"
+#include "win32/controls/TextMeasure.h"
 #include "win32/controls/Window.h"
 
 namespace ordalyn::win32 {
-
-// How wide texts are in a window's font, in pixels.
-class TextMeasure {
-  public:
-    explicit TextMeasure(HWND window);
-    int WidthOf(std::string_view text) const;
-
-  private:
-    WindowDc dc_;
-    SelectedObject font_;
-};
 
 class ListViewWindow : public Peer<toolkit::ListViewPeer> {
   public:

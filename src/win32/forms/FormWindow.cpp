@@ -337,6 +337,8 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     // A form that is being closed raises nothing more: who subscribed may be gone.
     if (closing_)
         return Default(message, wParam, lParam);
+    if (const std::optional<LRESULT> caption = CaptionAsked(message, wParam, lParam))
+        return *caption;
     switch (message) {
         case kActivated:
             activationPosted_ = false;
@@ -358,7 +360,11 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETFOCUS:
             RestoreFocus();
             return 0;
+        case WM_SETTINGCHANGE:
+            FitCaption();
+            break;
         case WM_SIZE:
+            FitCaption();
             for (HWND child = GetWindow(handle(), GW_CHILD); child != nullptr;
                  child = GetWindow(child, GW_HWNDNEXT)) {
                 if (Window* const control = Of(child))

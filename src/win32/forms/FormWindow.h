@@ -2,6 +2,8 @@
 // bounds as they were set as long as the pixels are the same, and reports what the system changes.
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "toolkit/Form.h"
@@ -41,6 +43,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     // ControlPeer
     toolkit::Rect Place(const toolkit::Rect& wanted) override;
     void SetContainer(toolkit::ControlPeer&) override {}
+    void SetCaption(std::string_view caption) override;
     void SetVisible(bool visible) override;
     toolkit::Rect SetFont(const toolkit::Font& font) override;
     void SetBorder(toolkit::BorderStyle, toolkit::Appearance) override {}
@@ -59,6 +62,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void SetWindowState(toolkit::WindowState state) override;
     toolkit::WindowState CurrentWindowState() override;
     toolkit::Rect WorkArea() override;
+    void ShortenCaptionFrom(std::size_t start) override { pathInCaption_ = start; }
     std::uintptr_t Handle() override { return reinterpret_cast<std::uintptr_t>(handle()); }
     void SetDefaultButton(toolkit::ControlPeer* button) override;
     void ShowKeyboardCues() override { ShowKeyboardCues(UISF_HIDEFOCUS | UISF_HIDEACCEL); }
@@ -98,6 +102,9 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void PlaceWhenNormal(const RECT& window);
     void LimitSize(MINMAXINFO& limits) const;
     void ReportBounds();
+    int RoomForCaption() const;
+    void FitCaption();
+    std::optional<LRESULT> CaptionAsked(UINT message, WPARAM wParam, LPARAM lParam);
     void ActivationChanged(bool active, bool minimised);
     void RestoreFocus();
     void TakeDroppedFiles(DroppedFiles dropped);
@@ -115,6 +122,10 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     bool following_ = false;  // to another resolution
     bool rescaled_ = false;   // since the form was last told of its bounds
     Icon icons_[2];
+    std::string caption_;
+    std::size_t pathInCaption_ = std::string::npos;  // where one begins that can be shortened
+    std::wstring captionOnScreen_;
+    bool paintingFrame_ = false;
     bool closing_ = false;
     toolkit::WindowState stateWhenShown_ = toolkit::WindowState::Normal;
     HWND focus_ = nullptr;  // what had the focus, or is to get it

@@ -153,6 +153,7 @@ void FormWindow::ResolutionChanged(const Scale& now, const RECT& proposed) {
     ShowRescaledAll();
     if (alive.expired() || handle() == nullptr)
         return;
+    FitCaption();
     rescaled_ = true;
     ReportBounds();
     if (!alive.expired() && handle() != nullptr)

@@ -7,8 +7,8 @@ namespace ordalyn {
 
 void MainTitle::SetTitle(std::string_view text) {
     text_ = text;
-    mainWindow_.SetCaption(std::string(mAppCommon::kProgramTitle) + " " +
-                           GetVersionText(" RC 1 - ") + text_);
+    mainWindow_.SetCaptionWithPath(
+        std::string(mAppCommon::kProgramTitle) + " " + GetVersionText(" RC 1 - "), text_);
 }
 
 }  // namespace ordalyn

@@ -333,6 +333,7 @@ void AddWindowCommands(Commands& commands) {
     commands["activate"] = Activate;
     commands["takeFocus"] = TakeFocus;
     commands["setText"] = SetText;
+    commands["wholeText"] = [](const Json& request) { return TextOf(WindowOf(request)); };
     commands["place"] = Place;
     commands["changeResolution"] = ChangeResolution;
     commands["windowCommand"] = WindowCommand;

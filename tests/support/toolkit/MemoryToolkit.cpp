@@ -26,6 +26,7 @@ class MemoryForm : public Peer<FormPeer> {
         toolkit.forms.push_back(&form);
     }
     ~MemoryForm() override { Forget(); }
+    void ShortenCaptionFrom(std::size_t start) override { shown.pathInCaption = start; }
     Size ClientSize() override {
         return {std::max<Twips>(0, shown.bounds.width - 2 * kFrameSide),
                 std::max<Twips>(0, shown.bounds.height - Above() - kFrameSide)};

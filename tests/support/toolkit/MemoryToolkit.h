@@ -31,6 +31,7 @@ struct Shown {
     bool enabled = true;
     std::string caption;
     std::vector<std::string> captions;  // every one that was set
+    std::size_t pathInCaption = std::string::npos;
     toolkit::Font font;
     toolkit::Color foreground = 0, background = 0;
     toolkit::BorderStyle border = toolkit::BorderStyle::None;

@@ -112,5 +112,41 @@ TEST(ShortText, AVeryLongTextIsNotCutInsideACharacter) {
         100'000)));
 }
 
+std::string Behind(std::string_view words, std::string_view path, int characters) {
+    return ShortenPathBehind(words, path, characters * 10, Tens);
+}
+
+TEST(ShortText, WordsInFrontOfAPathCanBeKeptWhole) {
+    const std::string path = "C:\\Users\\Anna\\totalcmd.log";
+    EXPECT_EQ(Behind("Title - ", path, 34), "Title - " + path);
+    EXPECT_EQ(Behind("Title - ", path, 33), "Title - C:\\Users\\An…\\totalcmd.log");
+    EXPECT_EQ(Behind("Title - ", path, 22), "Title - …\\totalcmd.log");
+    EXPECT_EQ(Behind("Title - ", path, 18), "Title - tota…d.log");
+    // Where there is no room for anything else, they are cut by whoever shows them.
+    EXPECT_EQ(Behind("Title - ", path, 5), "Title - …");
+    EXPECT_EQ(Behind("Title - ", "", 8), "Title - ");
+}
+
+std::string Line(std::string_view line, int characters) {
+    return ShortenLine(line, characters * 10, Tens);
+}
+
+TEST(ShortText, ALineLosesItsEnd) {
+    EXPECT_EQ(Line("Friday, March 15, 2024  ", 22), "Friday, March 15, 2024  ");
+    EXPECT_EQ(Line("Friday, March 15, 2024  ", 21), "Friday, March 15, 20…");
+    EXPECT_EQ(Line("15/03/2024  ", 6), "15/03…");
+    EXPECT_EQ(Line("e\u0301e\u0301e\u0301", 3), "e\u0301…");
+    EXPECT_EQ(Line("abc", 1), "…");
+    EXPECT_EQ(Line("abc", 0), "…");
+    EXPECT_EQ(Line("", 0), "");
+    EXPECT_EQ(Line("  ", 0), "  ");
+}
+
+TEST(ShortText, ALineWithAPathLosesItsMiddle) {
+    EXPECT_EQ(Line("Filter: C:\\Users\\Anna\\Plan.odt  ", 31),
+              "Filter: C:\\Users\\Anna\\Plan.odt  ");
+    EXPECT_EQ(Line("Filter: C:\\Users\\Anna\\Plan.odt  ", 24), "Filter: C:\\Use…\\Plan.odt");
+}
+
 }  // namespace
 }  // namespace ordalyn::toolkit

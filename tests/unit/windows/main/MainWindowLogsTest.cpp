@@ -28,6 +28,8 @@ TEST_F(MainWindowLogs, RefreshShowsWhatWasAppended) {
     EXPECT_EQ(Source().Text(0, 1), "Delete z");
     // The entry has no file: the title names the folder alone.
     EXPECT_EQ(Main().Caption(), Title("C:\\logs\\"));
+    // Where there is too little room for it, the words in front stay.
+    EXPECT_EQ(tools.Of(Main()).pathInCaption, Title("").size());
 }
 
 TEST_F(MainWindowLogs, RefreshRebuildsTheListOfFiles) {
