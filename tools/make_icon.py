@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Draws packaging/ordalyn.ico: a log page with coloured lines and an arrow from source to target.
 
-The picture is a list of polygons for each class of sizes, on a field of 16, 20 or 24 units (small sizes,
-whose edges lie on pixels) or 32 units (large ones). Nothing but the standard library is needed.
+The picture is a list of polygons for each class of sizes, on a field of 16, 20, 24 or 32 units: their level and upright
+edges lie on pixels, also in twice that size. Nothing but the standard library is needed.
 """
+import math
 import struct
 import sys
 import zlib
@@ -66,50 +67,58 @@ def picture(outline, marks, texts, height, lines, halo, shape):
 
 
 SMALL = 16, picture((2, 0, 13, 16, 4, 1), (4, 6), 7, 1, ((3, GREEN, 8), (5, BLUE, 11), (7, ORANGE, 11)),
-                    (4, 11.5, 17, 2, 4.6, 5), (5, 11.5, 16, 1, 3.5, 4))
+                    (4, 11, 17, 2, 5.1, 5), (5, 11, 16, 1, 4, 4))
 # For 125 and 150 percent, where lines made for 16 units would fall between the pixels.
 MEDIUM = 20, picture((3, 1, 16, 19, 4, 1), (5, 7), 8, 1, ((4, GREEN, 11), (7, BLUE, 14), (10, ORANGE, 14)),
-                     (5, 14.5, 21, 2, 5.1, 6), (6, 14.5, 20, 1, 4, 5))
+                     (5, 14, 21, 2, 6.1, 6), (6, 14, 20, 1, 5, 5))
 LARGER = 24, picture((3, 1, 19, 23, 5, 1), (6, 8), 10, 1, ((5, GREEN, 12), (8, BLUE, 16), (11, ORANGE, 16)),
-                     (6, 17.5, 24.9, 2.6, 6.2, 7), (7, 17.5, 23.9, 1.5, 5, 6))
-LARGE = 32, picture((4, 1, 26, 31, 7, 1), (7, 10), 11.5, 1.8,
-                    ((6, GREEN, 16), (9.5, BLUE, 22), (13, ORANGE, 20), (16.5, RED, 22)),
-                    (8.6, 24, 31.9, 2.9, 7, 8.2), (9.6, 24, 30.6, 1.9, 5.5, 7))
+                     (6, 17.5, 25, 2.6, 6.2, 7), (7, 17.5, 24, 1.5, 5, 6))
+LARGE = 32, picture((4, 1, 26, 31, 7, 1), (7, 10), 12, 2,
+                    ((6, GREEN, 16), (10, BLUE, 22), (14, ORANGE, 20), (18, RED, 22)),
+                    (9, 24, 32.4, 3, 7.4, 9.4), (10, 24, 31, 2, 6, 7))
 
 
-def inside(corners, x, y):
-    hit = False
+SAMPLES = 4  # of a pixel, on each line of them
+
+
+def spans(corners, y):
+    """Where a line at that height is inside of a polygon: pairs of left and right."""
+    crossings = []
     before = corners[-1]
     for corner in corners:
         (ax, ay), (bx, by) = corner, before
-        if (ay > y) != (by > y) and x < (bx - ax) * (y - ay) / (by - ay) + ax:
-            hit = not hit
+        if (ay > y) != (by > y):
+            crossings.append((bx - ax) * (y - ay) / (by - ay) + ax)
         before = corner
-    return hit
+    crossings.sort()
+    return zip(crossings[::2], crossings[1::2])
+
+
+def line_of_samples(shapes, y, unit, count):
+    """The colours on a line, None outside of all shapes."""
+    line = [None] * count
+    for color, corners in shapes:
+        for left, right in spans(corners, y):
+            first, end = (min(count, max(0, math.ceil(at / unit - 0.5))) for at in (left, right))
+            line[first:end] = [color] * (end - first)
+    return line
 
 
 def draw(size):
     """Rows of (r, g, b, a)."""
-    field, shapes = {16: SMALL, 20: MEDIUM, 24: LARGER, 40: MEDIUM}.get(size, LARGE)
-    samples = 4
-    unit = field / size
+    field, shapes = {16: SMALL, 20: MEDIUM, 24: LARGER, 40: MEDIUM, 48: LARGER}.get(size, LARGE)
+    unit = field / size / SAMPLES
     rows = []
     for py in range(size):
+        lines = [line_of_samples(shapes, (py * SAMPLES + i + 0.5) * unit, unit, size * SAMPLES)
+                 for i in range(SAMPLES)]
         row = []
-        for px in range(size):
-            total = [0, 0, 0]
-            hits = 0
-            for i in range(samples * samples):
-                x = (px + (i % samples + 0.5) / samples) * unit
-                y = (py + (i // samples + 0.5) / samples) * unit
-                for color, corners in reversed(shapes):
-                    if inside(corners, x, y):
-                        total = [t + c for t, c in zip(total, color)]
-                        hits += 1
-                        break
+        for px in range(0, size * SAMPLES, SAMPLES):
+            samples = [color for line in lines for color in line[px:px + SAMPLES]]
+            hits = [color for color in samples if color is not None]
             if hits:
-                row.append((*(round(t / hits) for t in total),
-                            round(255 * hits / (samples * samples))))
+                row.append((*(round(sum(part) / len(hits)) for part in zip(*hits)),
+                            round(255 * len(hits) / len(samples))))
             else:
                 row.append((0, 0, 0, 0))
         rows.append(row)
@@ -142,16 +151,21 @@ def as_bitmap(rows):
     return header + colors + mask
 
 
-def main():
-    target = Path(sys.argv[1]) if len(sys.argv) > 1 else (
-        Path(__file__).resolve().parent.parent / "packaging" / "ordalyn.ico")
+def icon():
+    """The bytes of the file."""
     images = [(s, as_png(draw(s)) if s == 256 else as_bitmap(draw(s))) for s in SIZES]
     directory = struct.pack("<HHH", 0, 1, len(images))
     offset = len(directory) + 16 * len(images)
     for size, data in images:
         directory += struct.pack("<BBBBHHII", size % 256, size % 256, 0, 0, 1, 32, len(data), offset)
         offset += len(data)
-    target.write_bytes(directory + b"".join(data for _, data in images))
+    return directory + b"".join(data for _, data in images)
+
+
+def main():
+    target = Path(sys.argv[1]) if len(sys.argv) > 1 else (
+        Path(__file__).resolve().parent.parent / "packaging" / "ordalyn.ico")
+    target.write_bytes(icon())
 
 
 if __name__ == "__main__":

@@ -250,7 +250,8 @@ class SheetPhotographer(Photographer):
 
     def take_reading(self):
         """The progress window while it asks whether to stop, and the main window as it is else."""
-        logs = [f"01.03.2024 10:15:{second:02}: Delete: C:\\Users\\Anna\\Documents\\{second}.txt" for second in range(60)]
+        logs = [f"01.03.2024 10:15:{second:02}: Delete: C:\\Users\\Anna\\Documents\\{second}.txt"
+                for second in range(60)]
         self.folder.write("a long name of a folder/of a log that is far away/x.log", logs)
         for number in range(1, 151):
             self.folder.write(f"a long name of a folder/of a log that is far away/x.{number}.log", logs * 100)
@@ -317,8 +318,9 @@ def icons_enlarged(file):
         for size in (16, 20, 24, 32):
             part = pathlib.Path(folder) / f"{size}.png"
             part.write_bytes(make_icon.as_png(make_icon.draw(size)))
-            parts += ["(", str(part), "-filter", "point", "-resize", "240x240", "-extent", "252x252", ")"]
-        subprocess.run(["convert", "-background", "white", "-gravity", "center", *parts, "+append", "+repage", str(file)], check=True)
+            parts += ["(", str(part), "-filter", "point", "-resize", f"{240 // size}00%", "-extent", "252x252", ")"]
+        subprocess.run(["convert", "-background", "white", "-gravity", "center", *parts, "+append", "+repage",
+                        str(file)], check=True)
         print(file)
 
 
