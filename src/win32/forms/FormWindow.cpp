@@ -360,9 +360,6 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETFOCUS:
             RestoreFocus();
             return 0;
-        case WM_SETTINGCHANGE:
-            FitCaption();
-            break;
         case WM_SIZE:
             FitCaption();
             for (HWND child = GetWindow(handle(), GW_CHILD); child != nullptr;

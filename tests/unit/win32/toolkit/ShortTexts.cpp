@@ -25,6 +25,16 @@ LRESULT CALLBACK Count(HWND window, UINT message, WPARAM wParam, LPARAM lParam, 
     return DefSubclassProc(window, message, wParam, lParam);
 }
 
+// What a window says of its caption.
+std::vector<std::string> captionsGiven;
+LRESULT CALLBACK Listen(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                        DWORD_PTR) {
+    const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+    if (message == WM_GETTEXT)
+        captionsGiven.push_back(win32::FromWide(reinterpret_cast<const wchar_t*>(lParam)));
+    return answer;
+}
+
 class ShortTexts : public ::testing::Test {
   protected:
     ShortTexts() {
@@ -105,6 +115,23 @@ TEST_F(ShortTexts, TheCaptionIsPaintedAnewOnlyWhenItIsAnother) {
     RemoveWindowSubclass(Window(), Count, 1);
 }
 
+// Windows knows the text that it paints, Wine asks for it.
+TEST_F(ShortTexts, TheFrameIsPaintedWithTheCaptionThatFits) {
+    form.SetCaptionWithPath(kWords, kPath);
+    BeWide(500);
+    captionsGiven.clear();
+    SetWindowSubclass(Window(), Listen, 1, 0);
+    RedrawWindow(Window(), nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    SendMessageW(Window(), WM_NCACTIVATE, FALSE, 0);
+    SendMessageW(Window(), WM_NCACTIVATE, TRUE, 0);
+    for (const std::string& given : captionsGiven)
+        EXPECT_EQ(given, Title());
+    captionsGiven.clear();
+    EXPECT_EQ(Told(), whole);
+    EXPECT_EQ(captionsGiven, std::vector<std::string>{whole});
+    RemoveWindowSubclass(Window(), Listen, 1);
+}
+
 TEST_F(ShortTexts, TheCaptionFollowsTheResolution) {
     form.SetCaptionWithPath(kWords, kPath);
     BeWide(900);
@@ -114,7 +141,6 @@ TEST_F(ShortTexts, TheCaptionFollowsTheResolution) {
     // As wide as before, in letters that are twice as large.
     SendMessageW(Window(), win32::kResolutionChanged, MAKEWPARAM(192, 192),
                  reinterpret_cast<LPARAM>(&place));
-    BeWide(900);
     EXPECT_LT(Title().size(), whole.size());
     EXPECT_EQ(Told(), whole);
 }
@@ -231,6 +257,22 @@ TEST_F(StatusTexts, ArePaintedAnewOnlyWhenTheyAreOthers) {
     bar.SetPanelBevel(1, Bevel::None);
     EXPECT_EQ(textsSet, 2);
     RemoveWindowSubclass(Bar(), Count, 1);
+}
+
+TEST_F(StatusTexts, EndInFrontOfTheCornerThatIsDragged) {
+    RECT part = {};
+    SendMessageW(Bar(), SB_GETRECT, 2, reinterpret_cast<LPARAM>(&part));
+    RECT inside = {};
+    GetClientRect(Bar(), &inside);
+    const LONG right = std::min(part.right, inside.right - GetSystemMetrics(SM_CXVSCROLL));
+    std::string text = "i";
+    for (bar.SetPanelText(3, text); Shown(2) == text && text.size() < 500;
+         bar.SetPanelText(3, text))
+        text += "i";
+    text.pop_back();
+    const int width = win32::TextMeasure(Bar()).WidthOf(text);
+    EXPECT_LE(width, right - part.left);
+    EXPECT_GT(width, right - part.left - 16);
 }
 
 TEST_F(StatusTexts, AreMeasuredInTheFontOfTheBar) {
