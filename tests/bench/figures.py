@@ -124,6 +124,9 @@ def measure(folder):
             # It ends with 1 when a target was missed: the table says so.
             subprocess.run([PROGRAMS / program, log], stdout=subprocess.DEVNULL,
                            env={**os.environ, "ORDALYN_FIGURES": str(collected)})
+    # It writes logs of its own.
+    subprocess.run([PROGRAMS / "bench_scripts"], cwd=folder, stdout=subprocess.DEVNULL,
+                   env={**os.environ, "ORDALYN_FIGURES": str(collected)})
     return read(collected)
 
 
