@@ -15,7 +15,7 @@ using namespace toolkit;
 namespace {
 
 // Between a part's edges and its text, on both sides together.
-constexpr int kBesideText = 8;
+constexpr int kBesidePart = 8;
 
 }  // namespace
 
@@ -146,7 +146,7 @@ int StatusBarWindow::RoomForText(std::size_t index) const {
     if ((GetWindowLongPtrW(handle(), GWL_STYLE) & SBARS_SIZEGRIP) != 0 && !IsZoomed(form))
         inside.right -= MetricAt(SM_CXVSCROLL, scale().DpiX());
     const RECT part = PartAt(index);
-    return std::min(part.right, inside.right) - part.left - scale().Nominal(kBesideText);
+    return std::min(part.right, inside.right) - part.left - scale().Nominal(kBesidePart);
 }
 
 // Whoever asks gets the whole text.
