@@ -9,7 +9,7 @@
 
 #include "bench/Measuring.h"
 #include "bench/NativeFiles.h"
-#include "log/LogReader.h"
+#include "bench/ReadLog.h"
 #include "search/EntryFilter.h"
 #include "search/FieldScan.h"
 
@@ -22,10 +22,7 @@ constexpr int kRounds = 9;
 struct Log {
     explicit Log(const std::string& path) {
         NativeFiles files;
-        NoCodePages codePages;
-        LogReader reader(files, codePages, entries);
-        reader.BeginFile(path);
-        reader.ReadEntries();
+        ReadLog(files, entries, path);
         const std::int32_t last = entries.EntrySources().ListCount();
         for (std::int32_t entry = 0; entry <= last; ++entry)
             bytes.append(entries.EntrySources().List(entry))

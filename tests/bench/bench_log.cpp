@@ -13,11 +13,11 @@
 #include "bench/Measuring.h"
 #include "bench/MemoryMeter.h"
 #include "bench/NativeFiles.h"
+#include "bench/ReadLog.h"
 #include "log/CalendarDays.h"
 #include "log/DayIndex.h"
 #include "log/DayRows.h"
 #include "log/LineReader.h"
-#include "log/LogReader.h"
 #include "log/Operation.h"
 #include "support/toolkit/MemoryToolkit.h"
 #include "toolkit/ListView.h"
@@ -66,14 +66,6 @@ struct Rounds {
     std::size_t days = 0;
 };
 
-void ReadFile(platform::Files& files, EntryLists& entries, const std::string& path) {
-    NoCodePages codePages;
-    LogReader reader(files, codePages, entries);
-    reader.BeginFile(path);
-    reader.ReadEntries();
-    entries.FreeExtraItems();
-}
-
 // What the calendar counts: entries from the days alone, then a look at each of them.
 void MeasureCalendar(const EntryLists& entries, const DayIndex& days, Rounds& best) {
     const OperationReader reader({{OperationKind::Copy, "Copy"},
@@ -111,7 +103,7 @@ void MeasureRound(const std::string& path, Rounds& best) {
     {
         const std::size_t before = MemoryHeld();
         EntryLists entries;
-        best.read.Keep(Milliseconds([&] { ReadFile(files, entries, path); }));
+        best.read.Keep(Milliseconds([&] { ReadLog(files, entries, path); }));
         best.memory = static_cast<double>(MemoryHeld() - before);
         DayIndex days;
         best.index.Keep(Milliseconds([&] { best.days = days.Build(entries.EntryDates()).size(); }));
@@ -124,7 +116,7 @@ void MeasureRound(const std::string& path, Rounds& best) {
         Milliseconds([&] { TouchNewMemory(static_cast<std::size_t>(best.memory)); }));
     ReturnFreeMemory();
     EntryLists entries;
-    best.readIntoNewMemory.Keep(Milliseconds([&] { ReadFile(files, entries, path); }));
+    best.readIntoNewMemory.Keep(Milliseconds([&] { ReadLog(files, entries, path); }));
 }
 
 int Measure(const std::string& path) {

@@ -14,7 +14,7 @@
 #include "bench/Measuring.h"
 #include "bench/MemoryMeter.h"
 #include "bench/NativeFiles.h"
-#include "log/LogReader.h"
+#include "bench/ReadLog.h"
 #include "search/EntryFilter.h"
 
 namespace ordalyn::bench {
@@ -24,14 +24,6 @@ constexpr int kLines = 1'000'000;
 constexpr int kRounds = 9;
 constexpr double kReading = 2.2;
 constexpr double kFilter = 2;
-
-void ReadFile(platform::Files& files, EntryLists& entries, const std::string& path) {
-    NoCodePages codePages;
-    LogReader reader(files, codePages, entries);
-    reader.BeginFile(path);
-    reader.ReadEntries();
-    entries.FreeExtraItems();
-}
 
 // Sources and targets side by side.
 std::string TextsOf(const EntryLists& entries) {
@@ -71,14 +63,14 @@ void Measure(const Case& one, const std::string& path, Figures& figures) {
     for (int round = 0; round < kRounds; ++round) {
         floor.Keep(Milliseconds([&] { FindLines(files, path, lines); }));
         EntryLists entries;
-        read.Keep(Milliseconds([&] { ReadFile(files, entries, path); }));
+        read.Keep(Milliseconds([&] { ReadLog(files, entries, path); }));
     }
     figures.Add({.what = one.reading,
                  .value = read.Value(),
                  .floor = floor.Value(),
                  .mostTimes = kReading});
     EntryLists entries;
-    ReadFile(files, entries, path);
+    ReadLog(files, entries, path);
     const std::string bytes = TextsOf(entries);
     std::vector<std::int32_t> tags(static_cast<std::size_t>(entries.EntrySources().ListCount()) +
                                    1);
