@@ -17,17 +17,29 @@ BUTTONS = {"left": 0, "right": 1, "middle": 2}
 
 
 class App:
-    def __init__(self, wine, run_folder):
+    def __init__(self, wine, run_folder, launcher):
+        """`launcher` is the process that starts the program and waits for its end."""
         self.wine = wine
         self._folder = run_folder
+        self._launcher = launcher
         try:
-            wait_until(lambda: self._port_file.exists() or "failed" in self._status,
+            wait_until(lambda: self._port_file.exists() or self._launcher_has_ended,
                        "the program to start", timeout=60)
         except Timeout as late:
             raise Timeout(f"{late}; there is\n{wine.processes()}") from late
-        if "failed" in self._status:
-            raise RuntimeError(f"the program did not start: {self._status['failed']}")
+        if not self._port_file.exists():
+            raise RuntimeError(f"the program did not start: {self._status}, what starts it ended with "
+                               f"{launcher.returncode}\n{self.output}")
         self.agent = Agent(int(self._port_file.read_text()))
+
+    @property
+    def _launcher_has_ended(self):
+        return self._launcher.poll() is not None
+
+    @property
+    def output(self):
+        """What Wine had to say so far."""
+        return (self._folder / "output").read_text(errors="replace")
 
     @property
     def _port_file(self):

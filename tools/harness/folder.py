@@ -110,8 +110,9 @@ class Folder:
         ]
         launch = run / "launch"
         launch.write_text("\n".join(lines) + "\n", encoding="utf-8")
-        self.wine.start_on_desktop([tools / "ordalyn_e2e_launch.exe", windows_path(launch)], locale)
-        app = App(self.wine, run)
+        launcher = self.wine.start_on_desktop(
+            [tools / "ordalyn_e2e_launch.exe", windows_path(launch)], locale, run / "output")
+        app = App(self.wine, run, launcher)
         self._runs.append(app)
         return app
 

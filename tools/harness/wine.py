@@ -115,18 +115,22 @@ class Wine:
         self._start(["explorer", self._desktop_option], locale)
         wait_until(self._desktop_is_shown, "the Wine desktop", timeout=60)
 
-    def start_on_desktop(self, arguments, locale=None):
+    def start_on_desktop(self, arguments, locale=None, output=None):
+        """The started process. What Wine has to say about it goes into the file `output`."""
         self.show_desktop(locale)
-        return self._start(list(map(str, arguments)), locale)
+        return self._start(list(map(str, arguments)), locale, output)
 
     @property
     def _desktop_option(self):
         return f"/desktop=ordalyn,{self.display.WIDTH}x{self.display.HEIGHT}"
 
-    def _start(self, arguments, locale):
-        return subprocess.Popen(["wine", *arguments], env=self.environment(locale),
-                                stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                stderr=subprocess.DEVNULL)
+    def _start(self, arguments, locale, output=None):
+        environment = self.environment(locale)
+        if output:
+            environment["WINEDEBUG"] = os.environ.get("WINEDEBUG", "fixme-all")
+        with open(output or os.devnull, "wb") as file:
+            return subprocess.Popen(["wine", *arguments], env=environment, stdin=subprocess.DEVNULL,
+                                    stdout=file, stderr=file)
 
     def _desktop_is_shown(self):
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "Wine desktop"],

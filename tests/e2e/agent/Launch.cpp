@@ -9,6 +9,8 @@
 //   status=PATH        where its process number and, in the end, its exit code are written
 //   set=NAME=VALUE     an environment variable (any number of these)
 //   unset=NAME         one that is to be absent (any number of these)
+// It ends with 0 after the program, with 1 when that could not be started (the status tells why), with
+// 2 when FILE could not be read.
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif
@@ -113,6 +115,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR commandLine, int) {
     path.erase(0, path.find_first_not_of(L"\" "));
     auto instructions = ReadInstructions(path.c_str());
     const std::wstring status = instructions["status"];
+    if (status.empty())
+        return 2;
     std::wstring line = L'"' + instructions["program"] + L'"';
     if (!instructions["arguments"].empty())
         line += L' ' + instructions["arguments"];
