@@ -1,6 +1,7 @@
 #include "win32/controls/Window.h"
 
 #include <string>
+#include <unordered_map>
 
 #include "base/Errors.h"
 #include "win32/common/WideText.h"
@@ -11,12 +12,23 @@ using namespace toolkit;
 
 namespace {
 
-constexpr UINT_PTR kPeerSubclass = 1;
-constexpr const wchar_t* kObject = L"OrdalynWindow";  // the property that names a window's object
 constexpr int kFirstControlId = 100;  // above those that the system gives a meaning to
 
 Window& WindowOf(ControlPeer& container) {
     return dynamic_cast<Window&>(container);
+}
+
+// The objects of all windows, and what the windows' own classes do with messages. Kept here and not
+// as properties of the windows, which would have to be asked for with every message. Only the
+// thread that owns the windows looks at it.
+struct Known {
+    Window* object;  // null when only the window's end is still to come
+    WNDPROC classProcedure;
+};
+
+std::unordered_map<HWND, Known>& KnownWindows() {
+    static std::unordered_map<HWND, Known> known;
+    return known;
 }
 
 // Each child window has an id of its own, for programs that operate this one from outside.
@@ -41,8 +53,10 @@ Window::Window(Desktop& desktop, Control& control, const Look& look, ControlPeer
     if (handle_ == nullptr)
         throw Error("Cannot create the window of " + control.Name() + " (error " +
                     std::to_string(GetLastError()) + ")");
-    SetWindowSubclass(handle_, Procedure, kPeerSubclass, reinterpret_cast<DWORD_PTR>(this));
-    SetPropW(handle_, kObject, this);
+    // Before the window hears of its new procedure, which looks for it.
+    classProcedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle_, GWLP_WNDPROC));
+    KnownWindows()[handle_] = {this, classProcedure_};
+    SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
 }
 
 // The control may be half destroyed: it is not notified of the end of its window.
@@ -53,13 +67,14 @@ Window::~Window() {
     handle_ = nullptr;
     if (label_ != nullptr)
         DestroyWindow(label_);
-    RemovePropW(window, kObject);
-    RemoveWindowSubclass(window, Procedure, kPeerSubclass);
+    if (const auto known = KnownWindows().find(window); known != KnownWindows().end())
+        known->second.object = nullptr;
     DestroyWindow(window);
 }
 
 Window* Window::Of(HWND handle) {
-    return handle == nullptr ? nullptr : static_cast<Window*>(GetPropW(handle, kObject));
+    const auto known = KnownWindows().find(handle);
+    return known == KnownWindows().end() ? nullptr : known->second.object;
 }
 
 Window* Window::Containing(HWND handle) {
@@ -96,22 +111,25 @@ bool Window::HasFocus() const {
     return handle_ != nullptr && focus != nullptr && (focus == handle_ || IsChild(handle_, focus));
 }
 
-LRESULT CALLBACK Window::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                   UINT_PTR, DWORD_PTR object) {
-    auto* const self = reinterpret_cast<Window*>(object);
+LRESULT CALLBACK Window::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto found = KnownWindows().find(window);
+    if (found == KnownWindows().end())
+        return DefWindowProcW(window, message, wParam, lParam);
+    const Known known = found->second;
     if (message == WM_NCDESTROY) {
-        self->handle_ = nullptr;
-        RemovePropW(window, kObject);
-        RemoveWindowSubclass(window, Procedure, kPeerSubclass);
-        return DefSubclassProc(window, message, wParam, lParam);
+        KnownWindows().erase(found);
+        if (known.object != nullptr)
+            known.object->handle_ = nullptr;
+    } else if (known.object != nullptr) {
+        return known.object->desktop_.lastHandler.Run<LRESULT>(
+            0, [&] { return known.object->OnMessage(message, wParam, lParam); });
     }
-    Desktop& desktop = self->desktop_;
-    return desktop.lastHandler.Run<LRESULT>(
-        0, [&] { return self->OnMessage(message, wParam, lParam); });
+    return CallWindowProcW(known.classProcedure, window, message, wParam, lParam);
 }
 
 LRESULT Window::Default(UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefSubclassProc(handle_, message, wParam, lParam);
+    return handle_ == nullptr ? 0
+                              : CallWindowProcW(classProcedure_, handle_, message, wParam, lParam);
 }
 
 LRESULT Window::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -218,99 +236,6 @@ void Window::EraseBackground(HDC dc) {
     RECT area = {};
     GetClientRect(handle_, &area);
     FillRect(dc, &area, BackBrush());
-}
-
-// Mouse.
-
-Modifiers CurrentModifiers() {
-    const auto down = [](int key) { return GetKeyState(key) < 0; };
-    return {down(VK_SHIFT), down(VK_CONTROL), down(VK_MENU)};
-}
-
-namespace {
-
-POINT PointOf(LPARAM lParam) {
-    return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-}
-
-bool IsDown(int button) {
-    int key = VK_MBUTTON;
-    if (button == kLeftButton)
-        key = VK_LBUTTON;
-    else if (button == kRightButton)
-        key = VK_RBUTTON;
-    return GetKeyState(key) < 0;
-}
-
-}  // namespace
-
-LRESULT Window::MousePressed(int button, UINT message, WPARAM wParam, LPARAM lParam) {
-    const std::weak_ptr<const void> alive = Lifetime();
-    const POINT at = PointOf(lParam);
-    pressed_ |= button;
-    if (handlesMouse_ && GetCapture() != handle_)
-        SetCapture(handle_);
-    control_.MouseDown.Raise(button, CurrentModifiers(), scale().TwipsX(at.x),
-                             scale().TwipsY(at.y));
-    if (alive.expired() || handle_ == nullptr)
-        return 0;
-    if (handlesMouse_)
-        return 0;
-    const LRESULT answer = Default(message, wParam, lParam);
-    // List views, for one, wait for the release inside this message, and no message reports it.
-    if (!alive.expired() && handle_ != nullptr && (pressed_ & button) != 0 && !IsDown(button)) {
-        POINT now = {GET_X_LPARAM(GetMessagePos()), GET_Y_LPARAM(GetMessagePos())};
-        ScreenToClient(handle_, &now);
-        RaiseRelease(button, now);
-    }
-    return answer;
-}
-
-LRESULT Window::MouseReleased(int button, UINT message, WPARAM wParam, LPARAM lParam) {
-    const std::weak_ptr<const void> alive = Lifetime();
-    const LRESULT answer = handlesMouse_ ? 0 : Default(message, wParam, lParam);
-    if (alive.expired() || handle_ == nullptr || (pressed_ & button) == 0)
-        return answer;
-    const POINT at = PointOf(lParam);
-    RECT inside = {};
-    GetClientRect(handle_, &inside);
-    const bool click = handlesMouse_ && button == kLeftButton && PtInRect(&inside, at);
-    RaiseRelease(button, at);
-    if (click && !alive.expired())
-        control_.UserClicked();
-    return answer;
-}
-
-void Window::RaiseRelease(int button, POINT at) {
-    pressed_ &= ~button;
-    if (handlesMouse_ && pressed_ == 0 && GetCapture() == handle_)
-        ReleaseCapture();
-    control_.MouseUp.Raise(button, CurrentModifiers(), scale().TwipsX(at.x), scale().TwipsY(at.y));
-}
-
-LRESULT Window::MouseMoved(UINT message, WPARAM wParam, LPARAM lParam) {
-    const std::weak_ptr<const void> alive = Lifetime();
-    const LRESULT answer = Default(message, wParam, lParam);
-    if (alive.expired() || handle_ == nullptr)
-        return answer;
-    const int buttons = ((wParam & MK_LBUTTON) != 0 ? kLeftButton : 0) |
-                        ((wParam & MK_RBUTTON) != 0 ? kRightButton : 0) |
-                        ((wParam & MK_MBUTTON) != 0 ? kMiddleButton : 0);
-    const POINT at = PointOf(lParam);
-    control_.MouseMove.Raise(buttons, CurrentModifiers(), scale().TwipsX(at.x),
-                             scale().TwipsY(at.y));
-    return answer;
-}
-
-bool Window::ChoosePointer(LPARAM lParam) const {
-    if (desktop_.CommonPointer() != Pointer::Default) {
-        SetCursor(CursorFor(desktop_.CommonPointer()));
-        return true;
-    }
-    if (LOWORD(lParam) != HTCLIENT || control_.MousePointer() == Pointer::Default)
-        return false;
-    SetCursor(CursorFor(control_.MousePointer()));
-    return true;
 }
 
 // What the peers of all kinds do. Nothing happens once the system has taken the window away; some

@@ -105,8 +105,7 @@ class Window {
     void FocusComesByNotification() { focusByNotification_ = true; }
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                      UINT_PTR id, DWORD_PTR object);
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT MousePressed(int button, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT MouseReleased(int button, UINT message, WPARAM wParam, LPARAM lParam);
@@ -119,7 +118,8 @@ class Window {
     toolkit::Control& control_;
     std::shared_ptr<Scale> scale_;
     HWND handle_ = nullptr;
-    HWND label_ = nullptr;  // says what the control is called; see ShowAccessibleName
+    WNDPROC classProcedure_ = nullptr;  // of the window's own class
+    HWND label_ = nullptr;              // says what the control is called; see ShowAccessibleName
     std::shared_ptr<const int> lifetime_ = std::make_shared<const int>(0);
     toolkit::Rect wanted_;
     std::shared_ptr<FontHandle> font_;

@@ -55,6 +55,49 @@ TEST(FormWindow, ATextOfAMenuBringsNoKeysAndNoLineAlong) {
     EXPECT_EQ(GetMenuState(file, 1, MF_BYPOSITION) & MF_SEPARATOR, 0U);
 }
 
+TEST(FormWindow, ManyChangesOfItsMenusAreWorkedOffAtOnce) {
+    constexpr UINT kMenusChanged = WM_APP + 2;
+    Form form(TheToolkit(), kDesign);
+    form.Show();
+    TheToolkit().DoEvents();
+    const HWND window = HandleOf(form);
+    const auto workOff = [window] {
+        int count = 0;
+        for (MSG message; PeekMessageW(&message, window, kMenusChanged, kMenusChanged, PM_REMOVE);
+             ++count)
+            DispatchMessageW(&message);
+        return count;
+    };
+    for (const bool visible : {false, true, false}) {
+        form.Menu("mnuOpen").SetVisible(visible);
+        form.Menu("mnuRecent").SetVisible(!visible);
+        EXPECT_EQ(workOff(), 1);
+        EXPECT_EQ(MenuText(GetSubMenu(GetMenu(window), 0), 0),
+                  visible ? L"&Open...\tCtrl+O" : L"&Recent");
+    }
+}
+
+TEST(FormWindow, ItsWindowsAreKnownForAsLongAsTheyAreThere) {
+    HWND window = nullptr;
+    HWND button = nullptr;
+    {
+        const Form form(TheToolkit(), kDesign);
+        window = HandleOf(form);
+        button = Child(form, L"Button");
+        const HWND box = Child(form, L"Edit");
+        EXPECT_EQ(win32::Window::Of(window), &dynamic_cast<win32::Window&>(form.peer()));
+        ASSERT_NE(win32::Window::Of(button), nullptr);
+        EXPECT_EQ(win32::Window::Of(button)->handle(), button);
+        EXPECT_EQ(win32::Window::Of(GetDesktopWindow()), nullptr);
+        const win32::Window* const taken = win32::Window::Of(box);
+        DestroyWindow(box);
+        EXPECT_EQ(win32::Window::Of(box), nullptr);
+        EXPECT_EQ(taken->handle(), nullptr);
+    }
+    EXPECT_EQ(win32::Window::Of(window), nullptr);
+    EXPECT_EQ(win32::Window::Of(button), nullptr);
+}
+
 TEST(FormWindow, OnlyADialogOfAFixedSizeHasNoIcon) {
     const auto icon = [](const FormDesign& design) {
         const Form form(TheToolkit(), design);
