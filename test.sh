@@ -110,6 +110,7 @@ build_ahead() {
             wine | e2e) build_tests mingw-x64 ;;
             clang) build_tests mingw-x64-clang ;;
             x86) build_tests mingw-x86 ;;
+            release) /usr/bin/python3 -B tests/release/build_elsewhere.py build/elsewhere ;;
             fuzz) build_fuzzers ;;
         esac || echo "what $kind needs cannot be built ahead"
     done
@@ -239,6 +240,8 @@ done
 # What the 32-bit programs run in takes minutes to be made, once. Whatever goes wrong with it is said
 # when it is needed.
 case " $* " in *" x86 "*) tools/x86_wine.sh true >/dev/null 2>&1 & ;; esac
+# The second build of the release begins with nothing.
+case " $* " in *" release "*) rm -rf build/elsewhere ;; esac
 # In a process group of its own, so that it ends with this script wherever it is then.
 set -m
 (
