@@ -114,8 +114,9 @@ void FormWindow::SystemColorsChanged(UINT message, WPARAM wParam, LPARAM lParam)
 
 void FormWindow::RebuildMenus() {
     menus_.Rebuild();
-    // For message loops that are not the toolkit's own (message boxes, menus).
-    if (handle() != nullptr)
+    // For message loops that are not the toolkit's own (message boxes, menus). Texts and states
+    // change many at a time.
+    if (handle() != nullptr && !std::exchange(menusPosted_, true))
         PostMessageW(handle(), kMenusChanged, 0, 0);
 }
 
@@ -346,6 +347,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 form_.SystemActivated(wParam != FALSE);
             return 0;
         case kMenusChanged:
+            menusPosted_ = false;
             FlushMenus();
             return 0;
         case WM_COMMAND:

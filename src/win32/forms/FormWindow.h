@@ -130,6 +130,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     toolkit::WindowState stateWhenShown_ = toolkit::WindowState::Normal;
     HWND focus_ = nullptr;  // what had the focus, or is to get it
     bool activationPosted_ = false;
+    bool menusPosted_ = false;
     bool pressedFromOutside_ = false;  // on a control, while another window was the active one
     bool helpWanted_ = false;
     CommandButtonWindow* defaultButton_ = nullptr;
