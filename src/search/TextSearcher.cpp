@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 
 #include "base/Text.h"
@@ -193,7 +194,23 @@ bool TextSearcher::PrepareCharacters(bool pairOnly) {
         BytePair(anchor->near.choice, anchor->far.choice, anchor->far.place - anchor->near.place);
     anchorCharacter_ = anchor->near.character;
     anchorOffset_ = anchor->near.offset;
+    for (const char32_t c : needle_) {
+        const std::vector<char32_t> variants = CaseVariants(c);
+        auto& forms = forms_.emplace_back();
+        for (std::size_t i = 0; i < kForms; ++i)
+            forms[i] = Encode(variants[i < variants.size() ? i : 0]);
+    }
     return true;
+}
+
+TextSearcher::Encoded TextSearcher::Encode(char32_t character) {
+    std::string text;
+    AppendUtf8(text, character);
+    Encoded encoded;
+    encoded.length = text.size();
+    std::memcpy(&encoded.bytes, text.data(), text.size());
+    std::memset(&encoded.mask, 0xFF, text.size());
+    return encoded;
 }
 
 std::optional<TextSearcher::Place> TextSearcher::FindIn(std::string_view text,
@@ -259,10 +276,28 @@ std::optional<TextSearcher::Place> TextSearcher::FindByCharacters(std::string_vi
     return place;
 }
 
+// How many bytes of a text from this one on are the needle's character in one of its usual
+// forms; 0 for what only decoding can tell.
+std::size_t TextSearcher::LengthAt(std::string_view text, std::size_t at,
+                                   std::size_t character) const {
+    std::uint32_t bytes = 0;
+    if (forms_.empty() || text.size() < sizeof bytes || at > text.size() - sizeof bytes)
+        return 0;
+    std::memcpy(&bytes, text.data() + at, sizeof bytes);
+    for (const Encoded& form : forms_[character])
+        if ((bytes & form.mask) == form.bytes)
+            return form.length;
+    return 0;
+}
+
 // Where the needle's characters from this one on end if they begin here.
 std::optional<std::size_t> TextSearcher::EndFrom(std::string_view text, std::size_t at,
                                                  std::size_t character) const {
     for (; character < needle_.size(); ++character) {
+        if (const std::size_t length = LengthAt(text, at, character); length != 0) {
+            at += length;
+            continue;
+        }
         if (at >= text.size())
             return std::nullopt;
         const FoldedCharacter c = FoldedAt(text, at);
@@ -280,7 +315,9 @@ std::optional<std::size_t> TextSearcher::StartBefore(std::string_view text, std:
         if (end == 0)
             return std::nullopt;
         const std::size_t start = PreviousCharacter(text, end);
-        if (FoldedAt(text, start).value != needle_[--characters])
+        --characters;
+        if (LengthAt(text, start, characters) != end - start &&
+            FoldedAt(text, start).value != needle_[characters])
             return std::nullopt;
         end = start;
     }

@@ -6,7 +6,9 @@
 // is a "k".
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -62,6 +64,15 @@ class TextSearcher {
         Walking              // every place of the text is compared
     };
 
+    // The bytes of a character, to be compared at once: those of the text under the mask.
+    struct Encoded {
+        std::uint32_t bytes = 0;
+        std::uint32_t mask = 0;
+        std::size_t length = 0;
+    };
+    static constexpr std::size_t kForms = 3;  // both cases; the sigma has two small letters
+    static Encoded Encode(char32_t character);
+
     void PrepareAscii();
     bool PrepareCharacters(bool pairOnly);
     std::optional<Place> FindAsAscii(std::string_view text, std::size_t from) const;
@@ -69,6 +80,7 @@ class TextSearcher {
     bool FoundByWalking(std::string_view text) const;
     static bool MayHoldStranger(std::string_view text);
     bool FitsAsAscii(const char* start) const;
+    std::size_t LengthAt(std::string_view text, std::size_t at, std::size_t character) const;
     std::optional<std::size_t> EndFrom(std::string_view text, std::size_t at,
                                        std::size_t character) const;
     std::optional<std::size_t> StartBefore(std::string_view text, std::size_t end,
@@ -76,6 +88,8 @@ class TextSearcher {
 
     std::vector<char32_t> needle_;  // folded; an invalid byte is a character beyond Unicode
     std::string ascii_;             // the same, for an ASCII needle
+    // For the way of characters: each of them in the forms that texts nearly always have.
+    std::vector<std::array<Encoded, kForms>> forms_;
     Way way_ = Way::Always;
     BytePair anchor_;
     // Where the anchor's first byte stands: in the whole needle (ASCII), or in this character.
