@@ -1,6 +1,7 @@
 #include "win32/forms/FormMenus.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "win32/common/Handles.h"
 #include "win32/common/WideText.h"
@@ -99,9 +100,16 @@ void FormMenus::Fill(HMENU menu, const MenuItem& parent, Places& places) const {
 }
 
 void FormMenus::Flush(HWND window) {
-    if (!changed_ || window == nullptr)
+    if (window == nullptr)
         return;
-    changed_ = false;
+    if (std::exchange(changed_, false))
+        Replace(window);
+    // To draw it is to lay out the whole frame of the window.
+    if (std::exchange(barChanged_, false))
+        DrawMenuBar(window);
+}
+
+void FormMenus::Replace(HWND window) {
     Places places;
     Menu newBar(CreateMenu());
     const HMENU bar = newBar.Get();
@@ -115,6 +123,7 @@ void FormMenus::Flush(HWND window) {
         // A bar belongs to the window that it is set for, and goes with it.
         const bool any = GetMenuItemCount(bar) > 0;
         SetMenu(window, any ? newBar.Release() : nullptr);
+        barChanged_ = false;
         const Menu replaced(before);
         return;
     }
@@ -158,7 +167,7 @@ void FormMenus::Update(HWND window, MenuItem& item) {
     info.dwTypeData = text.data();
     SetMenuItemInfoW(found->second.menu, id, FALSE, &info);
     if (item.Parent() == nullptr)
-        DrawMenuBar(window);
+        barChanged_ = true;
 }
 
 MenuItem* FormMenus::Find(int id) const {

@@ -21,6 +21,7 @@ class FormMenus {
 
     void Rebuild() { changed_ = true; }
     void Flush(HWND window);
+    // What an item says is changed at once; a bar that it stands in is drawn by Flush.
     void Update(HWND window, toolkit::MenuItem& item);
     // The item that the menu bar knows by this id; null for an id of a menu that is no more.
     toolkit::MenuItem* Find(int id) const;
@@ -35,6 +36,7 @@ class FormMenus {
         HMENU menu;
     };
     using Places = std::map<int, Place>;
+    void Replace(HWND window);
     int NextId() const;
     void Insert(HMENU menu, toolkit::MenuItem& item, Places& places) const;
     void Fill(HMENU menu, const toolkit::MenuItem& parent, Places& places) const;
@@ -43,6 +45,7 @@ class FormMenus {
     toolkit::Form& form_;
     Places places_;
     bool changed_ = false;
+    bool barChanged_ = false;  // only in what its items say
     mutable int lastId_ = 0;
 };
 

@@ -114,8 +114,17 @@ void FormWindow::SystemColorsChanged(UINT message, WPARAM wParam, LPARAM lParam)
 
 void FormWindow::RebuildMenus() {
     menus_.Rebuild();
-    // For message loops that are not the toolkit's own (message boxes, menus). Texts and states
-    // change many at a time.
+    FlushMenusLater();
+}
+
+void FormWindow::UpdateMenuItem(MenuItem& item) {
+    menus_.Update(handle(), item);
+    FlushMenusLater();
+}
+
+// For message loops that are not the toolkit's own (message boxes, menus). Texts and states change
+// many at a time.
+void FormWindow::FlushMenusLater() {
     if (handle() != nullptr && !std::exchange(menusPosted_, true))
         PostMessageW(handle(), kMenusChanged, 0, 0);
 }

@@ -51,7 +51,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     void TakeFocus() override;
     // MenuPeer
     void RebuildMenus() override;
-    void UpdateMenuItem(toolkit::MenuItem& item) override { menus_.Update(handle(), item); }
+    void UpdateMenuItem(toolkit::MenuItem& item) override;
     void PopUp(toolkit::MenuItem& item, const toolkit::Rect* below) override;
     // FormPeer
     toolkit::Size ClientSize() override;
@@ -75,6 +75,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
+    void FlushMenusLater();
     struct ModalRun {
         FormsBlocked* blocked;
         bool ended = false;
