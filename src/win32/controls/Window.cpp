@@ -27,7 +27,8 @@ struct Known {
 };
 
 std::unordered_map<HWND, Known>& KnownWindows() {
-    static std::unordered_map<HWND, Known> known;
+    // Never destroyed: windows may still get messages while the program's other statics go.
+    static auto& known = *new std::unordered_map<HWND, Known>;
     return known;
 }
 
