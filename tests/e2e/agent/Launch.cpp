@@ -9,8 +9,8 @@
 //   status=PATH        where its process number and, in the end, its exit code are written
 //   set=NAME=VALUE     an environment variable (any number of these)
 //   unset=NAME         one that is to be absent (any number of these)
-// It ends with 0 after the program, with 1 when that could not be started (the status tells why), with
-// 2 when FILE could not be read.
+// It ends with 0 after the program, with 1 when that could not be started (the status tells why),
+// with 2 when FILE could not be read.
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif
