@@ -106,6 +106,14 @@ bool LoadInto(HANDLE process, const std::wstring& library) {
     return loaded != 0;
 }
 
+// The program does not run before the agent takes questions: two threads that both begin in a
+// process that has just begun itself are more than a test of the program should depend on.
+bool WaitForAgent(HANDLE process, HANDLE ready) {
+    constexpr DWORD kLongest = 30'000;  // milliseconds
+    const HANDLE either[] = {ready, process};
+    return WaitForMultipleObjects(2, either, FALSE, kLongest) == WAIT_OBJECT_0;
+}
+
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR commandLine, int) {
@@ -131,10 +139,18 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR commandLine, int) {
         return 1;
     }
     const std::wstring& agent = instructions["agent"];
-    if (!agent.empty() && !LoadInto(process.hProcess, agent)) {
-        AppendLine(status, "failed=agent " + std::to_string(GetLastError()));
-        TerminateProcess(process.hProcess, 1);
-        return 1;
+    if (!agent.empty()) {
+        const std::wstring name = L"ordalyn_e2e_" + std::to_wstring(process.dwProcessId);
+        HANDLE ready = CreateEventW(nullptr, TRUE, FALSE, name.c_str());
+        if (!LoadInto(process.hProcess, agent) || !WaitForAgent(process.hProcess, ready)) {
+            DWORD code = 0;
+            GetExitCodeProcess(process.hProcess, &code);
+            AppendLine(status, "failed=agent " + std::to_string(GetLastError()) +
+                                   ", the program has " + std::to_string(code));
+            TerminateProcess(process.hProcess, 1);
+            return 1;
+        }
+        CloseHandle(ready);
     }
     AppendLine(status, "process=" + std::to_string(process.dwProcessId));
     ResumeThread(process.hThread);

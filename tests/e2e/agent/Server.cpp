@@ -74,6 +74,15 @@ void WritePort(unsigned port) {
     MoveFileExW(unfinished.c_str(), path, MOVEFILE_REPLACE_EXISTING);
 }
 
+// To the launcher, which waits for it with the program.
+void TellReady() {
+    const std::wstring name = L"ordalyn_e2e_" + std::to_wstring(GetCurrentProcessId());
+    if (HANDLE ready = OpenEventW(EVENT_MODIFY_STATE, FALSE, name.c_str())) {
+        SetEvent(ready);
+        CloseHandle(ready);
+    }
+}
+
 }  // namespace
 
 void Serve() {
@@ -90,6 +99,7 @@ void Serve() {
         getsockname(listener, reinterpret_cast<sockaddr*>(&address), &length) != 0)
         return;
     WritePort(ntohs(address.sin_port));
+    TellReady();
     const Commands commands = AllCommands();
     for (;;) {
         const SOCKET connection = accept(listener, nullptr, nullptr);
