@@ -125,8 +125,8 @@ void FormWindow::UpdateMenuItem(MenuItem& item) {
 // For message loops that are not the toolkit's own (message boxes, menus). Texts and states change
 // many at a time.
 void FormWindow::FlushMenusLater() {
-    if (handle() != nullptr && !std::exchange(menusPosted_, true))
-        PostMessageW(handle(), kMenusChanged, 0, 0);
+    if (handle() != nullptr && !menusPosted_)
+        menusPosted_ = PostMessageW(handle(), kMenusChanged, 0, 0) != FALSE;
 }
 
 void FormWindow::PopUp(MenuItem& item, const Rect* below) {

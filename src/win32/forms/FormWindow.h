@@ -75,7 +75,6 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
-    void FlushMenusLater();
     struct ModalRun {
         FormsBlocked* blocked;
         bool ended = false;
@@ -89,6 +88,7 @@ class FormWindow : public Peer<toolkit::FormPeer>, public FormHost {
     static Birthplace BirthplaceOf(const Desktop& desktop);
     static const FormWindow* FormInFront(const Desktop& desktop);
     bool CanBeSeen() const;
+    void FlushMenusLater();
     // Dialogs and tool windows have none.
     void ShowIcons();
     // The form comes to a screen of another resolution; the controls follow with ShowRescaledAll.
