@@ -8,10 +8,13 @@ if command -v ccache >/dev/null; then
     export CCACHE_SLOPPINESS=pch_defines,time_macros
 fi
 
-# configure PRESET: only once for each build folder; CMake repeats it by itself when needed.
+# configure PRESET: only once for each build folder; CMake repeats it by itself when needed. With
+# ORDALYN_TOGETHER several files are compiled together in every preset, which takes half the time when all
+# of them have to be, and is no way to work on one of them.
 configure() {
     local preset=$1
-    [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+    [ -e "build/$preset/build.ninja" ] ||
+        cmake --preset "$preset" ${ORDALYN_TOGETHER:+-DCMAKE_UNITY_BUILD=ON} >"build-$preset.log" 2>&1 || {
         cat "build-$preset.log" >&2
         rm -f "build-$preset.log"
         return 1
