@@ -77,21 +77,22 @@ TEST(FormWindow, ManyChangesOfItsMenusAreWorkedOffAtOnce) {
     }
 }
 
+int layouts;  // of a form's frame
+
+LRESULT CALLBACK CountLayouts(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                              DWORD_PTR) {
+    layouts += message == WM_NCCALCSIZE ? 1 : 0;
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
 TEST(FormWindow, ABarThatSaysSomethingElseIsLaidOutOnce) {
     constexpr MenuDesign kBar[] = {{0, "mnuA", "A"}, {0, "mnuB", "B"}, {0, "mnuC", "C"}};
     const FormDesign design = {"frmBar", "", {4500, 3000}, {}, {}, kBar};
     Form form(TheToolkit(), design);
     form.Show();
     TheToolkit().DoEvents();
-    static int layouts;
     layouts = 0;
-    SetWindowSubclass(
-        HandleOf(form),
-        [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
-            layouts += message == WM_NCCALCSIZE ? 1 : 0;
-            return DefSubclassProc(window, message, wParam, lParam);
-        },
-        1, 0);
+    SetWindowSubclass(HandleOf(form), CountLayouts, 1, 0);
     for (const char* item : {"mnuA", "mnuB", "mnuC"})
         form.Menu(item).SetCaption("Something long");
     EXPECT_EQ(MenuText(GetMenu(HandleOf(form)), 2), L"Something long");
