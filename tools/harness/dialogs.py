@@ -196,8 +196,7 @@ class CalendarWindow(Dialog):
         for line in range(4, 24):
             for column in range(7):
                 x, y = int(left + column * pitch), int(top + line * pitch / 2)
-                self.app.mouse(("move", x, y))
-                self.app.settle()
+                self.app.point_at(x, y)
                 if self.day.startswith(words):
                     return
         raise AssertionError(f"no square says {words!r}")
