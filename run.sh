@@ -6,6 +6,11 @@
 # With a display the window opens there, and the script waits for its end. Without one the window
 # opens on a display of its own; a picture of it is written to build/ordalyn.png.
 set -euo pipefail
+# Wine's programs need one page at a fixed address, on which the kernel puts their heap once in some
+# thousand starts when it puts it anywhere. Where that cannot be forbidden it is left to chance.
+if [ -z "${ORDALYN_IN_PLACE:-}" ] && setarch -R true 2>/dev/null; then
+    ORDALYN_IN_PLACE=yes exec setarch -R "$BASH" "$0" "$@"
+fi
 readonly CALLED_FROM=$PWD
 cd "$(dirname "$0")"
 tools/setup.sh build run

@@ -21,7 +21,7 @@ class App:
         """`launcher` is the process that starts the program and waits for its end."""
         self.wine = wine
         self._folder = run_folder
-        self._launcher = launcher
+        self.launcher = launcher
         try:
             wait_until(lambda: self._port_file.exists() or self._launcher_has_ended,
                        "the program to start", timeout=60)
@@ -34,7 +34,7 @@ class App:
 
     @property
     def _launcher_has_ended(self):
-        return self._launcher.poll() is not None
+        return self.launcher.poll() is not None
 
     @property
     def output(self):

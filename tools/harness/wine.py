@@ -7,6 +7,7 @@ import shutil
 import subprocess
 import tempfile
 
+from .addresses import keep_memory_in_place
 from .waiting import wait_until
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
@@ -27,6 +28,7 @@ class Wine:
     """
 
     def __init__(self, display):
+        keep_memory_in_place()
         self.display = display
         self.folder, self._lock = self._take_prefix()
         self._resident = None

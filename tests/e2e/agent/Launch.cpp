@@ -106,8 +106,8 @@ bool LoadInto(HANDLE process, const std::wstring& library) {
     return loaded != 0;
 }
 
-// The program does not run before the agent takes questions: two threads that both begin in a
-// process that has just begun itself are more than a test of the program should depend on.
+// The program does not run before the agent takes questions: tests see all of it, and of one that
+// is gone by then they learn how it ended.
 bool WaitForAgent(HANDLE process, HANDLE ready) {
     constexpr DWORD kLongest = 30'000;  // milliseconds
     const HANDLE either[] = {ready, process};
